@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+/// The desktop the program runs on: its panels and its description of the host.
+class DesktopPort
+{
+public:
+    virtual ~DesktopPort() = default;
+
+    /// A shell command line that opens the desktop's add-printer panel and returns at once.
+    virtual QString addPrinterCommandLine() = 0;
+
+    /// A shell command line that opens the desktop's Wi-Fi or privacy settings and returns at once.
+    virtual QString privacySettingsCommandLine() = 0;
+
+    /// The host's description: lines of a key, a colon and a value. Empty when the host has none to give.
+    virtual QString hostReport() = 0;
+
+    /// The operating system's version as people say it.
+    virtual QString operatingSystemVersion() = 0;
+};

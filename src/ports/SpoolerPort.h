@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <optional>
+#include <vector>
+
+/// One print queue as the spooler lists it.
+struct PrintDestination {
+    QByteArray name;
+    std::optional<QByteArray> printerState; ///< The option "printer-state" (RFC 8011, 5.4.11): "3" idle, "4" processing.
+};
+
+/// The host's print spooler.
+class SpoolerPort
+{
+public:
+    virtual ~SpoolerPort() = default;
+
+    /// All destinations in the spooler's order; none when no spooler answers. Blocks for as long as the spooler takes.
+    virtual std::vector<PrintDestination> destinations() = 0;
+};

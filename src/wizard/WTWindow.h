@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QMainWindow>
+
+class WTView;
+
+/// The wizard's one window; its content is exactly one screen.
+class WTWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit WTWindow(QWidget *parent = nullptr);
+
+    WTView *contentView() const { return m_contentView; }
+    /// `viewWillMoveToSuperview`, the swap, `viewDidMoveToWindow`, in this order and before it returns.
+    void setContentView(WTView *view);
+
+    /// Ignored: closing never releases the main window.
+    void setReleasedWhenClosed(bool released);
+
+    WTView *welcomeView = nullptr;     ///< Set by the layout, read by nothing.
+    WTView *autoInstallView = nullptr; ///< Set by the layout, read by nothing.
+
+Q_SIGNALS:
+    /// The close button was pressed; closing itself is refused.
+    void closeRequested();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    WTView *m_contentView = nullptr;
+};

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "WTCDevice.h"
+
+#include <QStringList>
+#include <memory>
+#include <vector>
+
+class TimePort;
+class UsbPort;
+
+/// Receives the search service's reports.
+class WTCServerDelegate
+{
+public:
+    virtual ~WTCServerDelegate() = default;
+    /// The complete current list, whenever it changes; on the library's watch thread.
+    virtual void refreshUSBPrinterList(const std::vector<WTCDevice> &devices) = 0;
+};
+
+/// The communication library: its settings and its USB search service. One per process.
+class WTCServer
+{
+public:
+    /// The machine the library works on. Once, before anything else; both outlive the library.
+    static void usePorts(UsbPort &usb, TimePort &time);
+
+    static WTCServer &sharedWithDelegate(WTCServerDelegate *delegate, int logLevel, const QString &logFilePath,
+                                         const QString &cfgPath, const QString &modulePath);
+    static WTCServer &shared();
+
+    /// Vendor IDs as text in the form "0x6A1B". Reports the list once soon after and then on every change.
+    void registerUSBSearchServiceWithVIDs(const QStringList &vendorIDs);
+    void removeUSBSearchService();
+
+    UsbPort &usb() const;
+    TimePort &time() const;
+    /// The vendor IDs of the last registration, also after the search has ended.
+    std::vector<quint16> vendorIDs() const;
+
+private:
+    WTCServer();
+    struct State;
+    std::unique_ptr<State> m_state;
+};

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "UsbPort.h"
+
+#include <QByteArray>
+#include <functional>
+#include <optional>
+
+/// Bytes of an ACL reply header.
+inline constexpr quint8 kACLHeadSize = 16;
+
+/// Codes of the domain "WTCOM".
+enum class WTCErrorCode : int {
+    Unreachable = 31, ///< The printer is absent, held, not permitted, or gone; the message names which.
+    TimedOut = 32,
+    TransferFailed = 33,
+};
+
+inline constexpr QLatin1StringView wtcErrorDomain{"WTCOM"};
+
+/// Sends command frames to a USB printer.
+class WTCUSBPrinter
+{
+public:
+    /// Called once with the reply header: whole, in part (as it came before the failure), or absent. Worker thread.
+    /// Write how many data bytes to read (0 on entry), or set `stop` to read none.
+    using HeadCallback = std::function<void(const std::optional<QByteArray> &header, quint32 *dataLength, bool *stop)>;
+
+    /// Called exactly once per send, after the head callback, on the worker thread, also after a stop, a time-out or a
+    /// failure. A data length of 0 gives absent data.
+    using DataCallback = std::function<void(const std::optional<QByteArray> &data, const std::optional<WTError> &error)>;
+
+    /// Finds the printer by its URI, sends `data`, reads exactly `headSize` bytes of header and then the data, in
+    /// whatever slices they come. Returns at once; everything happens on a worker thread of this send.
+    /// @param timeout milliseconds for the whole exchange.
+    static void IOKit_sendACLWithURI(const QString &URI, const QByteArray &data, quint8 headSize, int timeout,
+                                     HeadCallback headCallback, DataCallback dataCallback);
+};
