@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+/// The network side of a printer. No flow fills it yet.
+struct WTNetwork {
+    QString printerName;
+    QString printerURI;
+    QString IPv4;
+    QString IPv6;
+};

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <optional>
+
+/// The USB side of a printer. Filled by the manager, then used by one thread at a time: `URI` and `UUID` are made on
+/// first read.
+class WTUSB
+{
+public:
+    /// Called with what a printer sends unasked. Reserved.
+    using ReceiveCallback = std::function<void(const QByteArray &data)>;
+
+    /// The stored URI, the device's own in discovery. When none is stored it is made from manufacturer, printer name
+    /// and serial number, "usb://M/N?serial=S" percent-encoded as an URL query, and kept.
+    QString URI() const;
+    void setURI(const QString &uri);
+
+    /// A UUID text derived from the serial number, made on first read and kept; absent without a usable serial number.
+    std::optional<QString> UUID() const;
+
+    /// Upper-case hexadecimal digits, most significant first, without leading zeros; "0" for 0.
+    static QString ToHex(quint16 value);
+
+    bool WiFiCapability = false;        ///< Reserved.
+    quint32 locationID = 0;             ///< Bus and port path; identifies the device in the log.
+    qint32 resetNum = 50;               ///< Reserved.
+    quint64 PID = 0;                    ///< Product ID, 16 bits.
+    quint64 VID = 0;                    ///< Vendor ID, 16 bits.
+    std::optional<QString> printerName; ///< The device's printer type as it was reported.
+    std::optional<QString> serialNumber;
+    std::optional<QString> manufacturer;
+    std::optional<QString> DeviceID_1284; ///< Reserved.
+    ReceiveCallback receiveCallback;      ///< Reserved.
+
+private:
+    mutable std::optional<QString> m_uri;
+    mutable std::optional<QString> m_uuid;
+};
