@@ -1,0 +1,22 @@
+#pragma once
+
+#include <memory>
+
+class WTStartView;
+class WTWindow;
+
+/// Makes the window and all screens, and wires every outlet. Main thread.
+class WizardScreens
+{
+public:
+    WizardScreens();
+    ~WizardScreens();
+
+    WTWindow &window() { return *m_window; }
+    /// Makes the start screen the window's content and shows the window.
+    void show();
+
+private:
+    std::unique_ptr<WTWindow> m_window;
+    WTStartView *m_startView;
+};

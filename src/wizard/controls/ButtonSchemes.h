@@ -1,0 +1,21 @@
+#pragma once
+
+class WTButton;
+
+/// The looks that the screens give their buttons. Each ends with the button's `awakeFromNib`.
+namespace ButtonSchemes
+{
+
+/// The main action: white on red.
+void applyRed(WTButton &button);
+/// The way back: red border and title on white, an arrow in front.
+void applyBack(WTButton &button);
+/// The information-page button: blue border and title on white.
+void applyBlue(WTButton &button);
+/// A check box: no border, its picture left of its title.
+void applyCheckBox(WTButton &button);
+
+/// Shows a check box as checked or not, to eyes and to screen readers.
+void showChecked(WTButton &checkBox, bool checked);
+
+} // namespace ButtonSchemes

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QColor>
+#include <QWidget>
+
+class QLabel;
+
+/// The frame around one text field: label above, the field in a white box with a coloured border, a line below for help
+/// or an error.
+class FieldFrame : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Takes the field over as its child and gives it the label as accessible name.
+    FieldFrame(const QString &label, QWidget *field, QWidget *parent = nullptr);
+
+    /// `Palette::frame` at rest, `Palette::focusBlue` with the keyboard.
+    QColor borderColor() const { return m_borderColor; }
+    void setBorderColor(const QColor &color);
+
+    /// Quiet text below the field; empty hides it.
+    void setHelp(const QString &text);
+    /// Red text in the same place, announced to screen readers; empty brings the help back.
+    void setError(const QString &text);
+    /// One more line of the caller's below the box.
+    void addBelow(QWidget *widget);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void showNote();
+
+    QLabel *m_label;
+    QLabel *m_note;
+    QWidget *m_field;
+    QString m_help;
+    QString m_error;
+    QColor m_borderColor;
+};

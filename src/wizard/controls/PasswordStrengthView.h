@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QWidget>
+
+class KSPasswordField;
+class QLabel;
+class StrengthMeter;
+
+/// The line below a password field: a strength meter, its word, and a warning while caps lock is on. Follows the field.
+class PasswordStrengthView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PasswordStrengthView(KSPasswordField *field, QWidget *parent = nullptr);
+
+    QString word() const;
+
+private:
+    void update();
+
+    KSPasswordField *m_field;
+    StrengthMeter *m_meter;
+    QLabel *m_word;
+    QLabel *m_capsLock;
+};

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QWidget>
+
+class QAbstractButton;
+class QHBoxLayout;
+class QLabel;
+class QVBoxLayout;
+class WTView;
+
+/// The four steps that the marks at the top of every screen show.
+enum class WizardStep { Connect, Network, SetUp, Done };
+
+/// What every screen has: step marks, heading, instruction, a content area, and the bar with the way back on the left
+/// and the main action on the right. It fills its screen. Enter is the main action, Escape the way back.
+///
+///     auto *frame = new ScreenFrame(this, WizardStep::Network);
+///     frame->setHeading(localized(u"..."_s));
+///     frame->content()->addWidget(list);
+///     frame->setBackButton(m_previous);
+///     frame->setMainButton(m_next);
+class ScreenFrame : public QWidget
+{
+    Q_OBJECT
+
+public:
+    ScreenFrame(WTView *screen, WizardStep step);
+
+    /// One short sentence; also the screen's accessible name.
+    void setHeading(const QString &text);
+    /// One or two lines of what to do.
+    void setInstruction(const QString &text);
+    QString heading() const;
+
+    /// Where the screen's own widgets go, from the top; add a stretch for what is left over.
+    QVBoxLayout *content() const { return m_content; }
+
+    /// The frame takes the button over.
+    void setBackButton(QAbstractButton *button);
+    void setMainButton(QAbstractButton *button);
+    /// A second, quieter widget of the bar, left of the main button (a check box, a side action).
+    void addToBar(QWidget *widget);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    WTView *m_screen;
+    QLabel *m_heading;
+    QLabel *m_instruction;
+    QVBoxLayout *m_content;
+    QHBoxLayout *m_bar;
+    QAbstractButton *m_back = nullptr;
+    QAbstractButton *m_main = nullptr;
+};

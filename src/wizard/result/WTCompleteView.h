@@ -1,0 +1,28 @@
+#pragma once
+
+#include "WTView.h"
+
+class QLabel;
+class WTButton;
+
+/// The printer is on the network. Offers to open the desktop's add-printer panel, then ends the application.
+class WTCompleteView : public WTView
+{
+    Q_OBJECT
+
+public:
+    explicit WTCompleteView(QWidget *parent = nullptr);
+
+    void awakeFromNib() override;
+
+    bool isSelectFlag() const { return m_isSelectFlag; }
+
+    void addPrinterNow();
+    void over();
+
+private:
+    QLabel *m_title;
+    WTButton *m_addPrinter;
+    WTButton *m_complateBtn;
+    bool m_isSelectFlag = false;
+};

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "WTView.h"
+
+class ResultPanel;
+class WTButton;
+
+/// The run failed for a reason that it names. Its only way on ends the application.
+class WTFailedView : public WTView
+{
+    Q_OBJECT
+
+public:
+    explicit WTFailedView(QWidget *parent = nullptr);
+
+    void awakeFromNib() override;
+    void viewDidApear() override;
+
+    /// What the run tells before it pushes this screen; kept until it is told anew.
+    void setShowInterfaceError(bool show) { m_showInterfaceError = show; }
+    bool showInterfaceError() const { return m_showInterfaceError; }
+    void setShowWiFiCapabilityError(bool show) { m_showWiFiCapabilityError = show; }
+    bool showWiFiCapabilityError() const { return m_showWiFiCapabilityError; }
+    void setWifiCapabilityError(quint64 code) { m_wifiCapabilityError = code; }
+    quint64 wifiCapabilityError() const { return m_wifiCapabilityError; }
+
+    /// Shows the text that the three values above choose.
+    void ff_judgeError();
+    void backAction();
+
+private:
+    ResultPanel *m_panel;
+    WTButton *m_complateBtn;
+    bool m_showInterfaceError = false;
+    bool m_showWiFiCapabilityError = false;
+    quint64 m_wifiCapabilityError = 0;
+};
