@@ -1,0 +1,86 @@
+#pragma once
+
+#include "HostCapabilities.h"
+#include "HostWiFiPort.h"
+
+#include <QMap>
+#include <QString>
+#include <optional>
+
+class DesktopPort;
+
+/// The process-wide application state: what the program knows of itself, of its host and of the host's own wireless
+/// connection, and the interface language. One instance, made on first use. All on the main thread.
+class WTApp
+{
+public:
+    using DeviceInfo = QMap<QString, QString>;
+
+    /// The machine the program runs on. Once, before the first use of `shared()`; both ports outlive the program.
+    static void usePorts(HostWiFiPort &hostWiFi, DesktopPort &desktop, const HostCapabilities &capabilities);
+    static WTApp &shared();
+    WTApp(const WTApp &) = delete;
+    WTApp &operator=(const WTApp &) = delete;
+
+    DesktopPort &desktop() const;
+    const HostCapabilities &capabilities() const;
+
+    // -- information --------------------------------------------------------------------------------------------
+    /// The host report's "System Version", else the operating system's own name for it. Asked once.
+    QString systemVersion();
+    /// Nothing computes it: always absent.
+    std::optional<QString> systemLanguage() const;
+    /// The host report by key. A line counts when it has exactly one colon and something behind it; of two lines with
+    /// the same key the first one counts. Asked once.
+    const DeviceInfo &deviceInfo();
+    std::optional<QString> appBundleName() const;
+    std::optional<QString> appBundleID() const;
+    std::optional<QString> appVersion() const;
+    std::optional<QString> appBuildVersion() const;
+    /// "version (build version)".
+    QString appFullVersion() const;
+
+    // -- language -----------------------------------------------------------------------------------------------
+    /// The interface language's code; the first read decides it and attaches the language's texts. Where no folder has
+    /// exactly that name the texts are English while the code stays what was decided.
+    std::optional<QString> appLanguage();
+    /// Attaches the language's texts; afterwards absent when there are none. Absent and empty codes change nothing.
+    void setAppLanguage(const std::optional<QString> &code);
+    /// The decision alone: the host's language if the resource folder has an entry that begins with it, else "en".
+    QString currentLocale() const;
+
+    // -- the host's wireless connection -------------------------------------------------------------------------
+    std::optional<HostWiFiState> currentInterface; ///< As of the last refresh; absent without an interface.
+    bool isMacEthernetConnected = false;           ///< Reserved.
+    bool isMacWiFiConnected = false;               ///< The radio is on and joined to a network with a name.
+    bool powerOnWifi = false;                      ///< The radio.
+    bool isWirelessAP = false;                     ///< Reserved.
+    qint32 channelWifi = 0;                        ///< Band: 0 unknown, 1 the 2.4 GHz band, 2 the 5 GHz band.
+    qint64 secureWifi = 0;                         ///< The current network's security, platform numbering.
+    std::optional<QString> selectedSSID;           ///< The network to configure; a refresh makes it the current one.
+    qint64 selectedAuthMode = 0;                   ///< Its security, platform numbering.
+    std::optional<QString> selectedPassword;       ///< Kept by a refresh: it may belong to an earlier selection.
+    qint64 selectedRssi = 0;                       ///< The current network's quality in per cent.
+
+    /// Reads all of the above from the host, except the reserved ones and the password. Where the host names no default
+    /// interface and has no interface at all, nothing changes.
+    void checkPcNetState();
+
+    /// Signal quality in per cent from `rssi` in dBm.
+    static qint64 _qualityStringWithRSSI(qint64 rssi);
+    /// 0 open, 1 WEP, 2 WPA of any kind, 6 unknown, from the platform's numbering.
+    static qint64 intNumberForSecurityMode(quint64 mode);
+
+    // -- start and end ------------------------------------------------------------------------------------------
+    /// Logs the host's and the program's version and the interface language.
+    static void wt_systemLog();
+    /// Logs the farewell and ends the event loop with exit status 0.
+    static void wt_exitApp();
+
+private:
+    WTApp() = default;
+
+    std::optional<QString> m_systemVersion;
+    std::optional<DeviceInfo> m_deviceInfo;
+    std::optional<QString> m_appLanguage;
+};
