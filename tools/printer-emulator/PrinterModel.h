@@ -1,0 +1,102 @@
+#pragma once
+
+#include "FrameReader.h"
+#include "ModelIdentity.h"
+#include "PrinterScript.h"
+#include "ReceivedFrame.h"
+
+#include <QByteArrayView>
+#include <chrono>
+#include <deque>
+#include <map>
+#include <optional>
+#include <vector>
+
+/// What the printer was told so far.
+struct PrinterRecord {
+    std::vector<ReceivedFrame> frames;     ///< In order of arrival; frames that were cut off are among them.
+    std::map<quint16, int> counts;         ///< Attempts per command code, also those that a fault cut short.
+    std::optional<QByteArray> networkName; ///< Of the last sound configuration frame.
+    std::optional<QByteArray> password;
+
+    int count(quint16 command) const;
+    /// All commands of the sound frames, in order.
+    std::vector<quint16> commands() const;
+    bool allSound() const;
+};
+
+/// One transfer that the printer has to say.
+struct InTransfer {
+    enum class Kind {
+        Data,  ///< `bytes`, ended by a short or a zero-length packet.
+        Stall, ///< The endpoint halts.
+        Unplug ///< The printer leaves the bus.
+    };
+    Kind kind = Kind::Data;
+    QByteArray bytes;
+    /// After the transfer before it; for the first one, after the frame arrived.
+    std::chrono::milliseconds delay{0};
+};
+
+/// How the printer takes the next bytes of an OUT transfer.
+struct OutPlan {
+    enum class After {
+        Complete, ///< The transfer succeeds.
+        Stall,    ///< The endpoint halts.
+        Nak,      ///< The rest is never taken.
+        Unplug    ///< The printer leaves the bus.
+    };
+    qsizetype accept = 0; ///< Bytes to take, from the start of the chunk.
+    After after = After::Complete;
+    std::chrono::milliseconds delay{0}; ///< Before the first of them is taken.
+};
+
+/// The consequences of received bytes.
+struct PrinterAnswer {
+    std::vector<InTransfer> transfers;
+    std::vector<BusEvent> events;      ///< Due now, each after its own delay.
+    std::vector<ReceivedFrame> frames; ///< The frames that these bytes completed.
+};
+
+/// The printer without its cable: bytes in, scripted replies out. It checks every frame byte by byte, keeps what it was
+/// told, and answers only sound frames. It knows no USB and no thread; its face guards it by one lock and asks in the
+/// order `plan` (once per OUT transfer), `accept` (with what the plan let through).
+class PrinterModel
+{
+public:
+    using Instant = std::chrono::steady_clock::time_point;
+
+    explicit PrinterModel(ModelIdentity identity = {}, PrinterScript script = {});
+
+    const ModelIdentity &identity() const { return m_identity; }
+    const PrinterScript &script() const { return m_script; }
+    /// From the next frame on. The record and the network stay.
+    void setScript(PrinterScript script);
+
+    OutPlan plan(QByteArrayView chunk);
+    PrinterAnswer accept(QByteArrayView bytes, Instant now);
+    /// The host let go of the interface, or the plug was pulled: an unfinished frame is cut off. Returns it.
+    std::optional<ReceivedFrame> endExchange();
+
+    const PrinterRecord &record() const { return m_record; }
+
+private:
+    /// The frame under way, as soon as its command code is known.
+    struct Attempt {
+        quint16 command = 0;
+        int occurrence = 0;
+        PrinterFault fault;
+    };
+
+    Attempt begin(quint16 command);
+    void obey(const ReceivedFrame &frame, Instant now);
+    void reply(const Attempt &attempt, Instant now, PrinterAnswer &answer) const;
+    bool hasAddress(Instant now) const;
+
+    ModelIdentity m_identity;
+    PrinterScript m_script;
+    FrameReader m_reader;
+    PrinterRecord m_record;
+    std::optional<Attempt> m_attempt;
+    std::optional<Instant> m_joined; ///< May lie ahead, while the printer is joining.
+};
