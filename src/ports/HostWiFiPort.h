@@ -1,7 +1,11 @@
 #pragma once
 
+#include "WTError.h"
+
 #include <QString>
+#include <functional>
 #include <optional>
+#include <vector>
 
 /// What the computer's own wireless interface says of itself at one moment.
 struct HostWiFiState {
@@ -11,14 +15,54 @@ struct HostWiFiState {
     std::optional<QString> ssid; ///< The network it is joined to.
     int rssi = 0;                ///< dBm; 0 when there is no network.
     qint64 security = 0;         ///< Platform numbering: 0 open, 1 WEP, 2 to 5 WPA personal, ...
+
+    bool operator==(const HostWiFiState &) const = default;
 };
 
-/// The computer's own Wi-Fi.
+/// One network that the computer sees.
+struct VisibleNetwork {
+    QString ssid;        ///< Readable text, also of a name that is no UTF-8.
+    qint64 security = 0; ///< The communication library's numbering: 0 other, 1 open, 2 WEP, ... 13 OWE.
+    qint64 quality = 0;  ///< Per cent.
+
+    bool operator==(const VisibleNetwork &) const = default;
+};
+
+/// May the program look for networks? The numbers are those of the location-permission service.
+enum class ScanPermission : int { NotDetermined = 0, Restricted = 1, Denied = 2, Allowed = 3, Unknown = 4 };
+
+/// Why a stored password could not be had. 0 is success.
+enum class SecretStatus : int {
+    Success = 0,
+    PermissionDenied = -25293,
+    PromptCancelled = -128,
+    NotStored = -25300,
+    Unavailable = -25291, ///< No service to ask, or it failed.
+};
+
+/// The computer's own Wi-Fi. All operations return at once and may be called on any thread; the callbacks come on the
+/// port's own thread.
 class HostWiFiPort
 {
 public:
+    using NetworksCallback = std::function<void(const WTResult<std::vector<VisibleNetwork>> &)>;
+    using SecretCallback = std::function<void(SecretStatus, const QString &password)>;
+
     virtual ~HostWiFiPort() = default;
 
-    /// The state as last heard from the host; never waits.
+    /// The state as last heard from the host.
     virtual HostWiFiState state() = 0;
+
+    /// Looks around and reports the visible networks, strongest first, then by name: one per name and security, hidden
+    /// ones left out. What is already known when the host will not look again within 10 s.
+    virtual void scan(NetworksCallback done) = 0;
+
+    /// The stored password of the network of this name. The host may ask its user first, which can take minutes.
+    virtual void storedPassword(const QString &ssid, SecretCallback done) = 0;
+
+    virtual ScanPermission scanPermission() = 0;
+
+    /// Calls `changed` once soon after (as soon as the permission is known) and then on every change. An empty function
+    /// ends the watch.
+    virtual void watchScanPermission(std::function<void()> changed) = 0;
 };

@@ -8,7 +8,8 @@
 /// One print queue as the spooler lists it.
 struct PrintDestination {
     QByteArray name;
-    std::optional<QByteArray> printerState; ///< The option "printer-state" (RFC 8011, 5.4.11): "3" idle, "4" processing.
+    std::optional<QByteArray>
+        printerState; ///< The option "printer-state" (RFC 8011, 5.4.11): "3" idle, "4" processing.
 };
 
 /// The host's print spooler.

@@ -19,8 +19,14 @@ template <typename Value>
 class [[nodiscard]] WTResult
 {
 public:
-    WTResult(Value value) : m_content(std::in_place_index<0>, std::move(value)) {}
-    WTResult(WTError error) : m_content(std::in_place_index<1>, std::move(error)) {}
+    WTResult(Value value)
+        : m_content(std::in_place_index<0>, std::move(value))
+    {
+    }
+    WTResult(WTError error)
+        : m_content(std::in_place_index<1>, std::move(error))
+    {
+    }
 
     explicit operator bool() const { return m_content.index() == 0; }
     Value &value() { return std::get<0>(m_content); }

@@ -1,0 +1,243 @@
+#include "NetworkManagerWiFi.h"
+#include "GlibPointer.h"
+
+#include "NetworkScan.h"
+#include "NetworkSecret.h"
+#include "NetworkThread.h"
+#include "WirelessDevice.h"
+
+#include <future>
+#include <mutex>
+#include <utility>
+
+namespace
+{
+
+const QString errorDomain = QStringLiteral("NetworkManager");
+
+WTError noDevice()
+{
+    return {errorDomain, 1,
+            QStringLiteral("no networks: NetworkManager is not running or this computer has no wireless device")};
+}
+
+WTError radioOff(const QString &interface)
+{
+    return {errorDomain, 2, QStringLiteral("no networks: the radio of %1 is off; switch Wi-Fi on").arg(interface)};
+}
+
+ScanPermission permissionOf(NMClient *client)
+{
+    if (!client || !nm_client_get_nm_running(client))
+        return ScanPermission::Unknown;
+    if (nm_client_get_permissions_state(client) != NM_TERNARY_TRUE)
+        return ScanPermission::NotDetermined;
+    switch (nm_client_get_permission_result(client, NM_CLIENT_PERMISSION_WIFI_SCAN)) {
+    case NM_CLIENT_PERMISSION_RESULT_YES:
+        return ScanPermission::Allowed;
+    case NM_CLIENT_PERMISSION_RESULT_NO:
+        return ScanPermission::Denied;
+    case NM_CLIENT_PERMISSION_RESULT_AUTH: // The scan itself asks the user.
+    case NM_CLIENT_PERMISSION_RESULT_UNKNOWN:
+        return ScanPermission::Unknown;
+    }
+    return ScanPermission::Unknown;
+}
+
+} // namespace
+
+struct NetworkManagerWiFi::State {
+    explicit State(TimePort &timePort)
+        : time(timePort)
+    {
+    }
+
+    static void clientMade(GObject *, GAsyncResult *result, gpointer cancellable);
+    static void hostChanged(State *state) { state->refresh(); }
+    static void permissionChanged(State *state) { state->refreshPermission(); }
+
+    void connectToHost();
+    void disconnectFromHost();
+    void watchClient();
+    void watchDevice(NMDeviceWifi *device);
+    void refresh();
+    void refreshPermission();
+
+    TimePort &time;
+
+    // Written by the network thread, read by any.
+    std::mutex mutex;
+    HostWiFiState host;
+    ScanPermission permission = ScanPermission::NotDetermined;
+    std::function<void()> permissionWatcher;
+
+    // The network thread's own.
+    GObjectPointer<GCancellable> connecting;
+    bool connected = false; ///< The first answer, good or bad, is in.
+    GObjectPointer<NMClient> client;
+    GObjectPointer<NMDeviceWifi> device;
+    GObjectPointer<NMAccessPoint> accessPoint;
+    std::vector<SignalConnection> clientSignals;
+    SignalConnection deviceSignal;
+    SignalConnection accessPointSignal;
+
+    NetworkThread thread; ///< Last, so that it ends first.
+};
+
+namespace
+{
+
+/// What the asynchronous creation of the client comes back to: nothing, when it was cancelled meanwhile.
+struct ClientRequest {
+    GObjectPointer<GCancellable> cancellable;
+    void *state;
+};
+
+} // namespace
+
+void NetworkManagerWiFi::State::connectToHost()
+{
+    connecting.reset(g_cancellable_new());
+    nm_client_new_async(connecting.get(), &State::clientMade, new ClientRequest{shareObject(connecting.get()), this});
+}
+
+void NetworkManagerWiFi::State::clientMade(GObject *, GAsyncResult *result, gpointer data)
+{
+    const std::unique_ptr<ClientRequest> request(static_cast<ClientRequest *>(data));
+    GError *failure = nullptr;
+    GObjectPointer<NMClient> made(nm_client_new_finish(result, &failure));
+    const GlibPointer<GError> error(failure);
+    if (g_cancellable_is_cancelled(request->cancellable.get()))
+        return;
+    auto *state = static_cast<State *>(request->state);
+    state->client = std::move(made);
+    state->connected = true;
+    if (state->client)
+        state->watchClient();
+    state->refresh();
+    state->refreshPermission();
+}
+
+void NetworkManagerWiFi::State::disconnectFromHost()
+{
+    if (connecting)
+        g_cancellable_cancel(connecting.get());
+    accessPointSignal = {};
+    deviceSignal = {};
+    clientSignals.clear();
+    accessPoint.reset();
+    device.reset();
+    client.reset();
+}
+
+void NetworkManagerWiFi::State::watchClient()
+{
+    for (const char *signal : {"notify", NM_CLIENT_DEVICE_ADDED, NM_CLIENT_DEVICE_REMOVED})
+        clientSignals.emplace_back(client.get(), signal, G_CALLBACK(&State::hostChanged), this);
+    for (const char *signal : {"permission-changed", "notify::" NM_CLIENT_PERMISSIONS_STATE, "notify::nm-running"})
+        clientSignals.emplace_back(client.get(), signal, G_CALLBACK(&State::permissionChanged), this);
+}
+
+void NetworkManagerWiFi::State::watchDevice(NMDeviceWifi *current)
+{
+    if (current != device.get()) {
+        deviceSignal = {};
+        device = shareObject(current);
+        if (current)
+            deviceSignal = SignalConnection(current, "notify", G_CALLBACK(&State::hostChanged), this);
+    }
+    NMAccessPoint *joined = current ? nm_device_wifi_get_active_access_point(current) : nullptr;
+    if (joined != accessPoint.get()) {
+        accessPointSignal = {};
+        accessPoint = shareObject(joined);
+        if (joined)
+            accessPointSignal = SignalConnection(joined, "notify", G_CALLBACK(&State::hostChanged), this);
+    }
+}
+
+void NetworkManagerWiFi::State::refresh()
+{
+    NMDeviceWifi *current =
+        client && nm_client_get_nm_running(client.get()) ? defaultWirelessDevice(client.get()) : nullptr;
+    watchDevice(current);
+    HostWiFiState seen = current ? wirelessState(client.get(), current) : HostWiFiState{};
+    const std::lock_guard lock(mutex);
+    host = std::move(seen);
+}
+
+void NetworkManagerWiFi::State::refreshPermission()
+{
+    const ScanPermission seen = permissionOf(client.get());
+    std::function<void()> watcher;
+    {
+        const std::lock_guard lock(mutex);
+        permission = seen;
+        watcher = permissionWatcher;
+    }
+    if (watcher && seen != ScanPermission::NotDetermined)
+        watcher();
+}
+
+NetworkManagerWiFi::NetworkManagerWiFi(TimePort &time)
+    : m_state(std::make_unique<State>(time))
+{
+    m_state->thread.post([state = m_state.get()] { state->connectToHost(); });
+}
+
+NetworkManagerWiFi::~NetworkManagerWiFi()
+{
+    std::promise<void> disconnected;
+    m_state->thread.post([&] {
+        m_state->disconnectFromHost();
+        disconnected.set_value();
+    });
+    disconnected.get_future().wait();
+}
+
+HostWiFiState NetworkManagerWiFi::state()
+{
+    const std::lock_guard lock(m_state->mutex);
+    return m_state->host;
+}
+
+void NetworkManagerWiFi::scan(NetworksCallback done)
+{
+    m_state->thread.post([state = m_state.get(), done = std::move(done)] {
+        const HostWiFiState host =
+            state->client && state->device ? wirelessState(state->client.get(), state->device.get()) : HostWiFiState{};
+        if (host.interfaceName.isEmpty())
+            done(noDevice());
+        else if (!host.poweredOn)
+            done(radioOff(host.interfaceName));
+        else
+            startNetworkScan(state->device.get(), state->thread, state->time, done);
+    });
+}
+
+void NetworkManagerWiFi::storedPassword(const QString &ssid, SecretCallback done)
+{
+    m_state->thread.post([state = m_state.get(), ssid, done = std::move(done)] {
+        if (!state->client || !nm_client_get_nm_running(state->client.get()))
+            done(SecretStatus::Unavailable, {});
+        else
+            requestNetworkSecret(state->client.get(), state->device.get(), ssid, done);
+    });
+}
+
+ScanPermission NetworkManagerWiFi::scanPermission()
+{
+    const std::lock_guard lock(m_state->mutex);
+    return m_state->permission;
+}
+
+void NetworkManagerWiFi::watchScanPermission(std::function<void()> changed)
+{
+    {
+        const std::lock_guard lock(m_state->mutex);
+        m_state->permissionWatcher = std::move(changed);
+    }
+    m_state->thread.post([state = m_state.get()] {
+        if (state->connected)
+            state->refreshPermission();
+    });
+}

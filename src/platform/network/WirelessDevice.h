@@ -1,0 +1,21 @@
+#pragma once
+
+#include "HostWiFiPort.h"
+
+#include <NetworkManager.h>
+
+#include <QString>
+
+/// Questions to libnm's objects. Network thread only; for .cpp files of this folder.
+
+/// The device that counts: the one of the primary connection, else a joined one, else the first. Null without one.
+NMDeviceWifi *defaultWirelessDevice(NMClient *client);
+
+/// A network's name as readable text, also when its bytes are no UTF-8; empty for a hidden network.
+QString readableName(GBytes *ssid);
+
+/// The state of that device.
+HostWiFiState wirelessState(NMClient *client, NMDeviceWifi *device);
+
+/// What the device sees now: one record per name and security with the best signal, strongest first, then by name.
+std::vector<VisibleNetwork> visibleNetworks(NMDeviceWifi *device);
