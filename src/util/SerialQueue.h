@@ -23,8 +23,8 @@ private:
 };
 
 /// Runs jobs one after the other, in the order they were given, on a thread of its own. All operations may be called on
-/// any thread. The destructor runs what is still queued and then ends the thread; a queue may be destroyed on itself, it
-/// then ends behind the running job.
+/// any thread. The destructor runs what is still queued and then ends the thread; a queue may be destroyed on itself,
+/// it then ends behind the running job.
 class SerialQueue
 {
 public:
@@ -42,6 +42,8 @@ public:
     /// Blocks until `job` has run. Must not be called on the queue itself.
     void sync(const Job &job);
     bool isCurrent() const;
+    /// Whether the queue's thread is the one with this system thread identifier (gettid).
+    bool runsOnThread(qint64 systemThread) const;
     /// The label of the queue the caller runs on, "main" on the main thread of the application, else empty.
     static QString currentLabel();
 
