@@ -363,7 +363,7 @@ public:
     {
         change([&](List &list) {
             const bool replaces = atIndexedSubscript < list.size();
-            ArrayOperations::replace(list, {atIndexedSubscript, replaces ? 1 : 0}, {object});
+            ArrayOperations::replace(list, ArrayRange{atIndexedSubscript, replaces ? 1 : 0}, List{object});
         });
     }
 
