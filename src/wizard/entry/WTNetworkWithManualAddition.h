@@ -1,0 +1,69 @@
+#pragma once
+
+#include "WTNetworkWithManualAdditionModel.h"
+#include "WTPrinter.h"
+#include "WTView.h"
+
+class FieldFrame;
+class KSPasswordField;
+class WTButton;
+class WTCustomTextFieldFromatter;
+class WTDefaultStyleBtn;
+class WTInstallingView;
+class WTTextfield;
+
+/// Name and password of a network, typed by hand: for a computer whose own Wi-Fi is off and so cannot list networks.
+/// Also lets the printer print its page of wireless-network information.
+class WTNetworkWithManualAddition : public WTView
+{
+    Q_OBJECT
+
+public:
+    explicit WTNetworkWithManualAddition(QWidget *parent = nullptr);
+
+    /// Set by the screen that pushes this one.
+    void setPrinter(const WTPrinterPtr &printer) { m_printer = printer; }
+    WTPrinterPtr printer() const { return m_printer; }
+    void setInstallingView(WTInstallingView *view) { m_installingView = view; }
+
+    void awakeFromNib() override;
+    void viewDidApear() override;
+
+    /// The last password that passed validation.
+    QString lastPwd() const { return m_model.lastPwd(); }
+
+    /// Styles the controls and connects them.
+    void ff_config();
+    void wt_resetShowPwdBtn();
+    /// Shows or hides the password, as the check box says.
+    void showPassword();
+    void controlDidBecomeFirstResponder(WTTextfield *field);
+    void controlTextDidChange(WTTextfield *field);
+    void controlTextDidEndEditing(WTTextfield *field);
+    void updateBtnNextStepState();
+    static bool isVailePassword(const QString &password);
+    /// Whether the printer's print queue is busy. Waits for the spooler.
+    static bool isWorkingWithPrintType(const QString &printType);
+    void showIsworkingAlert();
+    /// Prints the information page.
+    void printWiFiList();
+    /// Goes on to the configuration run.
+    void nextView();
+    void backPrevious();
+
+private:
+    void layOut();
+
+    WTNetworkWithManualAdditionModel m_model;
+    WTPrinterPtr m_printer;
+    WTInstallingView *m_installingView = nullptr;
+    WTTextfield *m_ssidTextField;
+    KSPasswordField *m_passwordTextField;
+    FieldFrame *m_ssidView;
+    FieldFrame *m_passwordView;
+    WTCustomTextFieldFromatter *m_pwdFormatter;
+    WTButton *m_showPwdBtn;
+    WTDefaultStyleBtn *m_nextBtn;
+    WTButton *m_previousBtn;
+    WTButton *m_printWiFiHomePage;
+};

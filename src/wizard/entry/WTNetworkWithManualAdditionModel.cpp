@@ -1,0 +1,73 @@
+#include "WTNetworkWithManualAdditionModel.h"
+
+#include "PrinterPassword.h"
+
+#include <QRegularExpression>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+/// The first `length` units of `text`; one less where the cut would go through a surrogate pair.
+QString cut(const QString &text, qsizetype length)
+{
+    if (text.size() <= length)
+        return text;
+    const bool splitsPair = text[length - 1].isHighSurrogate() && text[length].isLowSurrogate();
+    return text.first(splitsPair ? length - 1 : length);
+}
+
+} // namespace
+
+QString WTNetworkWithManualAdditionModel::cutName(const QString &name)
+{
+    return cut(name, maximumNameLength);
+}
+
+QString WTNetworkWithManualAdditionModel::cutPassword(const QString &password)
+{
+    return cut(password, maximumPasswordLength);
+}
+
+QString WTNetworkWithManualAdditionModel::passwordAfterTyping(const QString &typed)
+{
+    const QString password = cutPassword(typed);
+    if (isVailePassword(password))
+        m_lastPwd = password;
+    return m_lastPwd;
+}
+
+bool WTNetworkWithManualAdditionModel::isVailePassword(const QString &password)
+{
+    // \z and not $, which would let a line end pass behind the text.
+    static const QRegularExpression pattern(u"\\A[ -~¥€£•]{0,64}\\z"_s);
+    return pattern.match(password).hasMatch();
+}
+
+bool WTNetworkWithManualAdditionModel::isNameTooLong(const QString &name)
+{
+    return name.toUtf8().size() > maximumNameBytes;
+}
+
+bool WTNetworkWithManualAdditionModel::canGoNext(const QString &name)
+{
+    return !name.isEmpty() && !isNameTooLong(name);
+}
+
+WTNetworkWithManualAdditionModel::Next WTNetworkWithManualAdditionModel::next(const QString &name,
+                                                                              const QString &password)
+{
+    if (name.isEmpty())
+        return Next::EmptyName;
+    return PrinterPassword::isTooLong(cutPassword(password)) ? Next::PasswordTooLong : Next::Go;
+}
+
+WTWiFiPtr WTNetworkWithManualAdditionModel::network(const QString &name, const QString &password)
+{
+    auto wifi = std::make_shared<WTWiFi>();
+    wifi->SSID = name;
+    wifi->password = cutPassword(password);
+    wifi->security = 0;
+    return wifi;
+}

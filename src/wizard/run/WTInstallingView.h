@@ -1,0 +1,75 @@
+#pragma once
+
+#include "RunOutcome.h"
+#include "RunStep.h"
+#include "WTPrinter.h"
+#include "WTView.h"
+#include "WTWiFi.h"
+
+#include <optional>
+
+class QLabel;
+class WTCompleteView;
+class WTConfigFailedView;
+class WTConfigurationRun;
+class WTFailedView;
+class WTProgressView;
+
+/// Shows a configuration run: a bar, the step under way in words, and at the end the screen that the run names. Each
+/// appearance is a new run; there is no way back during one. The operations are the run's own, see
+/// `WTConfigurationRun`.
+class WTInstallingView : public WTView
+{
+    Q_OBJECT
+
+public:
+    explicit WTInstallingView(QWidget *parent = nullptr);
+
+    /// The three screens a run can end on. All are set before the first run.
+    void setCompleteView(WTCompleteView *view) { m_completeView = view; }
+    void setFailedView(WTFailedView *view) { m_failedView = view; }
+    void setConfigFailedView(WTConfigFailedView *view) { m_configFailedView = view; }
+
+    /// What the screen that pushes this one sets first: printer, network, and a progress of 0.
+    void setPrinter(const WTPrinterPtr &printer);
+    void setWifi(const WTWiFiPtr &wifi);
+    void setProgress(int progress);
+    WTPrinterPtr printer() const;
+    WTWiFiPtr wifi() const;
+
+    qint64 retryTime() const;
+    bool isSendSuccessFlag() const;
+
+    void viewWillMoveToSuperview() override;
+    void viewDidApear() override;
+
+    void ff_config();
+    void confingWiFiStart();
+    void wt_sendConfigWIFIACL();
+    void getNetConfigWithTime(qint64 time);
+    void ff_getNetConfigWithTime(qint64 time, quint64 tag);
+    void ff_gotoNextWith(const std::optional<QString> &ipInfo);
+    void gotoNext();
+    void closeTimer(int endCode);
+    void ff_closeTimer();
+    void showErrorView(quint64 reason);
+
+    bool isConnectOK = false; ///< Reserved.
+    qint64 outTime = 0;       ///< Reserved.
+    QString bleName;          ///< Reserved.
+
+private:
+    void layOut();
+    void showNetwork();
+    void showStep(RunStep step, int attempt);
+    void showUnanswered();
+    void showOutcome(const RunOutcome &outcome);
+
+    WTConfigurationRun *m_run;
+    WTProgressView *m_progressView;
+    QLabel *m_progressLabel;
+    QLabel *m_network;
+    WTCompleteView *m_completeView = nullptr;
+    WTFailedView *m_failedView = nullptr;
+    WTConfigFailedView *m_configFailedView = nullptr;
+};
