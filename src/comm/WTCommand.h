@@ -25,7 +25,8 @@ public:
     static QByteArray PJLWithHeader(const Bytes &header, const Bytes &data, quint8 encrypt);
     static quint16 CRC16(const QByteArray &data);
 
-    /// Runs one command line in /bin/sh, blocks until the shell has ended, and answers what it wrote to standard output;
-    /// absent when that is no UTF-8. A command that must not block the caller redirects its output and detaches.
+    /// Runs one command line in /bin/sh, blocks until the shell has ended, and answers what it wrote to standard
+    /// output; absent when that is no UTF-8. A command that must not block the caller redirects its output and
+    /// detaches.
     static std::optional<QString> executeShellScript(const QString &commandLine);
 };

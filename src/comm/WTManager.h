@@ -1,17 +1,23 @@
 #pragma once
 
+#include "ModelCatalogue.h"
+#include "TimePort.h"
 #include "WTCServer.h"
+#include "WTC_WLAN.h"
 #include "WTPrinter.h"
 #include "WTSafeArray.h"
 
 #include <QByteArray>
 #include <QJsonArray>
+#include <QJsonObject>
 #include <QString>
+#include <atomic>
 #include <functional>
+#include <memory>
+#include <mutex>
 #include <optional>
 
 class SpoolerPort;
-class TimePort;
 
 /// Codes that the completions of printer operations receive.
 enum class WTPrinterStatus : int {
@@ -35,22 +41,35 @@ public:
     /// Called once, before the first use of `shared()`.
     static void usePorts(TimePort &time, SpoolerPort &spooler);
     static WTManager &shared();
+    WTManager(const WTManager &) = delete;
+    WTManager &operator=(const WTManager &) = delete;
 
     // -- discovery ----------------------------------------------------------------------------------------------
+    /// Forgets the printers found so far and starts the search.
     void wt_startDiscoverPrinter();
     void wt_stopDiscoverPrinter();
+    /// Hands the library its settings and registers the maker's vendor IDs.
     void discoverPrinter();
+    /// Rebuilds `printerList` from the devices that the catalogue knows and marks as able to use Wi-Fi. Any thread; a
+    /// reader may see a partial list meanwhile.
     void refreshUSBPrinterList(const std::vector<WTCDevice> &devices) override;
-    WTSafeArray<WTPrinterPtr> &printerList();
+    WTSafeArray<WTPrinterPtr> &printerList() { return m_printerList; }
+    /// Stores a copy.
+    void setPrinterList(const WTSafeArray<WTPrinterPtr> &list) { m_printerList = list; }
 
     // -- application-wide values --------------------------------------------------------------------------------
-    qint64 closeEnable() const;
-    void setCloseEnable(qint64 state);
+    qint64 closeEnable() const { return m_closeEnable; }
+    void setCloseEnable(qint64 state) { m_closeEnable = state; }
+    /// The communication library's own log file.
     QString logPath() const;
     void setLogPath(const QString &path);
 
     // -- catalogue ----------------------------------------------------------------------------------------------
+    /// Reads the catalogue file into `installFileList`; an unusable one leaves it empty and logs why.
     void getInstallList();
+    QJsonArray installFileList() const;
+    void setInstallFileList(const QJsonArray &entries);
+    // The rules of `ModelCatalogue`. Any thread.
     bool isVaildFile(const QString &printerType) const;
     bool isWifiPrinter(const QString &printerType) const;
     bool oldAclPrinter(const QString &printerType) const;
@@ -60,22 +79,45 @@ public:
     using AddressCallback = std::function<void(int status, const QString &text)>;
     using WakeUpCallback = std::function<void(bool success, const std::optional<QString> &message)>;
 
-    /// Checks a reply header; calls back before it returns.
+    // A callback must be given, except where "may be empty" is said. The location ID is only logged.
+
+    /// Checks a reply header; calls back before it returns. A header too short to tell its result counts as none.
     static void wt_cmd(quint16 cmd, const std::optional<QByteArray> &header, const StatusCallback &callBack);
-    /// Main thread, except for an invalid URI (at once, on the calling thread).
+    /// Rouses the printer and reports success whatever it answers. Main thread, except for an invalid URI (at once, on
+    /// the calling thread). `complete` may be empty.
     static void wt_wakeUpPrinter(const QString &uri, quint32 locationID, WakeUpCallback complete);
-    /// Main thread.
+    /// Result: whether the printer can be configured. Main thread.
     static void checkWiFiCapabilityFromPrinter(const QString &uri, quint32 locationID, StatusCallback callBack);
-    /// On the library's worker thread, five seconds after a success.
+    /// Tells the printer which network to join. On a worker thread of the library, five seconds after a success. Never
+    /// calls back when the network has no usable name. A password over 31 bytes is not sent and answers (1, 0).
     static void wifiConfigForPrinter(const QString &uri, quint32 locationID, const QString &ssid,
                                      const QString &password, StatusCallback callBack);
-    /// Main thread.
+    /// The address that the printer obtained, else a text that tells the fault. Main thread.
     static void getIPAddressFromPrinter(const QString &uri, quint32 locationID, AddressCallback callBack);
-    /// Main thread.
+    /// Makes the printer print its wireless-network information page. Main thread.
     static void printingWiFiInfoFromPrinter(const QString &uri, quint32 locationID, const QString &model,
                                             StatusCallback callBack);
-    static QString ipByData(const QByteArray &data, qsizetype location, qsizetype length);
+    /// The zero-terminated text in that range of `data`; absent when the range runs past the end or holds no UTF-8.
+    static std::optional<QString> ipByData(const QByteArray &data, qsizetype location, qsizetype length);
 
     SpoolerPort &spooler() const;
     TimePort &time() const;
+
+    // -- reserved -----------------------------------------------------------------------------------------------
+    WTSafeArray<std::shared_ptr<WTC_WLAN>> wifiList;
+    std::function<void()> callback;
+    std::unique_ptr<TimePort::Timer> localTimer;
+    QByteArray PJL_UEL_DATA;
+    QByteArray PJL_ENTERLANG_DATA;
+    QJsonObject usbWifiCapablity;
+
+private:
+    WTManager();
+    ModelCatalogue catalogue() const;
+
+    WTSafeArray<WTPrinterPtr> m_printerList;
+    std::atomic<qint64> m_closeEnable = CloseAsks;
+    mutable std::mutex m_mutex;
+    QString m_logPath;          ///< Guarded by `m_mutex`.
+    ModelCatalogue m_catalogue; ///< Guarded by `m_mutex`.
 };

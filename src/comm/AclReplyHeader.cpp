@@ -1,0 +1,23 @@
+#include "AclReplyHeader.h"
+
+#include "WTCUSBPrinter.h"
+
+bool AclReplyHeader::isWhole() const
+{
+    return m_bytes.size() == kACLHeadSize;
+}
+
+quint16 AclReplyHeader::addedLengthBytes() const
+{
+    return static_cast<quint16>(byte(6) + byte(7));
+}
+
+quint8 AclReplyHeader::byte(qsizetype offset) const
+{
+    return offset < m_bytes.size() ? static_cast<quint8>(m_bytes.at(offset)) : 0;
+}
+
+quint16 AclReplyHeader::number(qsizetype offset) const
+{
+    return static_cast<quint16>(byte(offset) << 8 | byte(offset + 1));
+}

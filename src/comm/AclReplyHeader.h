@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QByteArray>
+
+/// Reads the header of a printer's reply. Numbers are big-endian.
+///
+///     0       2              4        6                 8             16
+///     +-------+--------------+--------+-----------------+-------------+
+///     | 00 AC | echoed       | result | length of the   | not used    |
+///     |       | command      |        | data to follow  |             |
+///     +-------+--------------+--------+-----------------+-------------+
+///
+/// A field that a cut header does not hold reads as 0.
+class AclReplyHeader
+{
+public:
+    /// The bytes that tell command and result.
+    static constexpr qsizetype leastSize = 6;
+
+    explicit AclReplyHeader(const QByteArray &bytes)
+        : m_bytes(bytes)
+    {
+    }
+
+    /// Whether it is as long as a printer's reply header is.
+    bool isWhole() const;
+    quint16 command() const { return number(2); }
+    quint16 result() const { return number(4); }
+    quint16 dataLength() const { return number(6); }
+    /// The two bytes of the length field added: how the address query states its length.
+    quint16 addedLengthBytes() const;
+
+private:
+    quint8 byte(qsizetype offset) const;
+    quint16 number(qsizetype offset) const;
+
+    QByteArray m_bytes;
+};

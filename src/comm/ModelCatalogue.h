@@ -1,0 +1,59 @@
+#pragma once
+
+#include "WTError.h"
+
+#include <QJsonArray>
+#include <QString>
+#include <optional>
+
+/// Codes of the domain "Catalogue" (`catalogueErrorDomain`).
+enum class CatalogueErrorCode : int {
+    NotConfigured = 1, ///< The information list names no catalogue file.
+    Unreadable,        ///< No such file, or it may not be read.
+    NotJson,
+    WrongShape, ///< No object with an array "printer_info".
+};
+
+inline constexpr QLatin1StringView catalogueErrorDomain{"Catalogue"};
+
+/// The printer models that the program supports, in file order. A JSON file holds them:
+///
+///     {"printer_info": [{"device_name": "QZ100", "supportWifi": 1, "isOldACL": 0}, ...]}
+///
+/// The three look-ups below compare names in different ways and stop at their first match; an empty catalogue answers
+/// true to each, so that a program without its catalogue refuses no printer. "supportWifi" and "isOldACL" are integers
+/// read leniently; an entry without a usable name never matches.
+class ModelCatalogue
+{
+public:
+    /// What an entry says of its model.
+    struct Model {
+        bool supportsWifi = false;
+        qint64 wifiCode = 0; ///< "supportWifi" as it stands.
+        bool oldAcl = false;
+    };
+
+    ModelCatalogue() = default;
+    explicit ModelCatalogue(const QJsonArray &entries)
+        : m_entries(entries)
+    {
+    }
+
+    /// The file that the information list's "CFG" names, read anew.
+    static WTResult<ModelCatalogue> readConfigured();
+    static WTResult<ModelCatalogue> read(const QString &path);
+
+    const QJsonArray &entries() const { return m_entries; }
+
+    /// Whether the model is known: either name contains the other, in any case.
+    bool isVaildFile(const QString &printerType) const;
+    /// Whether the model supports Wi-Fi: the designations in both names are equal.
+    bool isWifiPrinter(const QString &printerType) const;
+    /// Whether the model needs the old ACL dialect: the designations in both names are equal.
+    bool oldAclPrinter(const QString &printerType) const;
+    /// The entry whose name is exactly `designation`, which is not looked for inside the name.
+    std::optional<Model> modelNamed(const QString &designation) const;
+
+private:
+    QJsonArray m_entries;
+};

@@ -1,0 +1,13 @@
+#include "WifiConfigurationPayload.h"
+
+std::optional<QByteArray> WifiConfigurationPayload::encode(const QString &ssid, const QString &password)
+{
+    const QByteArray secret = password.toUtf8();
+    if (secret.size() > passwordLimit)
+        return std::nullopt;
+
+    QByteArray payload = ssid.toUtf8().left(nameLimit).leftJustified(nameSize, '\0');
+    payload += mark;
+    payload += secret;
+    return payload.leftJustified(size, '\0');
+}
