@@ -1,0 +1,37 @@
+#include "WTCDevice.h"
+
+#include "Ieee1284DeviceID.h"
+
+#include <QUrl>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+QString firstUsable(const QString &preferred, const QString &otherwise)
+{
+    return preferred.isEmpty() ? otherwise.trimmed() : preferred;
+}
+
+QString encoded(const QString &text)
+{
+    return QString::fromLatin1(QUrl::toPercentEncoding(text));
+}
+
+} // namespace
+
+WTCDevice deviceFromUsb(const UsbDevice &device)
+{
+    const Ieee1284DeviceID id(device.ieee1284DeviceID);
+    WTCDevice printer;
+    printer.printerType = firstUsable(id.model(), device.product);
+    printer.manufacturer = firstUsable(id.manufacturer(), device.manufacturer);
+    printer.serialNumber = device.serialNumber;
+    printer.VID = device.vendorID;
+    printer.PID = device.productID;
+    printer.locationID = device.locationID;
+    printer.URI = u"usb://%1/%2?serial=%3"_s.arg(encoded(printer.manufacturer), encoded(printer.printerType),
+                                                 encoded(printer.serialNumber));
+    return printer;
+}

@@ -2,9 +2,11 @@
 
 #include "UsbPort.h"
 
+#include <QString>
+
 /// A printer on the bus, as the search service reports it.
 struct WTCDevice {
-    QString printerType;  ///< The device ID's MDL, else the product text.
+    QString printerType; ///< The device ID's MDL, else the product text.
     QString serialNumber;
     quint16 PID = 0;
     quint16 VID = 0;
@@ -15,4 +17,5 @@ struct WTCDevice {
     bool operator==(const WTCDevice &) const = default;
 };
 
+/// Keys of the IEEE 1284 device ID count in their short and long forms (MDL or MODEL, MFG or MANUFACTURER).
 WTCDevice deviceFromUsb(const UsbDevice &device);

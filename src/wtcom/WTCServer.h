@@ -6,8 +6,9 @@
 #include <memory>
 #include <vector>
 
+class DeviceTurns;
+class LibraryLog;
 class TimePort;
-class UsbPort;
 
 /// Receives the search service's reports.
 class WTCServerDelegate
@@ -22,7 +23,8 @@ public:
 class WTCServer
 {
 public:
-    /// The machine the library works on. Once, before anything else; both outlive the library.
+    /// The machine the library works on. Once, before anything else; both live until the process has ended, since a
+    /// send may be under way until then.
     static void usePorts(UsbPort &usb, TimePort &time);
 
     static WTCServer &sharedWithDelegate(WTCServerDelegate *delegate, int logLevel, const QString &logFilePath,
@@ -35,11 +37,15 @@ public:
 
     UsbPort &usb() const;
     TimePort &time() const;
+    LibraryLog &log() const;
+    DeviceTurns &turns() const;
     /// The vendor IDs of the last registration, also after the search has ended.
     std::vector<quint16> vendorIDs() const;
 
 private:
     WTCServer();
+    void report(const UsbDeviceList &list);
+
     struct State;
     std::unique_ptr<State> m_state;
 };

@@ -22,16 +22,21 @@ inline constexpr QLatin1StringView wtcErrorDomain{"WTCOM"};
 class WTCUSBPrinter
 {
 public:
-    /// Called once with the reply header: whole, in part (as it came before the failure), or absent. Worker thread.
-    /// Write how many data bytes to read (0 on entry), or set `stop` to read none.
+    /// Called exactly once per send, before the data callback, with the reply header: whole, in part (as it came before
+    /// the failure), or absent. Worker thread. Write how many data bytes to read (0 on entry), or set `stop` to read
+    /// none.
     using HeadCallback = std::function<void(const std::optional<QByteArray> &header, quint32 *dataLength, bool *stop)>;
 
     /// Called exactly once per send, after the head callback, on the worker thread, also after a stop, a time-out or a
-    /// failure. A data length of 0 gives absent data.
-    using DataCallback = std::function<void(const std::optional<QByteArray> &data, const std::optional<WTError> &error)>;
+    /// failure. The device is closed by then. Data is whole or absent: absent with an error when it did not come whole,
+    /// absent without one after a stop and for a data length of 0.
+    using DataCallback =
+        std::function<void(const std::optional<QByteArray> &data, const std::optional<WTError> &error)>;
 
     /// Finds the printer by its URI, sends `data`, reads exactly `headSize` bytes of header and then the data, in
-    /// whatever slices they come. Returns at once; everything happens on a worker thread of this send.
+    /// whatever slices they come. Returns at once; everything happens on a worker thread of this send. Only where the
+    /// system has no thread to give, both callbacks are made on the calling thread, with an error.
+    /// Sends to one device take turns. The reply to a send that was broken off does not get into the next one's.
     /// @param timeout milliseconds for the whole exchange.
     static void IOKit_sendACLWithURI(const QString &URI, const QByteArray &data, quint8 headSize, int timeout,
                                      HeadCallback headCallback, DataCallback dataCallback);

@@ -1,0 +1,46 @@
+#include "ClaimedInterface.h"
+
+#include "UsbErrorGate.h"
+
+// A driver that cannot be detached shows in the claim, which then fails.
+KernelDriverPause::KernelDriverPause(libusb_device_handle *handle, int interface)
+    : m_handle(handle)
+    , m_interface(interface)
+    , m_detached(libusb_kernel_driver_active(handle, interface) == 1 &&
+                 libusb_detach_kernel_driver(handle, interface) == LIBUSB_SUCCESS)
+{
+}
+
+KernelDriverPause::~KernelDriverPause()
+{
+    if (m_detached)
+        libusb_attach_kernel_driver(m_handle, m_interface);
+}
+
+ClaimedInterface::ClaimedInterface(libusb_device_handle *handle, int interface)
+    : m_driverPause(handle, interface)
+    , m_handle(handle)
+    , m_interface(interface)
+    , m_claimResult(libusb_claim_interface(handle, interface))
+{
+}
+
+ClaimedInterface::~ClaimedInterface()
+{
+    if (m_claimResult == LIBUSB_SUCCESS)
+        libusb_release_interface(m_handle, m_interface);
+}
+
+WTResult<std::unique_ptr<ClaimedInterface>>
+ClaimedInterface::claim(libusb_device_handle *handle, const PrinterInterface &interface, const QString &what)
+{
+    std::unique_ptr<ClaimedInterface> claimed(new ClaimedInterface(handle, interface.number));
+    if (claimed->m_claimResult != LIBUSB_SUCCESS)
+        return usbErrorFromLibrary(claimed->m_claimResult, what);
+    if (interface.hasAlternatives) {
+        const int result = libusb_set_interface_alt_setting(handle, interface.number, interface.alternateSetting);
+        if (result != LIBUSB_SUCCESS)
+            return usbErrorFromLibrary(result, what);
+    }
+    return claimed;
+}

@@ -1,0 +1,232 @@
+#include "AclExchange.h"
+
+#include "LibraryLog.h"
+#include "WTCDevice.h"
+
+#include <algorithm>
+#include <exception>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+/// The bus's reason as the library reports it. A cancelled transfer has a reason of the exchange's own.
+WTCErrorCode codeOf(UsbErrorCode code)
+{
+    switch (code) {
+    case UsbErrorCode::NotFound:
+    case UsbErrorCode::PermissionDenied:
+    case UsbErrorCode::Busy:
+    case UsbErrorCode::Unplugged:
+        return WTCErrorCode::Unreachable;
+    case UsbErrorCode::Stalled:
+    case UsbErrorCode::Cancelled:
+    case UsbErrorCode::Overflow:
+    case UsbErrorCode::Failed:
+        break;
+    }
+    return WTCErrorCode::TransferFailed;
+}
+
+} // namespace
+
+/// While it lives, a break-off reaches the connection; one that came earlier reaches it at once.
+class AclExchange::BreakOffReach
+{
+public:
+    BreakOffReach(AclExchange &exchange, UsbConnection &connection)
+        : m_exchange(exchange)
+    {
+        const std::lock_guard lock(m_exchange.m_mutex);
+        m_exchange.m_connection = &connection;
+        if (m_exchange.m_breakOff != BreakOff::None)
+            connection.cancel();
+    }
+
+    ~BreakOffReach()
+    {
+        const std::lock_guard lock(m_exchange.m_mutex);
+        m_exchange.m_connection = nullptr;
+    }
+
+    BreakOffReach(const BreakOffReach &) = delete;
+    BreakOffReach &operator=(const BreakOffReach &) = delete;
+
+private:
+    AclExchange &m_exchange;
+};
+
+AclExchange::AclExchange(AclEnvironment environment, AclRequest request)
+    : m_environment(std::move(environment))
+    , m_request(std::move(request))
+{
+}
+
+void AclExchange::run()
+{
+    const auto start = m_environment.time.now();
+    try {
+        // Revoking the deadline waits for it, so that it never meets an exchange that has gone.
+        const auto deadline = m_environment.time.after(m_request.timeout, [this] { breakOff(BreakOff::TimedOut); });
+        exchange();
+    } catch (const std::exception &exception) {
+        fail(WTCErrorCode::TransferFailed, QString::fromUtf8(exception.what()));
+    }
+    const auto duration = std::chrono::duration_cast<TimePort::Duration>(m_environment.time.now() - start);
+    m_environment.log.write(
+        m_reply.error ? LibraryLog::Error : LibraryLog::Info,
+        u"sent %1 bytes to %2, header %3 bytes, data %4 bytes, %5 ms, %6"_s.arg(m_request.frame.size())
+            .arg(m_request.URI)
+            .arg(m_reply.header.value_or(QByteArray()).size())
+            .arg(m_reply.data.value_or(QByteArray()).size())
+            .arg(duration.count())
+            .arg(m_reply.error ? m_reply.error->message : u"done"_s));
+    makeDataCallback();
+}
+
+void AclExchange::refuse(const QString &cause)
+{
+    fail(WTCErrorCode::TransferFailed, cause);
+    m_environment.log.write(LibraryLog::Error, m_reply.error->message);
+    makeDataCallback();
+}
+
+void AclExchange::exchange()
+{
+    const auto device = find();
+    if (!device)
+        return fail(WTCErrorCode::Unreachable, u"no such printer on the USB bus"_s);
+    const auto turn = m_environment.turns.wait(device->locationID, [this] { return brokenOff() != BreakOff::None; });
+    if (!turn)
+        return failBrokenOff();
+    const auto connection = m_environment.usb.open(*device);
+    if (!connection)
+        return failOnBus(connection.error());
+    const BreakOffReach reach(*this, *connection.value());
+    converse(*connection.value(), *turn);
+}
+
+std::optional<UsbDevice> AclExchange::find() const
+{
+    const auto devices = m_environment.usb.devices(m_environment.vendorIDs);
+    const auto found =
+        std::ranges::find(devices, m_request.URI, [](const UsbDevice &device) { return deviceFromUsb(device).URI; });
+    if (found == devices.end())
+        return std::nullopt;
+    return *found;
+}
+
+void AclExchange::converse(UsbConnection &connection, DeviceTurns::Turn &turn)
+{
+    if (turn.inputIsStale)
+        connection.discardInput();
+    turn.inputIsStale = true;
+    if (const auto error = connection.write(m_request.frame))
+        return failOnBus(*error);
+    if (!readHeader(connection))
+        return;
+    quint32 dataLength = 0;
+    if (!makeHeadCallback(dataLength))
+        return;
+    if (dataLength > 0) {
+        m_reply.data.emplace();
+        if (const auto error = read(connection, dataLength, *m_reply.data))
+            return failOnBus(*error);
+    }
+    turn.inputIsStale = false;
+}
+
+bool AclExchange::readHeader(UsbConnection &connection)
+{
+    QByteArray header;
+    const auto error = read(connection, m_request.headSize, header);
+    if (!error || !header.isEmpty())
+        m_reply.header = header;
+    if (error)
+        failOnBus(*error);
+    return !error;
+}
+
+std::optional<WTError> AclExchange::read(UsbConnection &connection, quint32 size, QByteArray &bytes) const
+{
+    while (bytes.size() < size) {
+        const auto slice = connection.read(size - bytes.size());
+        if (!slice)
+            return slice.error();
+        bytes += slice.value();
+    }
+    return std::nullopt;
+}
+
+bool AclExchange::makeHeadCallback(quint32 &dataLength)
+{
+    bool stop = false;
+    m_headCallbackMade = true;
+    if (!m_request.headCallback)
+        return true;
+    try {
+        m_request.headCallback(m_reply.header, &dataLength, &stop);
+    } catch (...) {
+        fail(WTCErrorCode::TransferFailed, u"the head callback threw an exception"_s);
+        return false;
+    }
+    return !stop;
+}
+
+void AclExchange::makeDataCallback()
+{
+    quint32 ignored = 0;
+    if (!m_headCallbackMade)
+        makeHeadCallback(ignored);
+    if (!m_request.dataCallback)
+        return;
+    try {
+        m_request.dataCallback(m_reply.error ? std::nullopt : m_reply.data, m_reply.error);
+    } catch (...) {
+        m_environment.log.write(LibraryLog::Error, u"%1: the data callback threw an exception"_s.arg(m_request.URI));
+    }
+}
+
+void AclExchange::cancel()
+{
+    breakOff(BreakOff::Cancelled);
+}
+
+void AclExchange::breakOff(BreakOff reason)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_breakOff == BreakOff::None)
+            m_breakOff = reason;
+        if (m_connection)
+            m_connection->cancel();
+    }
+    m_environment.turns.askAgain();
+}
+
+AclExchange::BreakOff AclExchange::brokenOff() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_breakOff;
+}
+
+void AclExchange::fail(WTCErrorCode code, const QString &cause)
+{
+    m_reply.error = WTError{wtcErrorDomain, static_cast<int>(code), u"%1: %2"_s.arg(m_request.URI, cause)};
+}
+
+void AclExchange::failOnBus(const WTError &usbError)
+{
+    const auto code = static_cast<UsbErrorCode>(usbError.code);
+    if (code == UsbErrorCode::Cancelled)
+        return failBrokenOff();
+    fail(codeOf(code), usbError.message);
+}
+
+void AclExchange::failBrokenOff()
+{
+    if (brokenOff() == BreakOff::TimedOut)
+        return fail(WTCErrorCode::TimedOut, u"timed out after %1 ms"_s.arg(m_request.timeout.count()));
+    fail(WTCErrorCode::TransferFailed, u"cancelled"_s);
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QtGlobal>
+#include <condition_variable>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <set>
+
+/// Lets one exchange at a time have a device, and remembers which devices may still be talking about an exchange that
+/// was broken off. Devices are told apart by their location. Any thread.
+class DeviceTurns
+{
+public:
+    /// The right to use one device, until its destruction.
+    class Turn
+    {
+    public:
+        ~Turn();
+        Turn(const Turn &) = delete;
+        Turn &operator=(const Turn &) = delete;
+
+        /// The device may send what belongs to an earlier exchange. What it says at the end is found by the next turn.
+        bool inputIsStale = false;
+
+    private:
+        friend class DeviceTurns;
+        Turn(DeviceTurns &turns, quint32 locationID)
+            : m_turns(turns)
+            , m_locationID(locationID)
+        {
+        }
+
+        DeviceTurns &m_turns;
+        const quint32 m_locationID;
+    };
+
+    /// Waits for the turn. Null when `givenUp` is true first; it is asked at the start, after each end of a turn, and
+    /// after each call of `askAgain`, under the lock of this object.
+    std::unique_ptr<Turn> wait(quint32 locationID, const std::function<bool()> &givenUp);
+    void askAgain();
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::set<quint32> m_inUse;
+    std::set<quint32> m_stale;
+};

@@ -1,0 +1,61 @@
+#include "SendWorkers.h"
+
+#include "AclExchange.h"
+
+#include <chrono>
+#include <cstdlib>
+#include <system_error>
+#include <thread>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+/// A callback that blocks must not keep the process from ending.
+constexpr std::chrono::seconds longestFarewell{2};
+
+} // namespace
+
+SendWorkers &SendWorkers::shared()
+{
+    static SendWorkers *const workers = new SendWorkers;
+    return *workers;
+}
+
+SendWorkers::SendWorkers()
+{
+    std::atexit([] { shared().endAll(); });
+}
+
+void SendWorkers::start(std::shared_ptr<AclExchange> exchange)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_running.insert(exchange);
+    }
+    try {
+        std::thread([this, exchange] {
+            exchange->run();
+            remove(exchange);
+        }).detach();
+    } catch (const std::system_error &error) {
+        exchange->refuse(u"no thread for the transfer: %1"_s.arg(QString::fromLocal8Bit(error.what())));
+        remove(exchange);
+    }
+}
+
+void SendWorkers::remove(const std::shared_ptr<AclExchange> &exchange)
+{
+    const std::lock_guard lock(m_mutex);
+    m_running.erase(exchange);
+    m_changed.notify_all();
+}
+
+void SendWorkers::endAll()
+{
+    std::unique_lock lock(m_mutex);
+    for (const auto &exchange : m_running)
+        exchange->cancel();
+    m_changed.wait_for(lock, longestFarewell, [this] { return m_running.empty(); });
+}
