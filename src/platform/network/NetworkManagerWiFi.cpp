@@ -52,7 +52,7 @@ struct NetworkManagerWiFi::State {
     {
     }
 
-    static void clientMade(GObject *, GAsyncResult *result, gpointer cancellable);
+    static void clientMade(GObject *, GAsyncResult *result, gpointer state);
     static void hostChanged(State *state) { state->refresh(); }
     static void permissionChanged(State *state) { state->refreshPermission(); }
 
@@ -72,8 +72,8 @@ struct NetworkManagerWiFi::State {
     std::function<void()> permissionWatcher;
 
     // The network thread's own.
-    GObjectPointer<GCancellable> connecting;
-    bool connected = false; ///< The first answer, good or bad, is in.
+    GObjectPointer<GCancellable> operations; ///< Cancelled when the connection to the host ends.
+    bool connected = false;                  ///< The first answer, good or bad, is in.
     GObjectPointer<NMClient> client;
     GObjectPointer<NMDeviceWifi> device;
     GObjectPointer<NMAccessPoint> accessPoint;
@@ -84,33 +84,18 @@ struct NetworkManagerWiFi::State {
     NetworkThread thread; ///< Last, so that it ends first.
 };
 
-namespace
-{
-
-/// What the asynchronous creation of the client comes back to: nothing, when it was cancelled meanwhile.
-struct ClientRequest {
-    GObjectPointer<GCancellable> cancellable;
-    void *state;
-};
-
-} // namespace
-
 void NetworkManagerWiFi::State::connectToHost()
 {
-    connecting.reset(g_cancellable_new());
-    nm_client_new_async(connecting.get(), &State::clientMade, new ClientRequest{shareObject(connecting.get()), this});
+    operations.reset(g_cancellable_new());
+    nm_client_new_async(operations.get(), &State::clientMade, this);
 }
 
 void NetworkManagerWiFi::State::clientMade(GObject *, GAsyncResult *result, gpointer data)
 {
-    const std::unique_ptr<ClientRequest> request(static_cast<ClientRequest *>(data));
+    auto *state = static_cast<State *>(data);
     GError *failure = nullptr;
-    GObjectPointer<NMClient> made(nm_client_new_finish(result, &failure));
+    state->client.reset(NM_CLIENT(nm_client_new_finish(result, &failure)));
     const GlibPointer<GError> error(failure);
-    if (g_cancellable_is_cancelled(request->cancellable.get()))
-        return;
-    auto *state = static_cast<State *>(request->state);
-    state->client = std::move(made);
     state->connected = true;
     if (state->client)
         state->watchClient();
@@ -120,14 +105,27 @@ void NetworkManagerWiFi::State::clientMade(GObject *, GAsyncResult *result, gpoi
 
 void NetworkManagerWiFi::State::disconnectFromHost()
 {
-    if (connecting)
-        g_cancellable_cancel(connecting.get());
+    GMainContext *context = g_main_context_get_thread_default();
+    g_cancellable_cancel(operations.get());
+    // The creation of a client may not be left halfway: the bus connection that it opens is the whole process's.
+    while (!connected)
+        g_main_context_iteration(context, TRUE);
     accessPointSignal = {};
     deviceSignal = {};
     clientSignals.clear();
     accessPoint.reset();
     device.reset();
+    // libnm ends in the background: the watcher object goes when nothing of the client is left on this context.
+    GObject *busy = client ? nm_client_get_context_busy_watcher(client.get()) : nullptr;
+    bool ended = busy == nullptr;
+    if (busy)
+        g_object_weak_ref(
+            busy, [](gpointer flag, GObject *) { *static_cast<bool *>(flag) = true; }, &ended);
     client.reset();
+    while (!ended)
+        g_main_context_iteration(context, TRUE);
+    while (g_main_context_pending(context))
+        g_main_context_iteration(context, FALSE);
 }
 
 void NetworkManagerWiFi::State::watchClient()
@@ -210,7 +208,7 @@ void NetworkManagerWiFi::scan(NetworksCallback done)
         else if (!host.poweredOn)
             done(radioOff(host.interfaceName));
         else
-            startNetworkScan(state->device.get(), state->thread, state->time, done);
+            startNetworkScan(state->device.get(), state->thread, state->time, state->operations.get(), done);
     });
 }
 
@@ -220,7 +218,7 @@ void NetworkManagerWiFi::storedPassword(const QString &ssid, SecretCallback done
         if (!state->client || !nm_client_get_nm_running(state->client.get()))
             done(SecretStatus::Unavailable, {});
         else
-            requestNetworkSecret(state->client.get(), state->device.get(), ssid, done);
+            requestNetworkSecret(state->client.get(), state->device.get(), state->operations.get(), ssid, done);
     });
 }
 

@@ -22,9 +22,10 @@ public:
     {
     }
 
-    void request(NetworkThread &thread, TimePort &time)
+    void request(NetworkThread &thread, TimePort &time, GCancellable *cancellable)
     {
         m_self = shared_from_this();
+        m_cancelled = SignalConnection(cancellable, "cancelled", G_CALLBACK(&NetworkScan::cancelled), this);
         m_lastScanChanged = SignalConnection(m_device.get(), "notify::" NM_DEVICE_WIFI_LAST_SCAN,
                                              G_CALLBACK(&NetworkScan::lastScanChanged), this);
         m_limit = time.after(scanLimit, [&thread, scan = weak_from_this()] {
@@ -33,7 +34,7 @@ public:
                     alive->answer();
             });
         });
-        nm_device_wifi_request_scan_async(m_device.get(), nullptr, &NetworkScan::requested,
+        nm_device_wifi_request_scan_async(m_device.get(), cancellable, &NetworkScan::requested,
                                           new std::shared_ptr<NetworkScan>(shared_from_this()));
     }
 
@@ -55,12 +56,15 @@ private:
             scan->answer();
     }
 
+    static void cancelled(NetworkScan *scan) { scan->answer(); }
+
     void answer()
     {
         const std::shared_ptr<NetworkScan> last = std::move(m_self);
         if (!last)
             return;
         m_lastScanChanged = {};
+        m_cancelled = {};
         m_limit.reset();
         m_done(visibleNetworks(m_device.get()));
     }
@@ -69,13 +73,15 @@ private:
     HostWiFiPort::NetworksCallback m_done;
     gint64 m_lastScan;
     SignalConnection m_lastScanChanged;
+    SignalConnection m_cancelled;
     std::unique_ptr<TimePort::Timer> m_limit;
     std::shared_ptr<NetworkScan> m_self;
 };
 
 } // namespace
 
-void startNetworkScan(NMDeviceWifi *device, NetworkThread &thread, TimePort &time, HostWiFiPort::NetworksCallback done)
+void startNetworkScan(NMDeviceWifi *device, NetworkThread &thread, TimePort &time, GCancellable *cancellable,
+                      HostWiFiPort::NetworksCallback done)
 {
-    std::make_shared<NetworkScan>(device, std::move(done))->request(thread, time);
+    std::make_shared<NetworkScan>(device, std::move(done))->request(thread, time, cancellable);
 }

@@ -90,7 +90,7 @@ void secretsArrived(GObject *bus, GAsyncResult *result, gpointer data)
 
 } // namespace
 
-void requestNetworkSecret(NMClient *client, NMDeviceWifi *device, const QString &ssid,
+void requestNetworkSecret(NMClient *client, NMDeviceWifi *device, GCancellable *cancellable, const QString &ssid,
                           HostWiFiPort::SecretCallback done)
 {
     NMRemoteConnection *profile = profileFor(client, device, ssid);
@@ -105,6 +105,6 @@ void requestNetworkSecret(NMClient *client, NMDeviceWifi *device, const QString 
     g_dbus_connection_call(nm_client_get_dbus_connection(client), NM_DBUS_SERVICE,
                            nm_object_get_path(NM_OBJECT(profile)), NM_DBUS_INTERFACE_SETTINGS_CONNECTION, "GetSecrets",
                            g_variant_new("(s)", NM_SETTING_WIRELESS_SECURITY_SETTING_NAME),
-                           G_VARIANT_TYPE("(a{sa{sv}})"), G_DBUS_CALL_FLAGS_NONE, secretLimitMilliseconds, nullptr,
+                           G_VARIANT_TYPE("(a{sa{sv}})"), G_DBUS_CALL_FLAGS_NONE, secretLimitMilliseconds, cancellable,
                            &secretsArrived, request.release());
 }
