@@ -5,6 +5,7 @@
 
 #include <QMap>
 #include <QString>
+#include <functional>
 #include <optional>
 
 class DesktopPort;
@@ -22,6 +23,7 @@ public:
     WTApp(const WTApp &) = delete;
     WTApp &operator=(const WTApp &) = delete;
 
+    HostWiFiPort &hostWiFi() const;
     DesktopPort &desktop() const;
     const HostCapabilities &capabilities() const;
 
@@ -65,6 +67,15 @@ public:
     /// Reads all of the above from the host, except the reserved ones and the password. Where the host names no default
     /// interface and has no interface at all, nothing changes.
     void checkPcNetState();
+
+    using PasswordCallback = std::function<void(const QString &password)>;
+
+    /// Asks for the selected network's stored password, unless the network is open, and puts what comes, empty after a
+    /// failure, into `selectedPassword`.
+    void fetchWIFIPWD();
+    /// The stored password of the network that is selected when the host is asked; `ssid` only decides whether to ask:
+    /// an absent one answers at once. The host may ask its user first. Empty after a failure.
+    void pwdBySSID(const std::optional<QString> &ssid, PasswordCallback callBack);
 
     /// Signal quality in per cent from `rssi` in dBm.
     static qint64 _qualityStringWithRSSI(qint64 rssi);

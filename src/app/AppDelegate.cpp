@@ -1,0 +1,48 @@
+#include "AppDelegate.h"
+
+#include "Alert.h"
+#include "Localized.h"
+#include "WTApp.h"
+#include "WTManager.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+void AppDelegate::applicationDidFinishLaunching()
+{
+    if (!WTApp::shared().capabilities().activatesCooperatively)
+        m_window->raise();
+    m_window->activateWindow();
+    WTManager::shared().setCloseEnable(WTManager::CloseAsks);
+}
+
+void AppDelegate::closeApplication()
+{
+    const qint64 state = WTManager::shared().closeEnable();
+    if (state == WTManager::CloseAsks)
+        askToQuit();
+    else if (state == WTManager::CloseQuits)
+        WTApp::wt_exitApp();
+}
+
+void AppDelegate::askToQuit()
+{
+    const Alert question{localized(u"温馨提示："_s),
+                         localized(u"是否退出Wi-Fi配置工具?"_s),
+                         {localized(u"确定"_s), localized(u"取消"_s)}};
+    showAlert(m_window, question, [](int response) {
+        if (response == alertFirstButtonReturn)
+            WTApp::wt_exitApp();
+    });
+}
+
+void AppDelegate::applicationWillTerminate() {}
+
+bool AppDelegate::applicationSupportsSecureRestorableState() const
+{
+    return true;
+}
+
+bool AppDelegate::applicationShouldTerminateAfterLastWindowClosed() const
+{
+    return true;
+}

@@ -1,0 +1,95 @@
+#include "HostWiFiPort.h"
+#include "Log.h"
+#include "MainThread.h"
+#include "WTApp.h"
+
+namespace
+{
+
+const char *mark(bool yes)
+{
+    return yes ? "✅" : "❌";
+}
+
+void logSecretFailure(SecretStatus status)
+{
+    switch (status) {
+    case SecretStatus::Success:
+        break;
+    case SecretStatus::PermissionDenied:
+        logInfo("鉴权失败，请检查密码");
+        break;
+    case SecretStatus::PromptCancelled:
+        logInfo("用户取消了鉴权");
+        break;
+    case SecretStatus::NotStored:
+    case SecretStatus::Unavailable:
+        logInfo("获取密码失败，错误代码: %d", static_cast<int>(status));
+        break;
+    }
+}
+
+} // namespace
+
+void WTApp::checkPcNetState()
+{
+    const HostWiFiState state = hostWiFi().state();
+    const bool hasInterface = !state.interfaceName.isEmpty();
+    if (!capabilities().hasDefaultInterface && !hasInterface)
+        return;
+
+    currentInterface = hasInterface ? std::optional(state) : std::nullopt;
+    powerOnWifi = state.poweredOn;
+    logInfo("powerOnWifi:%@", mark(powerOnWifi));
+    channelWifi = state.band;
+    selectedSSID = state.ssid;
+    logInfo("selectedSSID:%@", selectedSSID);
+    selectedRssi = _qualityStringWithRSSI(state.rssi);
+    secureWifi = state.security;
+    selectedAuthMode = state.security;
+    isMacWiFiConnected = powerOnWifi && selectedSSID && !selectedSSID->isEmpty();
+    logInfo("isMacWiFiConnected:%@", mark(isMacWiFiConnected));
+}
+
+qint64 WTApp::_qualityStringWithRSSI(qint64 rssi)
+{
+    if (rssi < -99)
+        return 0;
+    if (rssi > -51)
+        return 100;
+    return 2 * rssi + 200;
+}
+
+qint64 WTApp::intNumberForSecurityMode(quint64 mode)
+{
+    constexpr qint64 unknown = 6;
+    constexpr std::array<qint64, 14> codes{0, 1, 2, 2, 2, 2, 1, 2, 2, 2, 2, 2, 2, 2};
+    return mode < codes.size() ? codes[mode] : unknown;
+}
+
+void WTApp::fetchWIFIPWD()
+{
+    if (selectedAuthMode == 0)
+        return;
+    logInfo("🏷");
+    pwdBySSID(selectedSSID, [](const QString &password) { shared().selectedPassword = password; });
+}
+
+void WTApp::pwdBySSID(const std::optional<QString> &ssid, PasswordCallback callBack)
+{
+    if (!ssid) {
+        callBack({});
+        return;
+    }
+    onMainThread([callBack = std::move(callBack)] {
+        const QString account = shared().selectedSSID.value_or(QString());
+        shared().hostWiFi().storedPassword(account, [callBack](SecretStatus status, const QString &password) {
+            onMainThread([callBack, status, password] {
+                logSecretFailure(status);
+                if (status == SecretStatus::Success)
+                    shared().selectedPassword = password;
+                callBack(status == SecretStatus::Success ? password : QString());
+            });
+        });
+    });
+}

@@ -1,0 +1,42 @@
+#include "WTWiFi.h"
+
+#include "Localized.h"
+
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+/// The labels' keys; the index is the library's security number.
+constexpr std::array labelKeys{
+    "Other"_L1,
+    "Open"_L1,
+    "WEP"_L1,
+    "WPA-Personal"_L1,
+    "WPA-Enterprise"_L1,
+    "WPA/WPA2-Personal"_L1,
+    "WPA/WPA2-Enterprise"_L1,
+    "WPA2-Personal"_L1,
+    "WPA2-Enterprise"_L1,
+    "WPA2/WPA3-Personal"_L1,
+    "WPA2/WPA3-Enterprise"_L1,
+    "WPA3-Personal"_L1,
+    "WPA3-Enterprise"_L1,
+    "OWE"_L1,
+};
+
+} // namespace
+
+std::optional<QString> WTWiFi::authModeLabel() const
+{
+    if (security < 0 || security >= qint64{labelKeys.size()})
+        return std::nullopt;
+    return localized(labelKeys[std::size_t(security)]);
+}
+
+void WTWiFi::setAuthModeLabel(const std::optional<QString> &label)
+{
+    m_authModeLabel = label;
+}
