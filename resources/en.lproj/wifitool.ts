@@ -133,7 +133,7 @@
     </message>
     <message>
         <source>下一步</source>
-        <translation>Next</translation>
+        <translation>&amp;Next</translation>
     </message>
     <message>
         <source>上一步</source>
@@ -162,6 +162,338 @@
     <message>
         <source>已将无线网络信息页发送给打印机</source>
         <translation>The Wi-Fi information page has been sent to the printer.</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>&amp;Back</translation>
+    </message>
+    <message>
+        <source>完成并退出</source>
+        <translation>&amp;Finish and quit</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>&amp;Quit</translation>
+    </message>
+    <message>
+        <source>连接</source>
+        <translation>Connect</translation>
+    </message>
+    <message>
+        <source>网络</source>
+        <translation>Network</translation>
+    </message>
+    <message>
+        <source>配置</source>
+        <translation>Set up</translation>
+    </message>
+    <message>
+        <source>完成</source>
+        <translation>Done</translation>
+    </message>
+    <message>
+        <source>第%d步，共%d步：%@</source>
+        <translation>Step %d of %d: %@</translation>
+    </message>
+    <message>
+        <source>第%d步</source>
+        <translation>Step %d</translation>
+    </message>
+    <message>
+        <source>Wi-Fi配置工具</source>
+        <translation>Wi-Fi Tool</translation>
+    </message>
+    <message>
+        <source>让打印机连上无线网络</source>
+        <translation>Put your printer on the wireless network</translation>
+    </message>
+    <message>
+        <source>请打开打印机电源，然后选择配置方式。</source>
+        <translation>Switch the printer on, then choose how to set it up.</translation>
+    </message>
+    <message>
+        <source>USB数据线</source>
+        <translation>USB cable</translation>
+    </message>
+    <message>
+        <source>用数据线连接打印机和电脑。适合第一次使用。</source>
+        <translation>Connect the printer to this computer with a cable. Best for the first time.</translation>
+    </message>
+    <message>
+        <source>WPS一键配网</source>
+        <translation>WPS</translation>
+    </message>
+    <message>
+        <source>路由器有WPS按钮时可用，不需要数据线和密码。</source>
+        <translation>For routers with a WPS button. Needs neither cable nor password.</translation>
+    </message>
+    <message>
+        <source>打印机的Wi-Fi按钮</source>
+        <translation>Wi-Fi button</translation>
+    </message>
+    <message>
+        <source>打印机没有显示屏时使用。</source>
+        <translation>For printers without a display.</translation>
+    </message>
+    <message>
+        <source>打印机的菜单</source>
+        <translation>Printer menu</translation>
+    </message>
+    <message>
+        <source>打印机有显示屏和菜单时使用。</source>
+        <translation>For printers with a display and a menu.</translation>
+    </message>
+    <message>
+        <source>从哪里启动WPS？</source>
+        <translation>Where do you want to start WPS?</translation>
+    </message>
+    <message>
+        <source>看一看您的打印机：它有显示屏和菜单，还是只有Wi-Fi按钮？</source>
+        <translation>Look at your printer: does it have a display with a menu, or only a Wi-Fi button?</translation>
+    </message>
+    <message>
+        <source>按钮方式（PBC）</source>
+        <translation>Push button (PBC)</translation>
+    </message>
+    <message>
+        <source>按一下路由器上的WPS按钮即可。</source>
+        <translation>You just press the WPS button on the router.</translation>
+    </message>
+    <message>
+        <source>PIN码方式</source>
+        <translation>PIN</translation>
+    </message>
+    <message>
+        <source>路由器没有WPS按钮时，在它的设置页面输入PIN码。</source>
+        <translation>For routers without a WPS button: you type the PIN on the router's settings page.</translation>
+    </message>
+    <message>
+        <source>选择WPS的方式</source>
+        <translation>Choose the kind of WPS</translation>
+    </message>
+    <message>
+        <source>两种方式都在打印机的菜单里。路由器上有WPS按钮时，按钮方式最简单。</source>
+        <translation>Both are in the printer's menu. If the router has a WPS button, the push button is the easiest.</translation>
+    </message>
+    <message>
+        <source>用按钮连接</source>
+        <translation>Connect with the buttons</translation>
+    </message>
+    <message>
+        <source>请在两分钟内完成前两步。</source>
+        <translation>Do the first two steps within two minutes.</translation>
+    </message>
+    <message>
+        <source>按住打印机上的Wi-Fi按钮约3秒，直到指示灯开始闪烁。</source>
+        <translation>Hold the Wi-Fi button on the printer for about 3 seconds, until its light blinks.</translation>
+    </message>
+    <message>
+        <source>按一下路由器上的WPS按钮。</source>
+        <translation>Press the WPS button on the router.</translation>
+    </message>
+    <message>
+        <source>等待最多两分钟。指示灯不再闪烁时，点击“下一步”。</source>
+        <translation>Wait up to two minutes. When the light no longer blinks, press “Next”.</translation>
+    </message>
+    <message>
+        <source>在打印机菜单中使用按钮方式</source>
+        <translation>Push button from the printer's menu</translation>
+    </message>
+    <message>
+        <source>在打印机的显示屏上依次选择“菜单”“网络”“WPS”“PBC”，按“OK”确认。</source>
+        <translation>On the printer's display choose Menu, Network, WPS, PBC, and confirm with OK.</translation>
+    </message>
+    <message>
+        <source>等待最多两分钟。显示屏显示结果后，点击“下一步”。</source>
+        <translation>Wait up to two minutes. When the display shows the result, press “Next”.</translation>
+    </message>
+    <message>
+        <source>在打印机菜单中使用PIN码</source>
+        <translation>PIN from the printer's menu</translation>
+    </message>
+    <message>
+        <source>PIN码几分钟后失效，请先准备好路由器的设置页面。</source>
+        <translation>The PIN expires after a few minutes, so open the router's settings page first.</translation>
+    </message>
+    <message>
+        <source>在打印机的显示屏上依次选择“菜单”“网络”“WPS”“PIN”，显示屏会显示一个8位数字。</source>
+        <translation>On the printer's display choose Menu, Network, WPS, PIN. It then shows a number of 8 digits.</translation>
+    </message>
+    <message>
+        <source>在路由器设置页面的WPS栏输入这个PIN码，然后开始连接。</source>
+        <translation>Type this PIN into the WPS section of the router's settings page, and start the connection there.</translation>
+    </message>
+    <message>
+        <source>打印机的显示屏显示什么？</source>
+        <translation>What does the printer's display say?</translation>
+    </message>
+    <message>
+        <source>请看打印机的显示屏，选择您看到的结果。</source>
+        <translation>Look at the printer's display and choose what you see.</translation>
+    </message>
+    <message>
+        <source>连接成功</source>
+        <translation>Connected</translation>
+    </message>
+    <message>
+        <source>显示屏显示“连接成功”或IP地址。</source>
+        <translation>The display says that it is connected, or shows an IP address.</translation>
+    </message>
+    <message>
+        <source>连接失败</source>
+        <translation>Not connected</translation>
+    </message>
+    <message>
+        <source>显示屏显示“连接失败”或“超时”。请返回，再试一次。</source>
+        <translation>The display says that it failed or timed out. Go back and try again.</translation>
+    </message>
+    <message>
+        <source>打印机的Wi-Fi指示灯怎么样？</source>
+        <translation>What does the printer's Wi-Fi light do?</translation>
+    </message>
+    <message>
+        <source>请看打印机的Wi-Fi指示灯，选择您看到的样子。</source>
+        <translation>Look at the Wi-Fi light on the printer and choose what you see.</translation>
+    </message>
+    <message>
+        <source>指示灯常亮</source>
+        <translation>Steady light</translation>
+    </message>
+    <message>
+        <source>打印机已经连上无线网络。</source>
+        <translation>The printer is on the wireless network.</translation>
+    </message>
+    <message>
+        <source>指示灯闪烁或熄灭</source>
+        <translation>Blinking or off</translation>
+    </message>
+    <message>
+        <source>没有连上。请返回，再试一次。</source>
+        <translation>It did not connect. Go back and try again.</translation>
+    </message>
+    <message>
+        <source>打开系统的添加打印机窗口</source>
+        <translation>Open the system's “add printer” window</translation>
+    </message>
+    <message>
+        <source>恭喜，您完成了无线网络配置！</source>
+        <translation>Congratulations, you have set up the wireless network!</translation>
+    </message>
+    <message>
+        <source>现在可以拔掉USB数据线了。要在这台电脑上打印，请把打印机添加到系统：勾选下面的选项，然后点击“完成并退出”。</source>
+        <translation>You can now unplug the USB cable. To print from this computer, add the printer to the system: tick the box below and press “Finish and quit”.</translation>
+    </message>
+    <message>
+        <source>打印机已连上无线网络</source>
+        <translation>The printer is on the wireless network</translation>
+    </message>
+    <message>
+        <source>打印机没有连上无线网络</source>
+        <translation>The printer is not on the wireless network</translation>
+    </message>
+    <message>
+        <source>打印机配置失败，当前打印机网络未开启，无法进行配网。</source>
+        <translation>The set-up failed: the printer's network is switched off, so it cannot be set up.</translation>
+    </message>
+    <message>
+        <source>配网失败</source>
+        <translation>The network set-up failed</translation>
+    </message>
+    <message>
+        <source>打印机配置失败，当前打印机Wi-Fi模块未装配，无法进行配网。</source>
+        <translation>The set-up failed: the printer has no Wi-Fi module, so it cannot be set up.</translation>
+    </message>
+    <message>
+        <source>Wi-Fi故障，打印机配置失败。</source>
+        <translation>The set-up failed: the printer's Wi-Fi has a fault.</translation>
+    </message>
+    <message>
+        <source>打印机配置失败，系统升级过程中，不允许配置网络。</source>
+        <translation>The set-up failed: the printer is updating itself and does not take a network set-up meanwhile.</translation>
+    </message>
+    <message>
+        <source>请检查打印机是否已开机、数据线是否插好、网络名称和密码是否正确，然后重新打开本工具再试一次。</source>
+        <translation>Check that the printer is on, that the cable is plugged in firmly, and that network name and password are right. Then start this program again.</translation>
+    </message>
+    <message>
+        <source>这台打印机没有安装Wi-Fi模块。请继续使用USB数据线打印，或向经销商咨询Wi-Fi模块。</source>
+        <translation>Keep printing over the USB cable, or ask your dealer for a Wi-Fi module.</translation>
+    </message>
+    <message>
+        <source>请关闭打印机，等待10秒后重新打开，再试一次。如果问题依旧，请联系售后服务。</source>
+        <translation>Switch the printer off, wait 10 seconds, switch it on and try again. If that does not help, please contact customer service.</translation>
+    </message>
+    <message>
+        <source>请等待打印机升级完成，期间不要关闭电源，然后再试一次。</source>
+        <translation>Wait until the printer has finished its update, without switching it off, then try again.</translation>
+    </message>
+    <message>
+        <source>请在打印机上打开Wi-Fi功能，重新启动打印机，然后再试一次。</source>
+        <translation>Switch Wi-Fi on at the printer, restart the printer, then try again.</translation>
+    </message>
+    <message>
+        <source>您可以这样做</source>
+        <translation>What you can do</translation>
+    </message>
+    <message>
+        <source>运行日志：%@</source>
+        <translation>Log files: %@</translation>
+    </message>
+    <message>
+        <source>配置没有成功</source>
+        <translation>The set-up did not succeed</translation>
+    </message>
+    <message>
+        <source>打印机没有接受这次配置。</source>
+        <translation>The printer did not accept the set-up.</translation>
+    </message>
+    <message>
+        <source>请检查网络名称和密码（注意大小写），并确认打印机已开机、数据线已插好、离路由器不太远。然后返回，再试一次。</source>
+        <translation>Check network name and password (upper and lower case count), and that the printer is on, plugged in and not too far from the router. Then go back and try again.</translation>
+    </message>
+    <message>
+        <source>没有连接打印机</source>
+        <translation>No printer is connected</translation>
+    </message>
+    <message>
+        <source>没有找到支持无线网络的打印机。</source>
+        <translation>No printer that supports wireless networks was found.</translation>
+    </message>
+    <message>
+        <source>请打开打印机电源，用USB数据线把它直接连到这台电脑（不要经过集线器），等待几秒。然后返回，再试一次。</source>
+        <translation>Switch the printer on, connect it to this computer with a USB cable (directly, without a hub) and wait a few seconds. Then go back and try again.</translation>
+    </message>
+    <message>
+        <source>隐藏密码</source>
+        <translation>Hide password</translation>
+    </message>
+    <message>
+        <source>大写锁定已打开</source>
+        <translation>Caps lock is on</translation>
+    </message>
+    <message>
+        <source>too common</source>
+        <translation>Too common</translation>
+    </message>
+    <message>
+        <source>too short</source>
+        <translation>Too short</translation>
+    </message>
+    <message>
+        <source>insecure</source>
+        <translation>Insecure</translation>
+    </message>
+    <message>
+        <source>weak</source>
+        <translation>Weak</translation>
+    </message>
+    <message>
+        <source>fair</source>
+        <translation>Fair</translation>
+    </message>
+    <message>
+        <source>strong</source>
+        <translation>Strong</translation>
     </message>
 </context>
 </TS>

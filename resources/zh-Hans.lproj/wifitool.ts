@@ -55,5 +55,29 @@
         <source>OWE</source>
         <translation>增强型开放（OWE）</translation>
     </message>
+    <message>
+        <source>too common</source>
+        <translation>太常见</translation>
+    </message>
+    <message>
+        <source>too short</source>
+        <translation>太短</translation>
+    </message>
+    <message>
+        <source>insecure</source>
+        <translation>不安全</translation>
+    </message>
+    <message>
+        <source>weak</source>
+        <translation>弱</translation>
+    </message>
+    <message>
+        <source>fair</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>strong</source>
+        <translation>强</translation>
+    </message>
 </context>
 </TS>

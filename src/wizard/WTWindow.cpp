@@ -1,0 +1,51 @@
+#include "WTWindow.h"
+
+#include "WTView.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QStackedWidget>
+
+namespace
+{
+
+constexpr QSize firstSize{880, 600};
+constexpr QSize smallestSize{760, 520};
+
+} // namespace
+
+WTWindow::WTWindow(QWidget *parent)
+    : QMainWindow(parent)
+    , m_screens(new QStackedWidget)
+{
+    setCentralWidget(m_screens);
+    setMinimumSize(smallestSize);
+    resize(firstSize);
+}
+
+void WTWindow::addScreen(WTView *view)
+{
+    m_screens->addWidget(view);
+}
+
+void WTWindow::setContentView(WTView *view)
+{
+    view->viewWillMoveToSuperview();
+    if (m_screens->indexOf(view) < 0)
+        addScreen(view);
+    m_contentView = view;
+    m_screens->setCurrentWidget(view);
+    view->viewDidMoveToWindow();
+}
+
+void WTWindow::setReleasedWhenClosed(bool) {}
+
+void WTWindow::closeEvent(QCloseEvent *event)
+{
+    if (QCoreApplication::closingDown() || qGuiApp->isSavingSession()) {
+        event->accept();
+        return;
+    }
+    event->ignore();
+    Q_EMIT closeRequested();
+}

@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 
+class QStackedWidget;
 class WTView;
 
 /// The wizard's one window; its content is exactly one screen.
@@ -11,6 +12,9 @@ class WTWindow : public QMainWindow
 
 public:
     explicit WTWindow(QWidget *parent = nullptr);
+
+    /// Takes a screen over and keeps it hidden until it becomes the content.
+    void addScreen(WTView *view);
 
     WTView *contentView() const { return m_contentView; }
     /// `viewWillMoveToSuperview`, the swap, `viewDidMoveToWindow`, in this order and before it returns.
@@ -23,12 +27,13 @@ public:
     WTView *autoInstallView = nullptr; ///< Set by the layout, read by nothing.
 
 Q_SIGNALS:
-    /// The close button was pressed; closing itself is refused.
+    /// The close button was pressed. Closing itself is refused unless the application or the session is ending.
     void closeRequested();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    QStackedWidget *m_screens;
     WTView *m_contentView = nullptr;
 };

@@ -1,15 +1,19 @@
 #pragma once
 
+#include "WpsOutcomeView.h"
+
 #include <memory>
 
 class WTStartView;
+class WTWiFiListScreen;
 class WTWindow;
 
 /// Makes the window and all screens, and wires every outlet. Main thread.
 class WizardScreens
 {
 public:
-    WizardScreens();
+    /// @param processEnd how the WPS outcome screens end the process.
+    explicit WizardScreens(ProcessEnd processEnd = endProcess);
     ~WizardScreens();
 
     WTWindow &window() { return *m_window; }

@@ -44,5 +44,6 @@ inline constexpr QColor blueHover = color("0x4E8DE3"); ///< The same, under the 
 inline constexpr QColor frame = color("0xD3D3D3");   ///< Text-field frames at rest, rules.
 inline constexpr QColor label = color("0x666666");   ///< Instructions, help, check-box labels.
 inline constexpr QColor heading = color("0x222222"); ///< Headings and what people type.
+inline constexpr QColor link = color("0x2B63B8");    ///< Links, dark enough to be read on white.
 
 } // namespace Palette

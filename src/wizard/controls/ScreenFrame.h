@@ -1,11 +1,10 @@
 #pragma once
 
+#include <QVBoxLayout>
 #include <QWidget>
 
 class QAbstractButton;
-class QHBoxLayout;
 class QLabel;
-class QVBoxLayout;
 class WTView;
 
 /// The four steps that the marks at the top of every screen show.
@@ -34,6 +33,9 @@ public:
 
     /// Where the screen's own widgets go, from the top; add a stretch for what is left over.
     QVBoxLayout *content() const { return m_content; }
+
+    /// The same for a screen of one widget: it stands in the middle of the content area.
+    void setCenteredContent(QWidget *widget);
 
     /// The frame takes the button over.
     void setBackButton(QAbstractButton *button);

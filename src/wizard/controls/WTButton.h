@@ -38,6 +38,9 @@ public:
     void setImages(const QString &normal, const QString &hover = {});
     QString imageName() const { return m_normalImage.name(); }
 
+    /// Picture and title at the left edge, as in a check box, instead of the middle.
+    void setLeading(bool leading);
+
     QColor textOnColor;
     QColor borderOnColor;
     QColor onBlackColor; ///< Background when on.
@@ -74,7 +77,6 @@ private:
 
     void apply(const Colors &colors, const QString &stateString);
     Colors currentColors() const;
-    const Picture &currentImage() const;
 
     short m_state = StateOff;
     QString m_stateString;
@@ -82,5 +84,6 @@ private:
     bool m_idEnabled = true;
     Picture m_normalImage;
     Picture m_hoverImage;
+    bool m_leading = false;
     Colors m_colors;
 };

@@ -2,7 +2,7 @@
 
 #include "WTView.h"
 
-class QLabel;
+class ResultPanel;
 class WTButton;
 
 /// The printer is on the network. Offers to open the desktop's add-printer panel, then ends the application.
@@ -21,7 +21,7 @@ public:
     void over();
 
 private:
-    QLabel *m_title;
+    ResultPanel *m_title;
     WTButton *m_addPrinter;
     WTButton *m_complateBtn;
     bool m_isSelectFlag = false;

@@ -29,7 +29,7 @@ public:
     void backAction();
 
 private:
-    ResultPanel *m_panel;
+    ResultPanel *m_errorMessage;
     WTButton *m_complateBtn;
     bool m_showInterfaceError = false;
     bool m_showWiFiCapabilityError = false;

@@ -1,0 +1,85 @@
+#include "WizardScreens.h"
+
+#include "Localized.h"
+#include "WTCompleteView.h"
+#include "WTConfigFailedView.h"
+#include "WTConfigStateInfoView.h"
+#include "WTFailedView.h"
+#include "WTInstallingView.h"
+#include "WTNetworkWithManualAddition.h"
+#include "WTPrinterScreenWPSPBCView.h"
+#include "WTSelectPBCModelView.h"
+#include "WTSetPINConfigView.h"
+#include "WTSetWPSMethodView.h"
+#include "WTStartView.h"
+#include "WTUnconnectView.h"
+#include "WTUseWPSSetWifiView.h"
+#include "WTWindow.h"
+#include "WTWpsLinkStateView.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+template <typename Screen, typename... Arguments>
+Screen *makeScreen(WTWindow &window, const Arguments &...arguments)
+{
+    auto *screen = new Screen(arguments...);
+    window.addScreen(screen);
+    return screen;
+}
+
+} // namespace
+
+WizardScreens::WizardScreens(ProcessEnd processEnd)
+    : m_window(std::make_unique<WTWindow>())
+    , m_startView(makeScreen<WTStartView>(*m_window))
+{
+    m_window->setWindowTitle(localized(u"Wi-Fi配置工具"_s));
+
+    auto *unconnect = makeScreen<WTUnconnectView>(*m_window);
+    auto *manualAdd = makeScreen<WTNetworkWithManualAddition>(*m_window);
+    auto *installing = makeScreen<WTInstallingView>(*m_window);
+    auto *complete = makeScreen<WTCompleteView>(*m_window);
+    auto *failed = makeScreen<WTFailedView>(*m_window);
+    auto *configFailed = makeScreen<WTConfigFailedView>(*m_window);
+    auto *wpsMethod = makeScreen<WTSetWPSMethodView>(*m_window);
+    auto *pbcOrPin = makeScreen<WTSelectPBCModelView>(*m_window);
+    auto *routerButton = makeScreen<WTUseWPSSetWifiView>(*m_window);
+    auto *menuPbc = makeScreen<WTPrinterScreenWPSPBCView>(*m_window);
+    auto *menuPin = makeScreen<WTSetPINConfigView>(*m_window);
+    auto *linkState = makeScreen<WTWpsLinkStateView>(*m_window, processEnd);
+    auto *lightState = makeScreen<WTConfigStateInfoView>(*m_window, processEnd);
+
+    m_window->welcomeView = m_startView;
+    m_window->autoInstallView = installing;
+
+    m_startView->setUnconnectView(unconnect);
+    m_startView->setManualAdd(manualAdd);
+    m_startView->setWpsLinkView(wpsMethod);
+
+    manualAdd->setInstallingView(installing);
+    installing->setCompleteView(complete);
+    installing->setFailedView(failed);
+    installing->setConfigFailedView(configFailed);
+
+    wpsMethod->setSetMethodWPSView(routerButton);
+    wpsMethod->setSelectPbcMethodView(pbcOrPin);
+    pbcOrPin->setWpsPBCConfigView(menuPbc);
+    pbcOrPin->setNextView(menuPin);
+    routerButton->setSetWifiWpsResultView(lightState);
+    menuPbc->setPrinterSetStateResultView(linkState);
+    menuPin->setWpsStateView(linkState);
+
+    for (WTView *screen : m_window->findChildren<WTView *>())
+        screen->awakeFromNib();
+}
+
+WizardScreens::~WizardScreens() = default;
+
+void WizardScreens::show()
+{
+    m_window->setContentView(m_startView);
+    m_window->show();
+}

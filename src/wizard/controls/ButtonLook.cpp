@@ -1,0 +1,64 @@
+#include "ButtonLook.h"
+
+#include "Palette.h"
+
+#include <QAbstractButton>
+#include <QPainter>
+
+namespace
+{
+
+constexpr int ringRoom = 4;    ///< On every side of the shape.
+constexpr qreal ringWidth = 2; ///< Half of the room stays white between shape and ring.
+constexpr int shapeHeight = 40;
+constexpr int shapeWidth = 128; ///< At least.
+constexpr int padding = 24;
+constexpr int imageSize = 20;
+constexpr int imageGap = 8;
+
+int titleWidth(const QAbstractButton &button)
+{
+    return button.fontMetrics().size(Qt::TextShowMnemonic, button.text().trimmed()).width();
+}
+
+} // namespace
+
+void ButtonLook::paint(QPainter &painter, const QAbstractButton &button) const
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF shape = QRectF(button.rect()).adjusted(ringRoom, ringRoom, -ringRoom, -ringRoom);
+    const qreal inset = borderWidth / 2;
+    painter.setPen(border.isValid() && borderWidth > 0 ? QPen(border, borderWidth) : QPen(Qt::NoPen));
+    painter.setBrush(background.isValid() ? QBrush(background) : QBrush(Qt::NoBrush));
+    painter.drawRoundedRect(shape.adjusted(inset, inset, -inset, -inset), cornerRadius, cornerRadius);
+
+    if (button.hasFocus()) {
+        const qreal outside = ringRoom - ringWidth / 2;
+        painter.setPen(QPen(Palette::focusBlue, ringWidth));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(shape.adjusted(-outside, -outside, outside, outside), cornerRadius + outside,
+                                cornerRadius + outside);
+    }
+
+    const int imageRoom = image.isNull() ? 0 : imageSize + imageGap;
+    const int width = titleWidth(button);
+    const qreal left = leading ? shape.left() : shape.center().x() - (imageRoom + width) / 2.0;
+    image.paint(painter, QRectF(left, shape.center().y() - imageSize / 2.0, imageSize, imageSize));
+    painter.setPen(text.isValid() ? text : Palette::heading);
+    painter.drawText(QRectF(left + imageRoom, shape.top(), width + 1, shape.height()),
+                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, button.text().trimmed());
+}
+
+QSize ButtonLook::sizeHint(const QAbstractButton &button, const Picture &image, bool leading)
+{
+    const int content = titleWidth(button) + (image.isNull() ? 0 : imageSize + imageGap);
+    const int width = leading ? content + imageGap : qMax(shapeWidth, content + 2 * padding);
+    return {width + 2 * ringRoom, shapeHeight + 2 * ringRoom};
+}
+
+QString ButtonLook::spokenTitle(const QString &title)
+{
+    QString spoken = title.trimmed();
+    spoken.remove(u'&');
+    return spoken;
+}

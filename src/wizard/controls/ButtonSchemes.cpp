@@ -1,0 +1,58 @@
+#include "ButtonSchemes.h"
+
+#include "Palette.h"
+#include "WTButton.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+const auto checkedPicture = u"icon_selected 1"_s;
+const auto uncheckedPicture = u"Rectangle 394"_s;
+
+} // namespace
+
+void ButtonSchemes::applyRed(WTButton &button)
+{
+    button.textOffColor = Palette::white;
+    button.offBlackColor = Palette::red;
+    button.hoverColor = button.hoverBorderColor = Palette::redHover;
+    button.pressedColor = button.pressedBorderColor = Palette::redPressed;
+    button.awakeFromNib();
+}
+
+void ButtonSchemes::applyBack(WTButton &button)
+{
+    button.hoverBorderColor = Palette::redHover;
+    button.pressedBorderColor = Palette::redPressed;
+    button.setImages(u"icon_back"_s);
+    button.awakeFromNib();
+}
+
+void ButtonSchemes::applyBlue(WTButton &button)
+{
+    button.textOffColor = Palette::heading;
+    button.borderOffColor = button.borderOnColor = Palette::blue;
+    button.onBlackColor = Palette::blue;
+    button.defaultBorderColor = Palette::blue;
+    button.hoverBorderColor = button.pressedBorderColor = Palette::blueHover;
+    button.awakeFromNib();
+}
+
+void ButtonSchemes::applyCheckBox(WTButton &button)
+{
+    button.textOffColor = Palette::label;
+    button.setCheckable(true);
+    button.setLeading(true);
+    showChecked(button, false);
+    button.awakeFromNib();
+    button.setIsBorder(false);
+    button.setVisible(true);
+}
+
+void ButtonSchemes::showChecked(WTButton &checkBox, bool checked)
+{
+    checkBox.setChecked(checked);
+    checkBox.setImages(checked ? checkedPicture : uncheckedPicture);
+}

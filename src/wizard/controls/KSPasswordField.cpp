@@ -1,0 +1,90 @@
+#include "KSPasswordField.h"
+
+#include "Localized.h"
+#include "Picture.h"
+
+#include <QAction>
+#include <QIcon>
+#include <QKeyEvent>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+constexpr int markSize = 24;
+
+} // namespace
+
+QString KSPasswordTextFieldCell::markName() const
+{
+    return u"icon_hide"_s;
+}
+
+QString KSPasswordTextFieldCell::markAction() const
+{
+    return localized(u"隐藏密码"_s);
+}
+
+QString KSPasswordSecureTextFieldCell::markName() const
+{
+    return u"icon_show"_s;
+}
+
+QString KSPasswordSecureTextFieldCell::markAction() const
+{
+    return localized(u"显示密码"_s);
+}
+
+KSPasswordField::KSPasswordField(QWidget *parent)
+    : WTTextfield(parent)
+    , m_mark(addAction(QIcon(), TrailingPosition))
+{
+    setInputMethodHints(Qt::ImhHiddenText | Qt::ImhNoAutoUppercase | Qt::ImhNoPredictiveText | Qt::ImhSensitiveData);
+    connect(m_mark, &QAction::triggered, this, &KSPasswordField::showHidePressed);
+    setShowsText(false);
+}
+
+KSPasswordField::~KSPasswordField() = default;
+
+bool KSPasswordField::showsText() const
+{
+    return m_cell->echoMode() == QLineEdit::Normal;
+}
+
+void KSPasswordField::setShowsText(bool shows)
+{
+    if (shows)
+        m_cell = std::make_unique<KSPasswordTextFieldCell>();
+    else
+        m_cell = std::make_unique<KSPasswordSecureTextFieldCell>();
+    setEchoMode(m_cell->echoMode());
+    m_mark->setText(m_cell->markAction());
+    m_mark->setToolTip(m_cell->markAction());
+    m_mark->setIcon(Picture(m_cell->markName()).pixmap({markSize, markSize}, devicePixelRatioF()));
+}
+
+void KSPasswordField::setCapsLock(bool on)
+{
+    if (m_capsLock == on)
+        return;
+    m_capsLock = on;
+    Q_EMIT capsLockChanged(on);
+}
+
+void KSPasswordField::keyPressEvent(QKeyEvent *event)
+{
+    // The window system does not tell the lock's state, but a letter whose case contradicts the shift key does.
+    const QString typed = event->text();
+    if (event->key() == Qt::Key_CapsLock)
+        setCapsLock(!m_capsLock);
+    else if (typed.size() == 1 && typed[0].toLower() != typed[0].toUpper())
+        setCapsLock(typed[0].isUpper() != event->modifiers().testFlag(Qt::ShiftModifier));
+    WTTextfield::keyPressEvent(event);
+}
+
+void KSPasswordField::focusOutEvent(QFocusEvent *event)
+{
+    WTTextfield::focusOutEvent(event);
+    setCapsLock(false);
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QWidget>
+
+enum class WizardStep;
+
+/// The row of numbered steps at the top of every screen; the current one stands out, those behind it are ticked.
+class StepMarks : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit StepMarks(WizardStep current, QWidget *parent = nullptr);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    int m_current;
+    QStringList m_titles;
+};

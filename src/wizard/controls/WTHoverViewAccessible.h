@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QAccessibleWidget>
+
+class WTHoverView;
+
+/// The tile as a screen reader sees it: a radio button that can be pressed.
+class WTHoverViewAccessible : public QAccessibleWidget
+{
+public:
+    explicit WTHoverViewAccessible(WTHoverView *tile);
+
+    /// Makes the tiles known to the accessibility layer; further calls change nothing.
+    static void install();
+
+    QAccessible::State state() const override;
+    QStringList actionNames() const override;
+    void doAction(const QString &actionName) override;
+
+private:
+    WTHoverView *tile() const;
+};

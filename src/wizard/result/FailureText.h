@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+/// What the failure screen says; keys of their translations.
+struct FailureText {
+    QString text;   ///< What happened.
+    QString advice; ///< What one can do about it.
+
+    bool operator==(const FailureText &) const = default;
+};
+
+/// The capability code counts only with `showWiFiCapabilityError`, and then outranks the interface error.
+FailureText failureText(bool showInterfaceError, bool showWiFiCapabilityError, quint64 wifiCapabilityError);

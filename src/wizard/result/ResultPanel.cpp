@@ -1,0 +1,98 @@
+#include "ResultPanel.h"
+
+#include "Localized.h"
+#include "Palette.h"
+#include "PictureView.h"
+#include "TextFormat.h"
+#include "TextStyle.h"
+#include "WTManager.h"
+
+#include <QAccessible>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QUrl>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+constexpr QSize markSize{96, 96};
+constexpr int markGap = 32;
+constexpr int widestText = 560;
+
+QString folderLink(const QString &logPath)
+{
+    const QString folder = QFileInfo(logPath).absolutePath();
+    const QString link = u"<a href=\"%1\">%2</a>"_s.arg(QString::fromLatin1(QUrl::fromLocalFile(folder).toEncoded()),
+                                                        folder.toHtmlEscaped());
+    return formatText(localized(u"运行日志：%@"_s), {link});
+}
+
+} // namespace
+
+ResultPanel::ResultPanel(const QString &markName, QWidget *parent)
+    : QWidget(parent)
+    , m_message(TextStyle::makeLabel({}, TextStyle::Size::Large, Palette::heading))
+    , m_advice(TextStyle::makeLabel({}, TextStyle::Size::Body, Palette::label))
+    , m_log(TextStyle::makeLabel({}, TextStyle::Size::Small, Palette::label))
+{
+    m_message->setObjectName(u"message"_s);
+    m_message->setFont(TextStyle::font(TextStyle::Size::Large, QFont::DemiBold));
+    auto *adviceTitle = TextStyle::makeLabel(localized(u"您可以这样做"_s), TextStyle::Size::Body, Palette::heading);
+    adviceTitle->setFont(TextStyle::font(TextStyle::Size::Body, QFont::DemiBold));
+    m_log->setObjectName(u"logFolder"_s);
+    m_log->setTextFormat(Qt::RichText);
+    m_log->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    m_log->setOpenExternalLinks(true);
+    QPalette colors = m_log->palette();
+    colors.setColor(QPalette::Link, Palette::link);
+    m_log->setPalette(colors);
+
+    auto *texts = new QVBoxLayout;
+    texts->setSpacing(0);
+    texts->addWidget(m_message);
+    texts->addSpacing(24);
+    texts->addWidget(adviceTitle);
+    texts->addSpacing(8);
+    texts->addWidget(m_advice);
+    texts->addSpacing(24);
+    texts->addWidget(m_log);
+    texts->addStretch(1);
+    auto *column = new QWidget;
+    column->setMaximumWidth(widestText);
+    column->setLayout(texts);
+    texts->setContentsMargins(0, 0, 0, 0);
+
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 16, 0, 0);
+    layout->setSpacing(markGap);
+    layout->addWidget(new PictureView(markName, markSize), 0, Qt::AlignTop);
+    layout->addWidget(column, 1);
+    layout->addStretch(0);
+}
+
+void ResultPanel::setMessage(const QString &text)
+{
+    m_message->setText(text);
+}
+
+QString ResultPanel::message() const
+{
+    return m_message->text();
+}
+
+void ResultPanel::setAdvice(const QString &text)
+{
+    m_advice->setText(text);
+}
+
+void ResultPanel::showEvent(QShowEvent *)
+{
+    const QString logPath = WTManager::shared().logPath();
+    m_log->setVisible(m_showsLogFolder && !logPath.isEmpty());
+    if (!logPath.isEmpty())
+        m_log->setText(folderLink(logPath));
+    QAccessibleEvent alert(m_message, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}

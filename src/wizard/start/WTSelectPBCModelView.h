@@ -1,0 +1,28 @@
+#pragma once
+
+#include "MethodChoiceView.h"
+
+/// From the printer's menu: push button or PIN.
+class WTSelectPBCModelView : public MethodChoiceView
+{
+    Q_OBJECT
+
+public:
+    explicit WTSelectPBCModelView(QWidget *parent = nullptr);
+
+    void setWpsPBCConfigView(WTView *view) { m_wpsPBCConfigView = view; }
+    void setNextView(WTView *view) { m_nextView = view; }
+
+    void selectDone(WTHoverView *item) override;
+
+    void nextView();
+    void back();
+
+private:
+    WTSelectPBCModelView(WTHoverView *pushButton, WTHoverView *pin, QWidget *parent);
+
+    WTHoverView *m_selectWPS;
+    WTHoverView *m_selectPIN;
+    WTView *m_wpsPBCConfigView = nullptr;
+    WTView *m_nextView = nullptr;
+};

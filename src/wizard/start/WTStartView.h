@@ -1,0 +1,40 @@
+#pragma once
+
+#include "WTHoverView.h"
+#include "WTView.h"
+
+class TilePair;
+class WTDefaultStyleBtn;
+class WTNetworkWithManualAddition;
+class WTWiFiListScreen;
+
+/// The first screen: USB cable or Wi-Fi Protected Setup. Printers are looked for while it shows.
+class WTStartView : public WTView, public WTHoverViewDelegate
+{
+    Q_OBJECT
+
+public:
+    explicit WTStartView(QWidget *parent = nullptr);
+
+    void setWifiListView(WTWiFiListScreen *view) { m_wifiListView = view; }
+    void setManualAdd(WTNetworkWithManualAddition *view) { m_manualAdd = view; }
+    void setUnconnectView(WTView *view) { m_unconnectView = view; }
+    void setWpsLinkView(WTView *view) { m_wpsLinkView = view; }
+
+    void awakeFromNib() override;
+    void viewDidApear() override;
+    void selectDone(WTHoverView *item) override;
+
+    void ff_discoverPrinter();
+    void next();
+
+private:
+    WTHoverView *m_selectUSB;
+    WTHoverView *m_selectWPS;
+    TilePair *m_tiles;
+    WTDefaultStyleBtn *m_netxtBtn;
+    WTWiFiListScreen *m_wifiListView = nullptr;
+    WTNetworkWithManualAddition *m_manualAdd = nullptr;
+    WTView *m_unconnectView = nullptr;
+    WTView *m_wpsLinkView = nullptr;
+};

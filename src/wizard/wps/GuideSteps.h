@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QWidget>
+
+/// One step of a guidance: a picture and what to do, localised.
+struct GuideStep {
+    QString pictureName;
+    QString text;
+};
+
+/// Numbered steps side by side, each with its picture.
+class GuideSteps : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit GuideSteps(const QList<GuideStep> &steps, QWidget *parent = nullptr);
+};

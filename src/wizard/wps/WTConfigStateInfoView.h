@@ -1,0 +1,14 @@
+#pragma once
+
+#include "WpsOutcomeView.h"
+
+/// Outcome of the router-button way: what does the printer's indicator light do?
+class WTConfigStateInfoView : public WpsOutcomeView
+{
+    Q_OBJECT
+
+public:
+    explicit WTConfigStateInfoView(ProcessEnd processEnd, QWidget *parent = nullptr);
+
+    void finishAction();
+};
