@@ -8,7 +8,8 @@
 /// A format text and the place in the source where it stands. Made implicitly by the functions below.
 struct LogFormat {
     constexpr LogFormat(const char *utf8, std::source_location place = std::source_location::current())
-        : text(utf8), where(place)
+        : text(utf8)
+        , where(place)
     {
     }
     const char *text;

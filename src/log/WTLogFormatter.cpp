@@ -1,0 +1,50 @@
+#include "WTLogFormatter.h"
+
+#include "LocalTime.h"
+#include "TextFormat.h"
+#include "WTLogMessage.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+std::optional<QString> markOf(quint64 flag)
+{
+    switch (flag) {
+    case WTLogFlagError:
+        return u"❌"_s;
+    case WTLogFlagWarning:
+        return u"⚠️"_s;
+    case WTLogFlagInfo:
+        return u"🟢"_s;
+    case WTLogFlagDebug:
+        return u"👨🏻💻"_s;
+    case WTLogFlagVerbose:
+        return u"💼"_s;
+    default:
+        return std::nullopt;
+    }
+}
+
+QString dateText(WTLogMessage::Date moment)
+{
+    const LocalTime time(moment);
+    QString text = time.dateAndTime();
+    text += u'.';
+    appendDigits(text, time.millisecond(), 3);
+    return text;
+}
+
+} // namespace
+
+std::optional<QString> WTLogFormatter::formatLogMessage(const WTLogMessage &message)
+{
+    const QString date = dateText(message.timestamp());
+    const std::optional<QString> mark = markOf(message.flag());
+    if (message.flag() == WTLogFlagError || message.flag() == WTLogFlagVerbose)
+        return formatText(u"[%@ TID:%6@] %@ <FileName: %@> <Function: %@> <Line: %ld> %@",
+                          {date, message.threadID(), mark, message.fileName(), message.function(), message.line(),
+                           message.message()});
+    return formatText(u"[%@ TID:%6@] %@ %@", {date, message.threadID(), mark, message.message()});
+}

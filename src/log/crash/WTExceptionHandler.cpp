@@ -1,0 +1,140 @@
+#include "WTExceptionHandler.h"
+
+#include "CrashReport.h"
+#include "CrashReporter.h"
+#include "SignalReason.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <cxxabi.h>
+#include <exception>
+#include <execinfo.h>
+#include <memory>
+#include <typeinfo>
+#include <unistd.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+/// A fault of the current thread: the signal and the address that the system gives with it.
+struct Fault {
+    int signal = 0;
+    const void *address = nullptr;
+    bool operator==(const Fault &) const = default;
+};
+
+thread_local Fault lastFault;
+
+/// Whether the system raised the signal because of the instruction that the thread is to repeat now. A trap is over
+/// when it is reported, and what another process sends is no fault.
+bool comesFromRepeatedInstruction(int signal, const siginfo_t &info)
+{
+    constexpr std::array faults{SIGFPE, SIGILL, SIGBUS};
+    return info.si_code > 0 && std::ranges::find(faults, signal) != faults.end();
+}
+
+void restoreDefaultAction(int signal)
+{
+    struct sigaction action {
+    };
+    action.sa_handler = SIG_DFL;
+    sigaction(signal, &action, nullptr);
+}
+
+void handleSignal(int signal, siginfo_t *info, void * /*context*/)
+{
+    const int savedError = errno;
+    const Fault fault{signal, info->si_addr};
+    const bool isFault = comesFromRepeatedInstruction(signal, *info);
+    if (isFault && fault == lastFault) {
+        restoreDefaultAction(signal);
+        return;
+    }
+    if (isFault)
+        lastFault = fault;
+    Crash crash = Crash::ofCurrentThread();
+    crash.signal = signal;
+    CrashReporter::report(crash);
+    if (signal == SIGSEGV)
+        _exit(EXIT_SUCCESS);
+    errno = savedError;
+}
+
+QString demangled(const std::type_info &type)
+{
+    const std::unique_ptr<char, decltype(&std::free)> name(abi::__cxa_demangle(type.name(), nullptr, nullptr, nullptr),
+                                                           &std::free);
+    return QString::fromUtf8(name ? name.get() : type.name());
+}
+
+QString reasonOfCurrentException()
+{
+    try {
+        if (std::current_exception())
+            throw;
+    } catch (const std::exception &exception) {
+        return QString::fromUtf8(exception.what());
+    } catch (...) {
+        return u"an exception without a text"_s;
+    }
+    return u"terminated without an exception"_s;
+}
+
+[[noreturn]] void handleException()
+{
+    Crash crash = Crash::ofCurrentThread();
+    const std::type_info *type = abi::__cxa_current_exception_type();
+    crash.exceptionName = type ? demangled(*type) : u"std::terminate"_s;
+    crash.exceptionReason = reasonOfCurrentException();
+    CrashReporter::report(crash);
+    if (crash.exceptionReason.contains(u"SIGSEGV"_s))
+        std::_Exit(EXIT_SUCCESS);
+    // The exception has had its report, so the abort that ends the process gets none.
+    restoreDefaultAction(SIGABRT);
+    std::abort();
+}
+
+/// The main thread's; a handler can then run although the stack itself is what ran out.
+void useAlternateStack()
+{
+    constexpr size_t stackSize = 64 * 1024;
+    alignas(16) static std::array<std::byte, stackSize> memory;
+    stack_t stack{};
+    stack.ss_sp = memory.data();
+    stack.ss_size = memory.size();
+    sigaltstack(&stack, nullptr);
+}
+
+/// The first call of the system's backtrace loads a library, which is no work for a signal handler.
+void loadBacktrace()
+{
+    void *address = nullptr;
+    ::backtrace(&address, 1);
+}
+
+} // namespace
+
+void WTExceptionHandler::uncaughtExceptionHandler()
+{
+    loadBacktrace();
+    CrashReporter::start();
+    useAlternateStack();
+    std::set_terminate(&handleException);
+    struct sigaction action {
+    };
+    action.sa_sigaction = &handleSignal;
+    action.sa_flags = SA_SIGINFO | SA_ONSTACK | SA_RESTART;
+    sigfillset(&action.sa_mask);
+    for (const int signal : reportedSignals)
+        sigaction(signal, &action, nullptr);
+}
+
+QStringList WTExceptionHandler::backtrace()
+{
+    return Crash::ofCurrentThread().symbols();
+}

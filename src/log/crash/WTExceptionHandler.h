@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QStringList>
+
+/// Turns an uncaught exception or a signal that would end the process into one report in the log, written by every
+/// logger before the process goes on or ends.
+///
+/// After a report: SIGSEGV ends the process with status 0, an exception aborts it, and after any other signal the
+/// process carries on. An instruction that then faults again ends the process by the signal's default action, without
+/// another report, so that no fault can fill the disk.
+class WTExceptionHandler
+{
+public:
+    /// Installs the handlers. Once; the log does it when it is made.
+    static void uncaughtExceptionHandler();
+    /// The call stack of the current thread as text, innermost first, 128 entries at most.
+    static QStringList backtrace();
+};
