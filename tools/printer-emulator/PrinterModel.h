@@ -2,12 +2,12 @@
 
 #include "FrameReader.h"
 #include "ModelIdentity.h"
+#include "PrinterReply.h"
 #include "PrinterScript.h"
 #include "ReceivedFrame.h"
 
 #include <QByteArrayView>
 #include <chrono>
-#include <deque>
 #include <map>
 #include <optional>
 #include <vector>
@@ -20,22 +20,9 @@ struct PrinterRecord {
     std::optional<QByteArray> password;
 
     int count(quint16 command) const;
-    /// All commands of the sound frames, in order.
+    /// The commands of all sound frames, in order.
     std::vector<quint16> commands() const;
     bool allSound() const;
-};
-
-/// One transfer that the printer has to say.
-struct InTransfer {
-    enum class Kind {
-        Data,  ///< `bytes`, ended by a short or a zero-length packet.
-        Stall, ///< The endpoint halts.
-        Unplug ///< The printer leaves the bus.
-    };
-    Kind kind = Kind::Data;
-    QByteArray bytes;
-    /// After the transfer before it; for the first one, after the frame arrived.
-    std::chrono::milliseconds delay{0};
 };
 
 /// How the printer takes the next bytes of an OUT transfer.
@@ -44,7 +31,7 @@ struct OutPlan {
         Complete, ///< The transfer succeeds.
         Stall,    ///< The endpoint halts.
         Nak,      ///< The rest is never taken.
-        Unplug    ///< The printer leaves the bus.
+        Unplug,   ///< The printer leaves the bus.
     };
     qsizetype accept = 0; ///< Bytes to take, from the start of the chunk.
     After after = After::Complete;
@@ -75,7 +62,7 @@ public:
 
     OutPlan plan(QByteArrayView chunk);
     PrinterAnswer accept(QByteArrayView bytes, Instant now);
-    /// The host let go of the interface, or the plug was pulled: an unfinished frame is cut off. Returns it.
+    /// The host let go of the interface, or the plug was pulled: a frame under way is cut off. Returns it.
     std::optional<ReceivedFrame> endExchange();
 
     const PrinterRecord &record() const { return m_record; }
@@ -89,9 +76,11 @@ private:
     };
 
     Attempt begin(quint16 command);
-    void obey(const ReceivedFrame &frame, Instant now);
-    void reply(const Attempt &attempt, Instant now, PrinterAnswer &answer) const;
+    std::vector<BusEvent> eventsAfter(const Attempt &attempt) const;
+    PrinterReply obey(const ReceivedFrame &frame, const PrinterFault &fault, Instant now);
+    void configure(const ReceivedFrame &frame, const PrinterFault &fault, Instant now);
     bool hasAddress(Instant now) const;
+    QByteArray addressData() const;
 
     ModelIdentity m_identity;
     PrinterScript m_script;

@@ -8,12 +8,14 @@
 #include <functional>
 #include <memory>
 
+class UsbfsBus;
+
 /// A USB bus with emulated printers for a real, unmodified libusb: a fake sysfs, udev and usbfs for this process and
 /// for its children. One bed per process at a time. The program links through `wt_emulate_usbfs` (`USBFS` of
 /// `wt_add_test`).
 ///
-/// Order: make the bed before the first `libusb_init`, close libusb before destroying the bed. The bed ignores SIGHUP,
-/// since a pseudo-terminal stands behind each device node.
+/// Order: make the bed before the first `libusb_init`, close libusb before destroying the bed. When two programs, or
+/// two handles of one, have the same device open, a finished transfer of one wakes both.
 ///
 /// All operations may be called on any thread but the listener's. Scripted delays run on the time port. Printers are
 /// numbered from 0 in the order of `addPrinter`.
@@ -78,6 +80,5 @@ public:
     bool busy() const;
 
 private:
-    class Private;
-    std::unique_ptr<Private> d;
+    std::unique_ptr<UsbfsBus> m_bus;
 };

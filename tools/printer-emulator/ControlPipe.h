@@ -1,0 +1,30 @@
+#pragma once
+
+#include "ModelIdentity.h"
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <optional>
+
+/// What a device answers on its control endpoint.
+namespace ControlPipe
+{
+struct Setup {
+    static constexpr qsizetype size = 8;
+
+    quint8 requestType = 0;
+    quint8 request = 0;
+    quint16 value = 0;
+    quint16 index = 0;
+    quint16 length = 0;
+
+    /// `bytes` holds `size` bytes.
+    static Setup parse(QByteArrayView bytes);
+
+    /// Addressed to an interface, so that usbfs asks for a claim of it; the device ID of a printer may always be read.
+    std::optional<int> interfaceToClaim() const;
+};
+
+/// The data stage, cut to the length asked for; absent for a stall.
+std::optional<QByteArray> answer(const Setup &setup, const ModelIdentity &identity);
+} // namespace ControlPipe

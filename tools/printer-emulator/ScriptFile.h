@@ -1,0 +1,14 @@
+#pragma once
+
+#include "PrinterScript.h"
+
+#include <QByteArray>
+#include <QStringList>
+
+/// A script as JSON; README.md describes the format.
+struct ScriptFile {
+    PrinterScript script;
+    QStringList complaints; ///< What is wrong with the text; the script counts only when there are none.
+
+    static ScriptFile parse(const QByteArray &json);
+};

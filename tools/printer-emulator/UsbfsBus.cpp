@@ -1,0 +1,276 @@
+#include "UsbfsBus.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+/// What a program has not asked for in this time is not on its way to it any more: it may be asleep, or gone.
+constexpr std::chrono::seconds patience{1};
+
+constexpr int lastUsableDeviceNumber = 127;
+
+void check(bool succeeded, GError *error)
+{
+    if (succeeded)
+        return;
+    const std::string message = error->message;
+    g_error_free(error);
+    throw std::runtime_error(message);
+}
+} // namespace
+
+class UsbfsBus::Turn
+{
+public:
+    explicit Turn(UsbfsBus &bus)
+        : m_bus(bus)
+        , m_lock(bus.m_mutex)
+    {
+    }
+    ~Turn()
+    {
+        m_bus.settle();
+        // Destroying a timer may wait for its action, which wants the lock.
+        const std::unique_ptr<TimePort::Timer> old = m_bus.resetTimer();
+        m_lock.unlock();
+    }
+    Turn(const Turn &) = delete;
+    Turn &operator=(const Turn &) = delete;
+
+private:
+    UsbfsBus &m_bus;
+    std::unique_lock<std::mutex> m_lock;
+};
+
+UsbfsBus::UsbfsBus(TimePort &time)
+    : m_time(time)
+    , m_testbed(umockdev_testbed_new())
+    , m_thread(u"emulated USB bus"_s)
+{
+    gchar *root = umockdev_testbed_get_root_dir(m_testbed.get());
+    m_root = QString::fromUtf8(root);
+    g_free(root);
+    GError *error = nullptr;
+    check(umockdev_testbed_add_from_string(m_testbed.get(), UsbfsSysfs::rootHub().constData(), &error), error);
+}
+
+UsbfsBus::~UsbfsBus()
+{
+    std::unique_ptr<TimePort::Timer> timer;
+    {
+        const Turn turn(*this);
+        m_agenda = {};
+        for (const auto &device : m_devices)
+            device->leave();
+        timer = std::move(m_timer);
+    }
+    timer.reset();
+    m_thread.sync([this] {
+        m_holders.clear();
+        m_testbed.reset();
+    });
+}
+
+int UsbfsBus::add(PrinterModel model, UsbShape shape)
+{
+    const Turn turn(*this);
+    const int printer = int(m_devices.size());
+    const PrinterScript script = model.script();
+    m_devices.push_back(std::make_unique<UsbfsDevice>(*this, m_root, printer + 1, std::move(model), std::move(shape)));
+    scheduleStart(printer, script);
+    return printer;
+}
+
+void UsbfsBus::setScript(int printer, PrinterScript script)
+{
+    const Turn turn(*this);
+    scheduleStart(printer, script);
+    m_devices.at(printer)->model().setScript(std::move(script));
+}
+
+void UsbfsBus::scheduleStart(int printer, const PrinterScript &script)
+{
+    for (const BusEvent &event : script.events) {
+        if (!event.after)
+            m_agenda.add(now() + event.delay, {printer, event.action});
+    }
+}
+
+void UsbfsBus::setListener(Listener listener)
+{
+    const std::lock_guard lock(m_mutex);
+    m_listener = std::move(listener);
+}
+
+void UsbfsBus::plug(int printer)
+{
+    m_thread.sync([this, printer] { plugNow(printer); });
+}
+
+void UsbfsBus::unplug(int printer)
+{
+    with(printer, &UsbfsDevice::leave);
+    m_thread.sync([] {}); // `left` has posted the rest.
+}
+
+void UsbfsBus::plugNow(int printer)
+{
+    QByteArray description;
+    QString node;
+    UsbfsDevice *device = nullptr;
+    {
+        const Turn turn(*this);
+        device = m_devices.at(printer).get();
+        if (device->isPlugged())
+            return;
+        device->arrive(freeDeviceNumber());
+        device->sysfs().createInterfaces(device->shape());
+        device->interfacesChanged();
+        node = UsbfsSysfs::nodePath(device->deviceNumber());
+        description = device->sysfs().device(device->model().identity(), device->shape(), device->deviceNumber());
+    }
+    GError *error = nullptr;
+    check(umockdev_testbed_attach_ioctl(m_testbed.get(), node.toUtf8().constData(), device->handler(), &error), error);
+    check(umockdev_testbed_add_from_string(m_testbed.get(), description.constData(), &error), error);
+}
+
+void UsbfsBus::removeNow(const QByteArray &sysfsPath, const QString &nodePath)
+{
+    umockdev_testbed_uevent(m_testbed.get(), sysfsPath.constData(), "remove");
+    umockdev_testbed_remove_device(m_testbed.get(), sysfsPath.constData());
+    umockdev_testbed_detach_ioctl(m_testbed.get(), nodePath.toUtf8().constData(), nullptr);
+}
+
+int UsbfsBus::freeDeviceNumber()
+{
+    const auto isTaken = [this](int number) {
+        return std::ranges::any_of(m_devices, [number](const std::unique_ptr<UsbfsDevice> &device) {
+            return device->isPlugged() && device->deviceNumber() == number;
+        });
+    };
+    do {
+        m_lastDeviceNumber = m_lastDeviceNumber < lastUsableDeviceNumber ? m_lastDeviceNumber + 1 : 2;
+    } while (isTaken(m_lastDeviceNumber));
+    return m_lastDeviceNumber;
+}
+
+qint64 UsbfsBus::holdByProcess(int printer)
+{
+    const auto path = of<QString>(
+        printer, [this](const UsbfsDevice &device) { return m_root + UsbfsSysfs::nodePath(device.deviceNumber()); });
+    qint64 pid = 0;
+    // On the bus thread, since the holder ends with the thread that started it.
+    m_thread.sync([&] {
+        auto &holder = m_holders[printer] = std::make_unique<HolderProcess>(path.toStdString());
+        pid = holder->pid();
+    });
+    with(printer, [](UsbfsDevice &device) { device.setHeld(true); });
+    return pid;
+}
+
+void UsbfsBus::release(int printer)
+{
+    with(printer, [](UsbfsDevice &device) { device.setHeld(false); });
+    m_thread.sync([&] { m_holders.erase(printer); });
+}
+
+bool UsbfsBus::busy() const
+{
+    if (m_jobs > 0)
+        return true;
+    const std::lock_guard lock(m_mutex);
+    return std::chrono::steady_clock::now() < m_lastRequest + patience &&
+           std::ranges::any_of(m_devices, [](const auto &device) { return device->owesSomething(); });
+}
+
+void UsbfsBus::with(int printer, const std::function<void(UsbfsDevice &)> &action)
+{
+    const Turn turn(*this);
+    action(*m_devices.at(printer));
+}
+
+int UsbfsBus::serve(UsbfsDevice &device, UMockdevIoctlClient *client)
+{
+    const Turn turn(*this);
+    m_lastRequest = std::chrono::steady_clock::now();
+    return device.handle(client);
+}
+
+void UsbfsBus::left(UsbfsDevice &device)
+{
+    post([this, path = device.sysfs().path(), node = UsbfsSysfs::nodePath(device.deviceNumber())] {
+        removeNow(path, node);
+    });
+}
+
+void UsbfsBus::received(UsbfsDevice &device, const ReceivedFrame &frame)
+{
+    if (m_listener)
+        m_listener(numberOf(device), frame);
+}
+
+void UsbfsBus::scheduled(UsbfsDevice &device, const BusEvent &event)
+{
+    m_agenda.add(now() + event.delay, {numberOf(device), event.action});
+}
+
+void UsbfsBus::settle()
+{
+    for (const auto &device : m_devices)
+        device->pump();
+    while (const auto entry = m_agenda.takeDue(now()))
+        apply(entry->printer, entry->action);
+}
+
+void UsbfsBus::apply(int printer, BusEvent::Action action)
+{
+    UsbfsDevice &device = *m_devices.at(printer);
+    switch (action) {
+    case BusEvent::Action::Unplug:
+        return device.leave();
+    case BusEvent::Action::Plug:
+        return post([this, printer] { plugNow(printer); });
+    case BusEvent::Action::Hold:
+        return device.setHeld(true);
+    case BusEvent::Action::Release:
+        return device.setHeld(false);
+    case BusEvent::Action::Deny:
+        return device.setPermitted(false);
+    case BusEvent::Action::Permit:
+        return device.setPermitted(true);
+    }
+}
+
+std::unique_ptr<TimePort::Timer> UsbfsBus::resetTimer()
+{
+    std::optional<Instant> due = m_agenda.next();
+    for (const auto &device : m_devices) {
+        if (const auto next = device->nextDue())
+            due = std::min(due.value_or(*next), *next);
+    }
+    if (due == m_timerDue)
+        return nullptr;
+    m_timerDue = due;
+    std::unique_ptr<TimePort::Timer> old = std::move(m_timer);
+    if (due) {
+        const auto delay = std::chrono::ceil<TimePort::Duration>(*due - now());
+        m_timer = m_time.after(std::max(delay, TimePort::Duration{0}), [this] {
+            const Turn turn(*this);
+            m_timerDue.reset();
+        });
+    }
+    return old;
+}
+
+void UsbfsBus::post(std::function<void()> job)
+{
+    ++m_jobs;
+    m_thread.async([this, job = std::move(job)] {
+        job();
+        --m_jobs;
+    });
+}

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "Agenda.h"
+#include "HolderProcess.h"
+#include "SerialQueue.h"
+#include "TimePort.h"
+#include "UsbfsDevice.h"
+
+#include <atomic>
+#include <functional>
+#include <mutex>
+#include <vector>
+
+/// The bus behind UsbfsBed: the test bed of umockdev, the devices on it, their lock and their timer.
+///
+/// Three kinds of threads meet here: the test bed's own, which brings the programs' requests and must never be kept;
+/// the bus thread, on which everything that calls the test bed runs; and the callers of the public operations.
+class UsbfsBus final : public UsbfsDevice::Bus
+{
+public:
+    using Instant = TimePort::Instant;
+    using Listener = std::function<void(int printer, const ReceivedFrame &frame)>;
+
+    explicit UsbfsBus(TimePort &time);
+    ~UsbfsBus();
+    UsbfsBus(const UsbfsBus &) = delete;
+    UsbfsBus &operator=(const UsbfsBus &) = delete;
+
+    int add(PrinterModel model, UsbShape shape);
+    void plug(int printer);
+    void unplug(int printer);
+    void setScript(int printer, PrinterScript script);
+    void setListener(Listener listener);
+    qint64 holdByProcess(int printer);
+    void release(int printer);
+    bool busy() const;
+
+    /// Does something with a device under the lock, then moves what has become due.
+    void with(int printer, const std::function<void(UsbfsDevice &)> &action);
+    /// Reads something of a device under the lock.
+    template <typename Value>
+    Value of(int printer, const std::function<Value(const UsbfsDevice &)> &reader) const
+    {
+        const std::lock_guard lock(m_mutex);
+        return reader(*m_devices.at(printer));
+    }
+
+private:
+    /// One turn of the bus: the lock, and at its end everything due is done and the timer stands right.
+    class Turn;
+
+    Instant now() const override { return m_time.now(); }
+    int serve(UsbfsDevice &device, UMockdevIoctlClient *client) override;
+    void left(UsbfsDevice &device) override;
+    void received(UsbfsDevice &device, const ReceivedFrame &frame) override;
+    void scheduled(UsbfsDevice &device, const BusEvent &event) override;
+
+    int numberOf(const UsbfsDevice &device) const { return device.port() - 1; }
+    void scheduleStart(int printer, const PrinterScript &script);
+    void settle();
+    void apply(int printer, BusEvent::Action action);
+    std::unique_ptr<TimePort::Timer> resetTimer();
+    void post(std::function<void()> job);
+    void plugNow(int printer);
+    void removeNow(const QByteArray &sysfsPath, const QString &nodePath);
+    int freeDeviceNumber();
+
+    TimePort &m_time;
+    GObjectRef<UMockdevTestbed> m_testbed;
+    QString m_root;
+
+    mutable std::mutex m_mutex;
+    std::vector<std::unique_ptr<UsbfsDevice>> m_devices;
+    std::map<int, std::unique_ptr<HolderProcess>> m_holders;
+    Agenda m_agenda;
+    Listener m_listener;
+    std::unique_ptr<TimePort::Timer> m_timer;
+    std::optional<Instant> m_timerDue;
+    int m_lastDeviceNumber = 1;
+    /// Real time, not the port's: see `busy`.
+    std::chrono::steady_clock::time_point m_lastRequest;
+
+    std::atomic<int> m_jobs = 0;
+    SerialQueue m_thread;
+};

@@ -1,0 +1,282 @@
+#include "UsbfsDevice.h"
+
+#include "ControlPipe.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <iterator>
+#include <linux/usbdevice_fs.h>
+#include <sys/ioctl.h>
+#include <utility>
+
+namespace
+{
+constexpr quint32 capabilities = USBDEVFS_CAP_ZERO_PACKET | USBDEVFS_CAP_NO_PACKET_SIZE_LIM |
+                                 USBDEVFS_CAP_BULK_CONTINUATION | USBDEVFS_CAP_BULK_SCATTER_GATHER |
+                                 USBDEVFS_CAP_REAP_AFTER_DISCONNECT;
+
+} // namespace
+
+UsbfsDevice::UsbfsDevice(Bus &bus, const QString &root, int port, PrinterModel model, UsbShape shape)
+    : m_bus(bus)
+    , m_port(port)
+    , m_model(std::move(model))
+    , m_shape(std::move(shape))
+    , m_sysfs(root, port)
+    , m_root(root.toStdString())
+    , m_handler(umockdev_ioctl_base_new())
+    , m_interfaces(m_shape)
+    , m_inPipe(m_shape.packetSize)
+{
+    g_signal_connect(m_handler.get(), "handle-ioctl", G_CALLBACK(onRequest), this);
+}
+
+UsbfsDevice::~UsbfsDevice() = default;
+
+void UsbfsDevice::arrive(int deviceNumber)
+{
+    m_deviceNumber = deviceNumber;
+    m_node = std::make_unique<UsbfsNode>(m_root / UsbfsSysfs::nodePath(deviceNumber).sliced(1).toStdString());
+    m_node->setPermitted(m_permitted);
+}
+
+void UsbfsDevice::leave()
+{
+    if (!isPlugged())
+        return;
+    while (!m_pending.empty())
+        complete(m_pending.begin(), -ESHUTDOWN);
+    m_inPipe.clear();
+    m_halted.clear();
+    m_model.endExchange();
+    m_interfaces.reset();
+    m_node.reset();
+    m_bus.left(*this);
+}
+
+gboolean UsbfsDevice::onRequest(UMockdevIoctlBase *, UMockdevIoctlClient *client, gpointer self)
+{
+    auto *device = static_cast<UsbfsDevice *>(self);
+    const int answer = device->m_bus.serve(*device, client);
+    umockdev_ioctl_client_complete(client, answer < 0 ? -1 : answer, answer < 0 ? -answer : 0);
+    return true;
+}
+
+int UsbfsDevice::handle(UMockdevIoctlClient *client)
+{
+    const unsigned long request = umockdev_ioctl_client_get_request(client);
+    switch (request) {
+    case USBDEVFS_GET_CAPABILITIES:
+        *IoctlArgument<quint32>(client) = capabilities;
+        return 0;
+    case USBDEVFS_REAPURB:
+    case USBDEVFS_REAPURBNDELAY:
+        return reap(client);
+    case USBDEVFS_DISCARDURB:
+        return discard(client);
+    default:
+        break;
+    }
+    if (!isPlugged())
+        return -ENODEV;
+    switch (request) {
+    case USBDEVFS_SUBMITURB:
+        return submit(client);
+    case USBDEVFS_CLEAR_HALT:
+        m_halted.erase(quint8(*IoctlArgument<unsigned>(client)));
+        return 0;
+    default: {
+        const int answer = m_interfaces.handle(request, client);
+        interfacesChanged();
+        return answer;
+    }
+    }
+}
+
+int UsbfsDevice::submit(UMockdevIoctlClient *client)
+{
+    UsbfsUrb urb(client);
+    if (const int refused = permitTransfer(urb, client); refused < 0)
+        return refused;
+    m_pending.push_back(std::move(urb));
+    if (m_pending.back().isControl()) {
+        answerControl(m_pending.back());
+        complete(std::prev(m_pending.end()), m_pending.back().status);
+    }
+    return 0;
+}
+
+int UsbfsDevice::permitTransfer(const UsbfsUrb &urb, UMockdevIoctlClient *client)
+{
+    if (!urb.isControl())
+        return m_interfaces.claimForEndpoint(urb.endpoint(), client);
+    if (urb.length() < ControlPipe::Setup::size)
+        return -EINVAL;
+    const std::optional<int> interface = ControlPipe::Setup::parse(urb.bytes()).interfaceToClaim();
+    return interface ? m_interfaces.claim(*interface, client) : 0;
+}
+
+void UsbfsDevice::answerControl(UsbfsUrb &urb) const
+{
+    const auto answer = ControlPipe::answer(ControlPipe::Setup::parse(urb.bytes()), m_model.identity());
+    urb.status = answer ? 0 : -EPIPE;
+    urb.in = answer.value_or(QByteArray());
+}
+
+int UsbfsDevice::reap(UMockdevIoctlClient *client)
+{
+    const auto urb = std::ranges::find_if(m_done, [client](const UsbfsUrb &done) { return done.isFrom(client); });
+    if (urb == m_done.end())
+        return isPlugged() ? -EAGAIN : -ENODEV;
+    urb->writeBack(client);
+    m_done.erase(urb);
+    if (m_done.empty() && m_node)
+        m_node->setReady(false);
+    return 0;
+}
+
+int UsbfsDevice::discard(UMockdevIoctlClient *client)
+{
+    gulong address = 0;
+    std::memcpy(&address, umockdev_ioctl_client_get_arg(client)->data, sizeof address);
+    const auto urb = std::ranges::find_if(
+        m_pending, [&](const UsbfsUrb &pending) { return pending.isFrom(client) && pending.address() == address; });
+    if (urb == m_pending.end())
+        return -EINVAL; // It has completed; the program collects it.
+    complete(urb, -ENOENT);
+    return 0;
+}
+
+void UsbfsDevice::pump()
+{
+    pumpOut();
+    pumpIn();
+    if (m_inPipe.unplugIsDue(m_bus.now()))
+        leave();
+}
+
+UsbfsDevice::Urbs::iterator UsbfsDevice::nextOut()
+{
+    return std::ranges::find_if(m_pending, [](const UsbfsUrb &urb) { return !urb.isIn(); });
+}
+
+void UsbfsDevice::pumpOut()
+{
+    for (auto urb = nextOut(); urb != m_pending.end(); urb = nextOut()) {
+        if (m_halted.contains(urb->endpoint())) {
+            complete(urb, -EPIPE);
+            continue;
+        }
+        if (!urb->plan) {
+            urb->plan = m_model.plan(urb->bytes());
+            urb->due = m_bus.now() + urb->plan->delay;
+        }
+        if (urb->taken || urb->due > m_bus.now())
+            return;
+        takeOut(*urb);
+        switch (urb->plan->after) {
+        case OutPlan::After::Complete:
+            complete(urb, 0);
+            break;
+        case OutPlan::After::Stall:
+            m_halted.insert(urb->endpoint());
+            complete(urb, -EPIPE);
+            break;
+        case OutPlan::After::Nak:
+            return;
+        case OutPlan::After::Unplug:
+            leave();
+            return;
+        }
+    }
+}
+
+void UsbfsDevice::takeOut(UsbfsUrb &urb)
+{
+    urb.taken = true;
+    urb.out = urb.plan->accept;
+    const PrinterAnswer answer = m_model.accept(urb.bytes().first(urb.out), m_bus.now());
+    m_inPipe.push(answer.transfers, m_bus.now());
+    for (const ReceivedFrame &frame : answer.frames)
+        m_bus.received(*this, frame);
+    for (const BusEvent &event : answer.events)
+        m_bus.scheduled(*this, event);
+}
+
+void UsbfsDevice::pumpIn()
+{
+    for (auto next = m_pending.begin(); next != m_pending.end();) {
+        const auto urb = next++;
+        if (!urb->isIn())
+            continue;
+        if (m_halted.contains(urb->endpoint())) {
+            complete(urb, -EPIPE);
+            continue;
+        }
+        switch (m_inPipe.read(urb->in, urb->length(), m_bus.now())) {
+        case InPipe::Outcome::Waiting:
+            return;
+        case InPipe::Outcome::Complete:
+            complete(urb, 0);
+            break;
+        case InPipe::Outcome::Overflow:
+            complete(urb, -EOVERFLOW);
+            break;
+        case InPipe::Outcome::Stalled:
+            m_halted.insert(urb->endpoint());
+            complete(urb, -EPIPE);
+            break;
+        }
+    }
+}
+
+void UsbfsDevice::complete(Urbs::iterator urb, int status)
+{
+    urb->status = status;
+    m_done.splice(m_done.end(), m_pending, urb);
+    if (m_node)
+        m_node->setReady(true);
+}
+
+std::optional<UsbfsDevice::Instant> UsbfsDevice::nextDue() const
+{
+    std::optional<Instant> due = m_inPipe.nextDue(m_bus.now());
+    for (const UsbfsUrb &urb : m_pending) {
+        if (urb.plan && !urb.taken)
+            due = std::min(due.value_or(urb.due), urb.due);
+    }
+    return due;
+}
+
+bool UsbfsDevice::owesSomething() const
+{
+    return !m_done.empty() || (m_interfaces.claims() > 0 && m_inPipe.hasDue(m_bus.now()));
+}
+
+void UsbfsDevice::setKernelDriver(bool present)
+{
+    m_interfaces.setKernelDriver(present);
+    interfacesChanged();
+}
+
+void UsbfsDevice::setHeld(bool held)
+{
+    m_interfaces.setHeld(held);
+    interfacesChanged();
+}
+
+void UsbfsDevice::setPermitted(bool permitted)
+{
+    m_permitted = permitted;
+    if (m_node)
+        m_node->setPermitted(permitted);
+}
+
+void UsbfsDevice::interfacesChanged()
+{
+    if (m_interfaces.claims() == 0)
+        m_model.endExchange();
+    for (int number = 0; number < m_interfaces.count(); ++number)
+        m_sysfs.showDriver(number, m_interfaces.driver(number), m_model.identity());
+}

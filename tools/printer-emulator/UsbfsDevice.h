@@ -1,0 +1,103 @@
+#pragma once
+
+#include "InPipe.h"
+#include "PrinterModel.h"
+#include "UsbShape.h"
+#include "UsbfsInterfaces.h"
+#include "UsbfsNode.h"
+#include "UsbfsSysfs.h"
+#include "UsbfsUrb.h"
+
+#include <list>
+#include <memory>
+#include <optional>
+#include <set>
+
+/// One emulated printer as usbfs shows it: its node, its interfaces, its transfers. The bus that it hangs on guards all
+/// of its operations by one lock.
+class UsbfsDevice
+{
+public:
+    using Instant = std::chrono::steady_clock::time_point;
+
+    /// What the device needs of its bus. Called with the bus locked.
+    class Bus
+    {
+    public:
+        virtual Instant now() const = 0;
+        /// An answered request: 0 or above, or a negative errno. Takes and leaves the bus's lock by itself.
+        virtual int serve(UsbfsDevice &device, UMockdevIoctlClient *client) = 0;
+        /// The device has left; what the world sees of it has to go.
+        virtual void left(UsbfsDevice &device) = 0;
+        virtual void received(UsbfsDevice &device, const ReceivedFrame &frame) = 0;
+        virtual void scheduled(UsbfsDevice &device, const BusEvent &event) = 0;
+
+    protected:
+        ~Bus() = default;
+    };
+
+    UsbfsDevice(Bus &bus, const QString &root, int port, PrinterModel model, UsbShape shape);
+    ~UsbfsDevice();
+
+    PrinterModel &model() { return m_model; }
+    const PrinterModel &model() const { return m_model; }
+    const UsbShape &shape() const { return m_shape; }
+    const UsbfsSysfs &sysfs() const { return m_sysfs; }
+    int port() const { return m_port; }
+    UMockdevIoctlBase *handler() const { return m_handler.get(); }
+
+    void arrive(int deviceNumber);
+    void leave();
+    bool isPlugged() const { return m_node != nullptr; }
+    /// 0 before the first arrival.
+    int deviceNumber() const { return m_deviceNumber; }
+
+    /// The answer to one request of a program: 0 or above, or a negative errno.
+    int handle(UMockdevIoctlClient *client);
+    /// Moves whatever is due.
+    void pump();
+    std::optional<Instant> nextDue() const;
+    /// Something is finished, or due, that its program has not collected.
+    bool owesSomething() const;
+
+    const UsbfsInterfaces &interfaces() const { return m_interfaces; }
+    void setKernelDriver(bool present);
+    void setHeld(bool held);
+    void setPermitted(bool permitted);
+    /// Shows in sysfs who has the interfaces.
+    void interfacesChanged();
+
+private:
+    static gboolean onRequest(UMockdevIoctlBase *, UMockdevIoctlClient *client, gpointer self);
+
+    int submit(UMockdevIoctlClient *client);
+    int permitTransfer(const UsbfsUrb &urb, UMockdevIoctlClient *client);
+    int reap(UMockdevIoctlClient *client);
+    int discard(UMockdevIoctlClient *client);
+    void answerControl(UsbfsUrb &urb) const;
+
+    using Urbs = std::list<UsbfsUrb>;
+    void pumpOut();
+    void pumpIn();
+    void takeOut(UsbfsUrb &urb);
+    Urbs::iterator nextOut();
+    void complete(Urbs::iterator urb, int status);
+
+    Bus &m_bus;
+    const int m_port;
+    PrinterModel m_model;
+    const UsbShape m_shape;
+    const UsbfsSysfs m_sysfs;
+    const std::filesystem::path m_root;
+    GObjectRef<UMockdevIoctlBase> m_handler;
+
+    std::unique_ptr<UsbfsNode> m_node;
+    int m_deviceNumber = 0;
+    UsbfsInterfaces m_interfaces;
+    bool m_permitted = true;
+
+    Urbs m_pending;
+    Urbs m_done;
+    InPipe m_inPipe;
+    std::set<quint8> m_halted;
+};
