@@ -495,5 +495,41 @@
         <source>strong</source>
         <translation>Strong</translation>
     </message>
+    <message>
+        <source>选择无线网络</source>
+        <translation>Choose the Wi-Fi network</translation>
+    </message>
+    <message>
+        <source>请选择打印机要连接的网络，并输入它的密码。</source>
+        <translation>Choose the network that the printer should join, and enter its password.</translation>
+    </message>
+    <message>
+        <source>附近的无线网络</source>
+        <translation>Networks nearby</translation>
+    </message>
+    <message>
+        <source>正在查找无线网络…</source>
+        <translation>Looking for networks…</translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation>Refresh</translation>
+    </message>
+    <message>
+        <source>此电脑</source>
+        <translation>this computer</translation>
+    </message>
+    <message>
+        <source>前往设置</source>
+        <translation>Open Settings</translation>
+    </message>
+    <message>
+        <source>请打开定位服务，步骤：系统设置-&gt;隐私与安全性-&gt;隐私-&gt;定位服务。</source>
+        <translation>This program may not look for Wi-Fi networks. Allow it in the system settings, under Privacy or Wi-Fi.</translation>
+    </message>
+    <message>
+        <source>打印端口被占用，无法配置打印机</source>
+        <translation>The printer is in use by another job and cannot be set up now. Wait until it has finished.</translation>
+    </message>
 </context>
 </TS>

@@ -4,6 +4,7 @@
 #include "HostWiFiPort.h"
 
 #include <QMap>
+#include <QObject>
 #include <QString>
 #include <functional>
 #include <optional>
@@ -12,16 +13,16 @@ class DesktopPort;
 
 /// The process-wide application state: what the program knows of itself, of its host and of the host's own wireless
 /// connection, and the interface language. One instance, made on first use. All on the main thread.
-class WTApp
+class WTApp : public QObject
 {
+    Q_OBJECT
+
 public:
     using DeviceInfo = QMap<QString, QString>;
 
     /// The machine the program runs on. Once, before the first use of `shared()`; both ports outlive the program.
     static void usePorts(HostWiFiPort &hostWiFi, DesktopPort &desktop, const HostCapabilities &capabilities);
     static WTApp &shared();
-    WTApp(const WTApp &) = delete;
-    WTApp &operator=(const WTApp &) = delete;
 
     HostWiFiPort &hostWiFi() const;
     DesktopPort &desktop() const;
@@ -87,6 +88,10 @@ public:
     static void wt_systemLog();
     /// Logs the farewell and ends the event loop with exit status 0.
     static void wt_exitApp();
+
+Q_SIGNALS:
+    /// The host has answered what it has stored for the network `ssid`, and the callback of the request has run.
+    void storedPasswordArrived(const QString &ssid);
 
 private:
     WTApp() = default;

@@ -83,12 +83,13 @@ void WTApp::pwdBySSID(const std::optional<QString> &ssid, PasswordCallback callB
     }
     onMainThread([callBack = std::move(callBack)] {
         const QString account = shared().selectedSSID.value_or(QString());
-        shared().hostWiFi().storedPassword(account, [callBack](SecretStatus status, const QString &password) {
-            onMainThread([callBack, status, password] {
+        shared().hostWiFi().storedPassword(account, [callBack, account](SecretStatus status, const QString &password) {
+            onMainThread([callBack, account, status, password] {
                 logSecretFailure(status);
                 if (status == SecretStatus::Success)
                     shared().selectedPassword = password;
                 callBack(status == SecretStatus::Success ? password : QString());
+                Q_EMIT shared().storedPasswordArrived(account);
             });
         });
     });

@@ -14,6 +14,7 @@
 #include "WTStartView.h"
 #include "WTUnconnectView.h"
 #include "WTUseWPSSetWifiView.h"
+#include "WTWiFiListView.h"
 #include "WTWindow.h"
 #include "WTWpsLinkStateView.h"
 
@@ -39,6 +40,7 @@ WizardScreens::WizardScreens(ProcessEnd processEnd)
     m_window->setWindowTitle(localized(u"Wi-Fi配置工具"_s));
 
     auto *unconnect = makeScreen<WTUnconnectView>(*m_window);
+    auto *wifiList = makeScreen<WTWiFiListView>(*m_window);
     auto *manualAdd = makeScreen<WTNetworkWithManualAddition>(*m_window);
     auto *installing = makeScreen<WTInstallingView>(*m_window);
     auto *complete = makeScreen<WTCompleteView>(*m_window);
@@ -56,9 +58,11 @@ WizardScreens::WizardScreens(ProcessEnd processEnd)
     m_window->autoInstallView = installing;
 
     m_startView->setUnconnectView(unconnect);
+    m_startView->setWifiListView(wifiList);
     m_startView->setManualAdd(manualAdd);
     m_startView->setWpsLinkView(wpsMethod);
 
+    wifiList->setInstallingView(installing);
     manualAdd->setInstallingView(installing);
     installing->setCompleteView(complete);
     installing->setFailedView(failed);

@@ -21,3 +21,12 @@ void WTTextfield::focusInEvent(QFocusEvent *event)
     QLineEdit::focusInEvent(event);
     Q_EMIT controlDidBecomeFirstResponder(this);
 }
+
+void WTTextfield::putBack(const QString &shown)
+{
+    if (text() == shown)
+        return;
+    const int cursor = cursorPosition();
+    setText(shown);
+    setCursorPosition(cursor);
+}

@@ -11,6 +11,9 @@ class WTTextfield : public QLineEdit
 public:
     explicit WTTextfield(QWidget *parent = nullptr);
 
+    /// Shows `text` with the cursor left where the user has it. A field that shows it already keeps its undo history.
+    void putBack(const QString &text);
+
 Q_SIGNALS:
     /// The field got the keyboard.
     void controlDidBecomeFirstResponder(WTTextfield *field);

@@ -36,16 +36,6 @@ void showNoteAlert(QWidget *window, const QString &informativeText)
                        .buttons = {localized(u"确定"_s)}});
 }
 
-/// Puts `text` into the field with the cursor left where the user has it. A field that shows it already keeps its undo.
-void putBack(WTTextfield *field, const QString &text)
-{
-    if (field->text() == text)
-        return;
-    const int cursor = field->cursorPosition();
-    field->setText(text);
-    field->setCursorPosition(cursor);
-}
-
 } // namespace
 
 WTNetworkWithManualAddition::WTNetworkWithManualAddition(QWidget *parent)
@@ -161,16 +151,16 @@ void WTNetworkWithManualAddition::controlDidBecomeFirstResponder(WTTextfield *fi
 void WTNetworkWithManualAddition::controlTextDidChange(WTTextfield *field)
 {
     if (field == m_ssidTextField)
-        putBack(field, m_model.cutName(field->text()));
+        field->putBack(m_model.cutName(field->text()));
     else
-        putBack(field, m_model.passwordAfterTyping(field->text()));
+        field->putBack(m_model.passwordAfterTyping(field->text()));
     updateBtnNextStepState();
 }
 
 void WTNetworkWithManualAddition::controlTextDidEndEditing(WTTextfield *)
 {
-    putBack(m_ssidTextField, m_model.cutName(m_ssidTextField->text()));
-    putBack(m_passwordTextField, m_model.cutPassword(m_passwordTextField->text()));
+    m_ssidTextField->putBack(m_model.cutName(m_ssidTextField->text()));
+    m_passwordTextField->putBack(m_model.cutPassword(m_passwordTextField->text()));
     updateBtnNextStepState();
 }
 

@@ -1,33 +1,20 @@
 #include "WTNetworkWithManualAdditionModel.h"
 
 #include "PrinterPassword.h"
+#include "cutText.h"
 
 #include <QRegularExpression>
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace
-{
-
-/// The first `length` units of `text`; one less where the cut would go through a surrogate pair.
-QString cut(const QString &text, qsizetype length)
-{
-    if (text.size() <= length)
-        return text;
-    const bool splitsPair = text[length - 1].isHighSurrogate() && text[length].isLowSurrogate();
-    return text.first(splitsPair ? length - 1 : length);
-}
-
-} // namespace
-
 QString WTNetworkWithManualAdditionModel::cutName(const QString &name)
 {
-    return cut(name, maximumNameLength);
+    return cutText(name, maximumNameLength);
 }
 
 QString WTNetworkWithManualAdditionModel::cutPassword(const QString &password)
 {
-    return cut(password, maximumPasswordLength);
+    return cutText(password, maximumPasswordLength);
 }
 
 QString WTNetworkWithManualAdditionModel::passwordAfterTyping(const QString &typed)

@@ -1,0 +1,70 @@
+#include "NetworkRows.h"
+
+#include "Localized.h"
+#include "TextFormat.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+constexpr qint64 openSecurity = 1;
+
+} // namespace
+
+void NetworkRows::setNetworks(const std::vector<WTWiFiPtr> &networks, const QString &joined)
+{
+    beginResetModel();
+    m_networks = networks;
+    m_joined = joined;
+    endResetModel();
+}
+
+void NetworkRows::setChosenRow(int row)
+{
+    const int before = std::exchange(m_chosenRow, row);
+    for (const int changed : {before, row}) {
+        if (changed >= 0 && changed < rowCount())
+            Q_EMIT dataChanged(index(changed), index(changed), {ChosenRole});
+    }
+}
+
+int NetworkRows::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_networks.size());
+}
+
+QVariant NetworkRows::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid())
+        return {};
+    const WTWiFi &network = *m_networks[std::size_t(index.row())];
+    switch (role) {
+    case Qt::DisplayRole:
+    case NameRole:
+        return network.SSID.value_or(QString());
+    case Qt::AccessibleTextRole:
+        return description(network);
+    case QualityRole:
+        return network.quality;
+    case SecurityRole:
+        return network.authModeLabel().value_or(QString());
+    case LockedRole:
+        return network.security != openSecurity;
+    case ChosenRole:
+        return index.row() == m_chosenRow;
+    case ThisComputersRole:
+        return !m_joined.isEmpty() && network.SSID == m_joined;
+    default:
+        return {};
+    }
+}
+
+QString NetworkRows::description(const WTWiFi &network) const
+{
+    QStringList parts{network.SSID.value_or(QString()), formatText("%ld%%", network.quality),
+                      network.authModeLabel().value_or(QString())};
+    if (!m_joined.isEmpty() && network.SSID == m_joined)
+        parts += localized(u"此电脑"_s);
+    return parts.join(u", "_s);
+}
