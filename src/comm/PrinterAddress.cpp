@@ -32,9 +32,9 @@ constexpr QStringView ipv6Pattern{
     uR"(|^([\da-fA-F]{1,4}:){6}:$)"};
 
 /// "$" alone would let a final line end pass.
-bool matchesWhole(const QString &text, QStringView pattern)
+QRegularExpression wholeText(QStringView pattern)
 {
-    return QRegularExpression{QRegularExpression::anchoredPattern(pattern)}.match(text).hasMatch();
+    return QRegularExpression{QRegularExpression::anchoredPattern(pattern)};
 }
 
 std::optional<QString> fieldOf(const QByteArray &data, AddressField field)
@@ -46,12 +46,14 @@ std::optional<QString> fieldOf(const QByteArray &data, AddressField field)
 
 bool isIPv4Address(const QString &text)
 {
-    return matchesWhole(text, ipv4Pattern);
+    static const QRegularExpression pattern = wholeText(ipv4Pattern);
+    return pattern.match(text).hasMatch();
 }
 
 bool isIPv6Address(const QString &text)
 {
-    return matchesWhole(text, ipv6Pattern);
+    static const QRegularExpression pattern = wholeText(ipv6Pattern);
+    return pattern.match(text).hasMatch();
 }
 
 AddressCandidates addressCandidates(const QByteArray &data)

@@ -1,5 +1,6 @@
 #include "WTManager.h"
 
+#include "ConfigurationOutcome.h"
 #include "Log.h"
 #include "PrinterCommand.h"
 #include "PrinterExchange.h"
@@ -19,8 +20,6 @@ constexpr auto joinTimeout = 180s;
 /// What the printer needs to switch to its new network before it can be asked for its address.
 constexpr auto switchPause = 5s;
 
-constexpr quint16 joined = 1;
-
 /// The worker of configurations that are refused before they are sent. It lives as long as the process.
 SerialQueue &refusals()
 {
@@ -37,11 +36,6 @@ WTCUSBPrinter::HeadCallback keepResult(std::shared_ptr<quint16> kept)
             *dataLength = 0;
         }
     };
-}
-
-bool isUnreachable(const std::optional<WTError> &error)
-{
-    return error && error->code == static_cast<int>(WTCErrorCode::Unreachable);
 }
 
 } // namespace
@@ -67,14 +61,9 @@ void WTManager::wifiConfigForPrinter(const QString &uri, quint32, const QString 
     PrinterExchange::send(cmd, uri, WTCommand::PJLWithCMD(cmd, payload), joinTimeout, keepResult(result),
                           [result, callBack = std::move(callBack)](const std::optional<QByteArray> &data,
                                                                    const std::optional<WTError> &error) {
-                              if (!data && isUnreachable(error)) {
-                                  callBack(static_cast<int>(WTPrinterStatus::LibraryError31),
-                                           static_cast<quint16>(error->code));
-                              } else if (*result == joined) {
+                              const auto outcome = configurationOutcome(data.has_value(), error, *result);
+                              if (outcome.status == WTPrinterStatus::Success)
                                   shared().time().sleep(switchPause);
-                                  callBack(static_cast<int>(WTPrinterStatus::Success), joined);
-                              } else {
-                                  callBack(static_cast<int>(WTPrinterStatus::NoHeader), *result);
-                              }
+                              callBack(static_cast<int>(outcome.status), outcome.result);
                           });
 }

@@ -1,0 +1,101 @@
+#include "CupsSpooler.h"
+#include "CupsBed.h"
+#include "PrintQueueBusyCheck.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+#include <algorithm>
+#include <future>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+/// libcups remembers its server for each thread, so a fresh thread asks the one that the environment names now.
+std::vector<PrintDestination> askFreshly(bool onConnection)
+{
+    return std::async(std::launch::async,
+                      [onConnection] { return CupsSpooler{{.spoolerHasConnection = onConnection}}.destinations(); })
+        .get();
+}
+
+void addConnectionRows()
+{
+    QTest::addColumn<bool>("onConnection");
+    QTest::newRow("on a connection") << true;
+    QTest::newRow("without a connection") << false;
+}
+
+} // namespace
+
+/// Asks a real spooler that has one queue in print and one idle.
+class CupsSpoolerTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void listsTheQueuesWithTheirStates_data() { addConnectionRows(); }
+    void listsTheQueuesWithTheirStates();
+    void tellsAPrintingPrinterFromAnIdleOne_data();
+    void tellsAPrintingPrinterFromAnIdleOne();
+    void answersNothingAtOnceWhereNobodyListens_data() { addConnectionRows(); }
+    void answersNothingAtOnceWhereNobodyListens();
+
+private:
+    CupsBed m_bed;
+};
+
+void CupsSpoolerTest::initTestCase()
+{
+    QVERIFY(m_bed.isReady());
+    QVERIFY(m_bed.addQueue(u"QZ100_USB"_s));
+    QVERIFY(m_bed.addQueue(u"QZ200_USB"_s));
+    QVERIFY(m_bed.holdInPrint(u"QZ100_USB"_s));
+}
+
+void CupsSpoolerTest::listsTheQueuesWithTheirStates()
+{
+    QFETCH(bool, onConnection);
+    auto queues = askFreshly(onConnection);
+    std::ranges::sort(queues, {}, &PrintDestination::name);
+    QCOMPARE(queues.size(), 2U);
+    QCOMPARE(queues[0].name, "QZ100_USB");
+    QCOMPARE(queues[0].printerState, QByteArray{"4"});
+    QCOMPARE(queues[1].name, "QZ200_USB");
+    QCOMPARE(queues[1].printerState, QByteArray{"3"});
+}
+
+void CupsSpoolerTest::tellsAPrintingPrinterFromAnIdleOne_data()
+{
+    QTest::addColumn<QString>("printerType");
+    QTest::addColumn<bool>("busy");
+    QTest::newRow("in print") << u"QZ100 series"_s << true;
+    QTest::newRow("idle") << u"QZ200 series"_s << false;
+    QTest::newRow("without a queue") << u"QZ300 series"_s << false;
+}
+
+void CupsSpoolerTest::tellsAPrintingPrinterFromAnIdleOne()
+{
+    QFETCH(QString, printerType);
+    QFETCH(bool, busy);
+    QCOMPARE(isWorking(askFreshly(true), printerType, u"Quillmark"_s, BusyCheckVariant::ManualEntry), busy);
+}
+
+void CupsSpoolerTest::answersNothingAtOnceWhereNobodyListens()
+{
+    QFETCH(bool, onConnection);
+    const QByteArray server = qgetenv("CUPS_SERVER");
+    qputenv("CUPS_SERVER", server + ".nobody");
+    QElapsedTimer clock;
+    clock.start();
+    const auto queues = askFreshly(onConnection);
+    const qint64 milliseconds = clock.elapsed();
+    qputenv("CUPS_SERVER", server);
+    QVERIFY(queues.empty());
+    QVERIFY2(milliseconds < 5000, qPrintable(QString::number(milliseconds)));
+}
+
+QTEST_GUILESS_MAIN(CupsSpoolerTest)
+#include "CupsSpoolerTest.moc"
