@@ -1,0 +1,12 @@
+#pragma once
+
+#include "SerialQueue.h"
+
+/// Work that needs no order among itself and no thread of its own.
+namespace GlobalQueue
+{
+
+/// Queues `job` on one of a few shared threads and returns. Any thread.
+void async(SerialQueue::Job job);
+
+} // namespace GlobalQueue

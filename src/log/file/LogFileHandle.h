@@ -1,0 +1,32 @@
+#pragma once
+
+#include "FileDescriptor.h"
+#include "FileError.h"
+
+#include <QByteArrayView>
+
+/// A log file open for appending, to be written by several processes in turn. Every operation but `open` and `isOpen`
+/// asks for an open file.
+class LogFileHandle
+{
+public:
+    /// An existing regular file; a symbolic link is refused. Positioned at the beginning.
+    FileError open(const QString &path);
+    bool isOpen() const { return m_file.isOpen(); }
+    int descriptor() const { return m_file.get(); }
+
+    FileError seekToEnd();
+    /// At the position that `seekToEnd` found: all the bytes or none.
+    FileError write(QByteArrayView bytes);
+    FileError readOffset(quint64 &offset) const;
+    FileError synchronize();
+    /// The handle is closed afterwards, whatever the answer.
+    FileError close();
+
+private:
+    FileError error() const { return FileError::ofLastCall(m_path); }
+
+    QString m_path;
+    FileDescriptor m_file;
+    off_t m_end = 0;
+};

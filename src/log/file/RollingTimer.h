@@ -1,0 +1,14 @@
+#pragma once
+
+#include "DescriptorSource.h"
+
+/// Runs an action once on a queue, at a time of day: a clock that is set forward makes it due.
+class RollingTimer
+{
+public:
+    /// `interval` is in seconds from now; at most 9223372036 count.
+    RollingTimer(double interval, std::shared_ptr<SerialQueue> queue, DescriptorSource::Action onDue);
+
+private:
+    DescriptorSource m_source;
+};
