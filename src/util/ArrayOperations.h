@@ -226,6 +226,21 @@ std::optional<Element> takeAt(QList<Element> &list, qsizetype index)
     return list.isEmpty() ? std::nullopt : std::optional(list.takeAt(index));
 }
 
+/// Copies the next `count` objects at most; `changes` tells one state of the array from the next.
+template <typename Element>
+qsizetype nextBatch(const QList<Element> &list, quint64 changes, ArrayEnumerationState &state, Element *objects,
+                    qsizetype count)
+{
+    if (state.next == 0)
+        state.changesSeen = changes;
+    if (state.changesSeen != changes)
+        throw std::logic_error("collection changed while it was enumerated");
+    const qsizetype copied = qMin(count, list.size() - state.next);
+    std::copy_n(list.begin() + state.next, copied, objects);
+    state.next += copied;
+    return copied;
+}
+
 /// A uniformly random number below `end`, which is above 0.
 inline qsizetype randomBelow(qsizetype end)
 {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ArrayOperations.h"
-#include "Locked.h"
+#include "LockedCollection.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -27,7 +27,7 @@ public:
 
     LockedArray() = default;
     explicit LockedArray(const List &objects)
-        : m_arr(Contents{objects})
+        : m_arr(objects)
     {
     }
     LockedArray(const Element *objects, qsizetype count)
@@ -151,7 +151,9 @@ public:
     /// this batch only; throws std::logic_error when the array was changed since the first batch.
     qsizetype countByEnumeratingWithState(ArrayEnumerationState &state, Element *objects, qsizetype count) const
     {
-        return m_arr.read([&](const Contents &contents) { return contents.nextBatch(state, objects, count); });
+        return m_arr.readCounted([&](const List &list, quint64 changes) {
+            return ArrayOperations::nextBatch(list, changes, state, objects, count);
+        });
     }
 
     // Deriving new arrays
@@ -370,11 +372,7 @@ public:
     // Copying and comparing
     Array copy() const { return mutableCopy(); }
     Array mutableCopy() const { return Array(objectEnumerator()); }
-    bool isEqual(const Array &other) const
-    {
-        return m_arr.equals(other.m_arr,
-                            [](const Contents &ours, const Contents &theirs) { return ours.list == theirs.list; });
-    }
+    bool isEqual(const Array &other) const { return m_arr.isEqual(other.m_arr); }
     /// A plain array, or anything else, is never equal.
     template <typename Other>
     bool isEqual(const Other &) const
@@ -391,35 +389,15 @@ protected:
     template <typename Reader>
     auto read(Reader &&reader) const
     {
-        return m_arr.read([&](const Contents &contents) { return reader(contents.list); });
+        return m_arr.read(reader);
     }
 
     template <typename Writer>
     auto change(Writer &&writer)
     {
-        return m_arr.change([&](Contents &contents) {
-            ++contents.changes;
-            return writer(contents.list);
-        });
+        return m_arr.change(writer);
     }
 
 private:
-    struct Contents {
-        List list;
-        quint64 changes = 0;
-
-        qsizetype nextBatch(ArrayEnumerationState &state, Element *objects, qsizetype count) const
-        {
-            if (state.next == 0)
-                state.changesSeen = changes;
-            if (state.changesSeen != changes)
-                throw std::logic_error("array changed while it was enumerated");
-            const qsizetype copied = qMin(count, list.size() - state.next);
-            std::copy_n(list.begin() + state.next, copied, objects);
-            state.next += copied;
-            return copied;
-        }
-    };
-
-    Locked<Contents> m_arr;
+    LockedCollection<List> m_arr;
 };

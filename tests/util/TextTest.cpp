@@ -1,0 +1,116 @@
+#include "InfoList.h"
+#include "TextFormat.h"
+#include "isSafe.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+class TextTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void formats_data();
+    void formats();
+    void describesBytesWithoutTheirMiddle_data();
+    void describesBytesWithoutTheirMiddle();
+    void knowsUsableContent();
+    void readsTheInformationList();
+};
+
+void TextTest::formats_data()
+{
+    QTest::addColumn<QString>("made");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("texts") << formatText("%@ and %s", u"a"_s, "ä") << u"a and ä"_s;
+    QTest::newRow("absent text") << formatText("[%@]", std::optional<QString>()) << u"[(null)]"_s;
+    QTest::newRow("empty text") << formatText("[%@]", std::optional(u""_s)) << u"[]"_s;
+    QTest::newRow("missing argument") << formatText("%@ %d", u"a"_s) << u"a (null)"_s;
+    QTest::newRow("spare argument") << formatText("%@", u"a"_s, 2) << u"a"_s;
+    QTest::newRow("numbers") << formatText("%d %ld %u %lu %hu %llu", -1, qint64{-2}, 3u, quint64{4}, quint16{5},
+                                           ~quint64{0})
+                             << u"-1 -2 3 4 5 18446744073709551615"_s;
+    QTest::newRow("hexadecimal") << formatText("0x%X %04X %x", 0xFF21, 0x2A, 0xAB) << u"0xFF21 002A ab"_s;
+    QTest::newRow("negative as bits") << formatText("%X %hu %lX", -1, -1, qint64{-1})
+                                      << u"FFFFFFFF 65535 FFFFFFFFFFFFFFFF"_s;
+    QTest::newRow("right aligned") << formatText("TID:%6@|", u"42"_s) << u"TID:    42|"_s;
+    QTest::newRow("wider than its field") << formatText("%2@", u"long"_s) << u"long"_s;
+    QTest::newRow("number as object") << formatText("%@", 7) << u"7"_s;
+    QTest::newRow("text in a numeric place") << formatText("%d", u"seven"_s) << u"seven"_s;
+    QTest::newRow("per cent signs") << formatText("100%% of %@%", u"a"_s) << u"100% of a%"_s;
+    QTest::newRow("unknown letter") << formatText("%q %@", u"a"_s) << u"%q a"_s;
+    QTest::newRow("argument with placeholders") << formatText("%@ %@", u"%d"_s, u"b"_s) << u"%d b"_s;
+    QTest::newRow("cut short") << formatText("a%0", 1) << u"a%0"_s;
+}
+
+void TextTest::formats()
+{
+    QFETCH(QString, made);
+    QTEST(made, "expected");
+}
+
+void TextTest::describesBytesWithoutTheirMiddle_data()
+{
+    QTest::addColumn<qsizetype>("length");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("none") << qsizetype{0} << u"{length = 0, bytes = 0x}"_s;
+    QTest::newRow("whole") << qsizetype{24}
+                           << u"{length = 24, bytes = 0x000102030405060708090a0b0c0d0e0f1011121314151617}"_s;
+    QTest::newRow("cut") << qsizetype{25}
+                         << u"{length = 25, bytes = 0x000102030405060708090a0b0c0d0e0f ... 1112131415161718}"_s;
+}
+
+void TextTest::describesBytesWithoutTheirMiddle()
+{
+    QFETCH(qsizetype, length);
+    QByteArray bytes;
+    for (qsizetype value = 0; value < length; ++value)
+        bytes.append(static_cast<char>(value));
+    QTEST(formatText("%@", bytes), "expected");
+}
+
+void TextTest::knowsUsableContent()
+{
+    QVERIFY(isSafe(u" a\n"_s));
+    QVERIFY(!isSafe(u"   \n"_s));
+    QVERIFY(!isSafe(QString()));
+    QVERIFY(!isSafe(std::optional<QString>()));
+    QVERIFY(!isSafe(std::optional(u" "_s)));
+    QVERIFY(isSafe(QByteArray(1, ' ')));
+    QVERIFY(!isSafe(QByteArray()));
+    QVERIFY(!isSafe(QList<int>()));
+    QVERIFY(isSafe(QList<int>{0}));
+    QVERIFY(isSafe(QJsonValue(0)));
+    QVERIFY(isSafe(QJsonValue(QJsonValue::Null)));
+    QVERIFY(!isSafe(QJsonValue(QJsonValue::Undefined)));
+    QVERIFY(!isSafe(QJsonValue(u"\t"_s)));
+    QVERIFY(!isSafe(QJsonValue(QJsonArray())));
+    QVERIFY(!isSafe(QJsonValue(QJsonObject())));
+    QVERIFY(isSafe(QJsonValue(QJsonArray{QJsonValue::Null})));
+}
+
+void TextTest::readsTheInformationList()
+{
+    const QTemporaryDir folder;
+    InfoList::setResourceFolder(folder.path());
+    QCOMPARE(InfoList::value(u"CFG"_s), std::nullopt);
+
+    QFile file(folder.filePath(u"Info.json"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(R"({"CFG": "models.json", "Build": 12, "Empty": "", "List": []})");
+    file.close();
+    QCOMPARE(InfoList::value(u"CFG"_s), u"models.json"_s);
+    QCOMPARE(InfoList::value(u"Build"_s), u"12"_s);
+    QCOMPARE(InfoList::value(u"Empty"_s), u""_s);
+    QCOMPARE(InfoList::value(u"List"_s), std::nullopt);
+    QCOMPARE(InfoList::value(u"Vendor"_s), std::nullopt);
+}
+
+QTEST_GUILESS_MAIN(TextTest)
+#include "TextTest.moc"
