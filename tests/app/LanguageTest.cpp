@@ -1,0 +1,257 @@
+#include "BundleEx.h"
+#include "FakeHost.h"
+#include "HostLanguages.h"
+#include "InfoList.h"
+#include "Localized.h"
+#include "LogCollector.h"
+#include "WTApp.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+#include <cstdio>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+const QString probeArgument = u"--tell-language"_s;
+
+/// The other half of the locale rows: a process of its own tells what the environment makes of it, a fact a line, and
+/// then its log.
+int tellLanguage(const QString &resources)
+{
+    LogCollector log;
+    FakeHostWiFi hostWiFi;
+    FakeDesktop desktop;
+    InfoList::setResourceFolder(resources);
+    WTApp::usePorts(hostWiFi, desktop, {});
+
+    const QString decided = WTApp::shared().currentLocale();
+    const QStringList lines = log.lines();
+    const QString language = WTApp::shared().appLanguage().value_or(u"(none)"_s);
+    std::printf("%s\n%s\n%s\n%s\n", qPrintable(decided), qPrintable(language),
+                localized(u"取消"_s).toUtf8().constData(), qPrintable(lines.join(u'\n')));
+    return 0;
+}
+
+using Environment = QMap<QString, QString>;
+
+} // namespace
+
+class LanguageTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+
+    void readsPreferredLanguages_data();
+    void readsPreferredLanguages();
+    void decidesByTheLocale_data();
+    void decidesByTheLocale();
+    void reordersPreferredLanguages_data();
+    void reordersPreferredLanguages();
+    void storesOnlyWhatTheUserSet();
+    void looksUpInTheAttachedLanguage();
+    void setsTheLanguage();
+
+private:
+    void makeFolder(const QString &language);
+
+    QTemporaryDir m_folder;
+    FakeHostWiFi m_hostWiFi;
+    FakeDesktop m_desktop;
+    QString m_ownResources;
+};
+
+void LanguageTest::initTestCase()
+{
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_folder.filePath(u"config"_s)));
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.filePath(u"config"_s));
+    m_ownResources = QStringLiteral(WT_RESOURCES);
+    WTApp::usePorts(m_hostWiFi, m_desktop, {});
+
+    for (const QString &language : {u"en"_s, u"zh-Hans"_s, u"zh-Hant"_s, u"ja"_s})
+        makeFolder(language);
+    QVERIFY(QFile::copy(m_ownResources + u"/en.lproj/wifitool.qm"_s, m_folder.filePath(u"res/en.lproj/wifitool.qm"_s)));
+    QVERIFY(QFile(m_folder.filePath(u"res/catalogue.json"_s)).open(QIODevice::WriteOnly));
+}
+
+void LanguageTest::init()
+{
+    QDir(m_folder.filePath(u"config"_s)).removeRecursively();
+    InfoList::setResourceFolder(m_folder.filePath(u"res"_s));
+    BundleEx::showLanguage(std::nullopt);
+}
+
+void LanguageTest::makeFolder(const QString &language)
+{
+    QVERIFY(QDir().mkpath(m_folder.filePath(u"res/%1.lproj"_s.arg(language))));
+}
+
+void LanguageTest::readsPreferredLanguages_data()
+{
+    QTest::addColumn<Environment>("environment");
+    QTest::addColumn<QStringList>("languages");
+
+    const auto row = [](const char *name, const Environment &environment, const QStringList &languages) {
+        QTest::newRow(name) << environment << languages;
+    };
+    row("nothing", {}, {});
+    row("the C locale", {{u"LANG"_s, u"C.UTF-8"_s}, {u"LC_ALL"_s, u"POSIX"_s}}, {});
+    row("script in front of territory alone", {{u"LANG"_s, u"zh_SG.UTF-8"_s}}, {u"zh-Hans-SG"_s, u"zh-SG"_s});
+    row("best first",
+        {{u"LANGUAGE"_s, u"zh_HK:de"_s}, {u"LC_MESSAGES"_s, u"fr_FR@euro"_s}, {u"LANG"_s, u"zh_HK.UTF-8"_s}},
+        {u"zh-Hant-HK"_s, u"de-Latn-DE"_s, u"fr-Latn-FR"_s, u"zh-HK"_s, u"de"_s, u"fr-FR"_s});
+    row("LC_ALL before LANG", {{u"LC_ALL"_s, u"ja_JP.UTF-8"_s}, {u"LANG"_s, u"en_US.UTF-8"_s}},
+        {u"ja-Jpan-JP"_s, u"en-Latn-US"_s, u"ja-JP"_s, u"en-US"_s});
+}
+
+void LanguageTest::readsPreferredLanguages()
+{
+    QFETCH(Environment, environment);
+    QProcessEnvironment process;
+    for (const QString &variable : environment.keys())
+        process.insert(variable, environment.value(variable));
+    QTEST(HostLanguages::preferred(process), "languages");
+}
+
+void LanguageTest::decidesByTheLocale_data()
+{
+    QTest::addColumn<Environment>("environment");
+    QTest::addColumn<QStringList>("stored");
+    QTest::addColumn<QString>("decided");
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("cancel");
+    QTest::addColumn<QString>("lastLine");
+
+    const auto row = [](const char *name, const Environment &environment, const QString &decided,
+                        const QString &language, const QString &cancel, const QString &lastLine) {
+        QTest::newRow(name) << environment << QStringList() << decided << language << cancel << lastLine;
+    };
+    const auto lang = [](const QString &locale) { return Environment{{u"LANG"_s, locale}}; };
+    row("English", lang(u"en_GB.UTF-8"_s), u"en"_s, u"en"_s, u"Cancel"_s, u"info: App Language:en"_s);
+    row("the C locale", lang(u"C"_s), u"en"_s, u"en"_s, u"Cancel"_s, u"error: Error LanguageCode"_s);
+    row("mainland", lang(u"zh_CN.UTF-8"_s), u"zh-Hans"_s, u"zh-Hans"_s, u"取消"_s, u"info: App Language:zh-Hans"_s);
+    row("Singapore", lang(u"zh_SG.UTF-8"_s), u"zh-Hans"_s, u"zh-Hans"_s, u"取消"_s, u"info: App Language:zh-Hans"_s);
+    row("Taiwan", lang(u"zh_TW.UTF-8"_s), u"zh-Hant"_s, u"zh-Hant"_s, u"取消"_s, u"info: App Language:zh-Hant"_s);
+    row("Hong Kong", lang(u"zh_HK.UTF-8"_s), u"zh-Hant"_s, u"zh-Hant"_s, u"取消"_s, u"info: App Language:zh-Hant"_s);
+    row("a folder without texts", lang(u"ja_JP.UTF-8"_s), u"ja"_s, u"ja"_s, u"取消"_s, u"info: App Language:ja"_s);
+    row("no folder", lang(u"fr_FR.UTF-8"_s), u"en"_s, u"en"_s, u"Cancel"_s, u"info: OS Language:fr, App Lang:en"_s);
+    row("an entry that is no language", lang(u"ca_ES.UTF-8"_s), u"ca"_s, u"ca"_s, u"Cancel"_s,
+        u"info: App Language:ca"_s);
+
+    const auto storedRow = [&](const char *name, const QStringList &stored, const QString &decided,
+                               const QString &cancel) {
+        QTest::newRow(name) << lang(u"zh_CN.UTF-8"_s) << stored << decided << decided << cancel
+                            << u"info: App Language:%1"_s.arg(decided);
+    };
+    storedRow("the user's list: Hant", {u"en"_s, u"zh-Hant-TW"_s, u"zh-CN"_s}, u"zh-Hant"_s, u"取消"_s);
+    storedRow("the user's list: CN", {u"zh-CN"_s}, u"zh-Hans"_s, u"取消"_s);
+    storedRow("the user's list: HK", {u"zh-HK"_s}, u"zh-Hant"_s, u"取消"_s);
+    storedRow("the user's list: no Chinese", {u"en"_s, u"ja"_s}, u"en"_s, u"Cancel"_s);
+}
+
+void LanguageTest::decidesByTheLocale()
+{
+    QFETCH(Environment, environment);
+    QFETCH(QStringList, stored);
+    if (!stored.isEmpty())
+        QSettings(u"wifitool"_s, u"wifitool"_s).setValue(u"AppleLanguages", stored);
+
+    QProcessEnvironment process = QProcessEnvironment::systemEnvironment();
+    for (const QString &variable : {u"LANGUAGE"_s, u"LC_ALL"_s, u"LC_MESSAGES"_s, u"LANG"_s}) {
+        if (environment.contains(variable))
+            process.insert(variable, environment.value(variable));
+        else
+            process.remove(variable);
+    }
+    QProcess probe;
+    probe.setProcessEnvironment(process);
+    probe.start(QCoreApplication::applicationFilePath(), {probeArgument, m_folder.filePath(u"res"_s)});
+    QVERIFY(probe.waitForFinished());
+    const QStringList told = QString::fromUtf8(probe.readAllStandardOutput()).trimmed().split(u'\n');
+    QVERIFY2(told.size() > 3, probe.readAllStandardError().constData());
+    QTEST(told[0], "decided");
+    QTEST(told[1], "language");
+    QTEST(told[2], "cancel");
+    QTEST(told.last(), "lastLine");
+}
+
+void LanguageTest::reordersPreferredLanguages_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QStringList>("languages");
+
+    const QStringList before{u"en"_s, u"zh-Hans-CN"_s, u"zh-Hant-TW"_s};
+    QTest::newRow("the beginning of an entry") << u"zh"_s << QStringList{u"zh-Hans-CN"_s, u"en"_s, u"zh-Hant-TW"_s};
+    QTest::newRow("an entry") << u"zh-Hant-TW"_s << QStringList{u"zh-Hant-TW"_s, u"en"_s, u"zh-Hans-CN"_s};
+    QTest::newRow("the first entry") << u"en"_s << before;
+    QTest::newRow("unknown") << u"ja"_s << QStringList{u"ja"_s} + before;
+    QTest::newRow("empty") << u""_s << before;
+}
+
+void LanguageTest::reordersPreferredLanguages()
+{
+    QFETCH(QString, code);
+    QFETCH(QStringList, languages);
+    QSettings(u"wifitool"_s, u"wifitool"_s)
+        .setValue(u"AppleLanguages", QStringList{u"en"_s, u"zh-Hans-CN"_s, u"zh-Hant-TW"_s});
+    QCOMPARE(BundleEx::setAppLanguage(code), languages);
+    QCOMPARE(BundleEx::getCurrentLanguage(), languages);
+}
+
+void LanguageTest::storesOnlyWhatTheUserSet()
+{
+    const QString settings = m_folder.filePath(u"config"_s);
+    BundleEx::getCurrentLanguage();
+    BundleEx::setAppLanguage(std::nullopt);
+    WTApp::shared().setAppLanguage(u"en"_s);
+    QVERIFY(!QFile::exists(settings));
+    BundleEx::setAppLanguage(u"ja"_s);
+    QVERIFY(QFile::exists(settings));
+}
+
+void LanguageTest::looksUpInTheAttachedLanguage()
+{
+    const BundleEx &bundle = BundleEx::mainBundle();
+    QCOMPARE(localized(u"取消"_s), u"取消"_s);
+    QCOMPARE(bundle.localizedStringForKey(u"取消"_s, u"default"_s, {}), u"default"_s);
+
+    QVERIFY(BundleEx::showLanguage(u"en"_s));
+    QCOMPARE(localized(u"取消"_s), u"Cancel"_s);
+    QCOMPARE(bundle.localizedStringForKey(u"取消"_s, u"default"_s, {}), u"Cancel"_s);
+    QCOMPARE(localized(u"没有这句话"_s), u"没有这句话"_s);
+    QCOMPARE(localized(u"用 %Text% 代替"_s), u"用 %@ 代替"_s);
+
+    QVERIFY(!BundleEx::showLanguage(u"xx"_s));
+    QCOMPARE(localized(u"取消"_s), u"取消"_s);
+}
+
+void LanguageTest::setsTheLanguage()
+{
+    WTApp &app = WTApp::shared();
+    app.setAppLanguage(u"ja"_s);
+    QCOMPARE(app.appLanguage(), u"ja"_s);
+    app.setAppLanguage(u""_s);
+    QCOMPARE(app.appLanguage(), u"ja"_s);
+    app.setAppLanguage(u"en"_s);
+    QCOMPARE(localized(u"取消"_s), u"Cancel"_s);
+}
+
+int main(int argc, char **argv)
+{
+    if (argc == 3 && QString::fromLocal8Bit(argv[1]) == probeArgument)
+        return tellLanguage(QFile::decodeName(argv[2]));
+    QCoreApplication application(argc, argv);
+    LanguageTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "LanguageTest.moc"
