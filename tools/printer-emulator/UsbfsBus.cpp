@@ -23,31 +23,9 @@ void check(bool succeeded, GError *error)
 }
 } // namespace
 
-class UsbfsBus::Turn
-{
-public:
-    explicit Turn(UsbfsBus &bus)
-        : m_bus(bus)
-        , m_lock(bus.m_mutex)
-    {
-    }
-    ~Turn()
-    {
-        m_bus.settle();
-        // Destroying a timer may wait for its action, which wants the lock.
-        const std::unique_ptr<TimePort::Timer> old = m_bus.resetTimer();
-        m_lock.unlock();
-    }
-    Turn(const Turn &) = delete;
-    Turn &operator=(const Turn &) = delete;
-
-private:
-    UsbfsBus &m_bus;
-    std::unique_lock<std::mutex> m_lock;
-};
-
 UsbfsBus::UsbfsBus(TimePort &time)
     : m_time(time)
+    , m_lock(time, *this)
     , m_testbed(umockdev_testbed_new())
     , m_thread(u"emulated USB bus"_s)
 {
@@ -60,15 +38,13 @@ UsbfsBus::UsbfsBus(TimePort &time)
 
 UsbfsBus::~UsbfsBus()
 {
-    std::unique_ptr<TimePort::Timer> timer;
+    m_lock.stop();
     {
-        const Turn turn(*this);
+        const TimedLock::Turn turn(m_lock);
         m_agenda = {};
         for (const auto &device : m_devices)
             device->leave();
-        timer = std::move(m_timer);
     }
-    timer.reset();
     m_thread.sync([this] {
         m_holders.clear();
         m_testbed.reset();
@@ -77,7 +53,7 @@ UsbfsBus::~UsbfsBus()
 
 int UsbfsBus::add(PrinterModel model, UsbShape shape)
 {
-    const Turn turn(*this);
+    const TimedLock::Turn turn(m_lock);
     const int printer = int(m_devices.size());
     const PrinterScript script = model.script();
     m_devices.push_back(std::make_unique<UsbfsDevice>(*this, m_root, printer + 1, std::move(model), std::move(shape)));
@@ -87,7 +63,7 @@ int UsbfsBus::add(PrinterModel model, UsbShape shape)
 
 void UsbfsBus::setScript(int printer, PrinterScript script)
 {
-    const Turn turn(*this);
+    const TimedLock::Turn turn(m_lock);
     scheduleStart(printer, script);
     m_devices.at(printer)->model().setScript(std::move(script));
 }
@@ -102,7 +78,7 @@ void UsbfsBus::scheduleStart(int printer, const PrinterScript &script)
 
 void UsbfsBus::setListener(Listener listener)
 {
-    const std::lock_guard lock(m_mutex);
+    const std::lock_guard lock(m_lock.mutex());
     m_listener = std::move(listener);
 }
 
@@ -123,7 +99,7 @@ void UsbfsBus::plugNow(int printer)
     QString node;
     UsbfsDevice *device = nullptr;
     {
-        const Turn turn(*this);
+        const TimedLock::Turn turn(m_lock);
         device = m_devices.at(printer).get();
         if (device->isPlugged())
             return;
@@ -182,20 +158,20 @@ bool UsbfsBus::busy() const
 {
     if (m_jobs > 0)
         return true;
-    const std::lock_guard lock(m_mutex);
+    const std::lock_guard lock(m_lock.mutex());
     return std::chrono::steady_clock::now() < m_lastRequest + patience &&
            std::ranges::any_of(m_devices, [](const auto &device) { return device->owesSomething(); });
 }
 
 void UsbfsBus::with(int printer, const std::function<void(UsbfsDevice &)> &action)
 {
-    const Turn turn(*this);
+    const TimedLock::Turn turn(m_lock);
     action(*m_devices.at(printer));
 }
 
 int UsbfsBus::serve(UsbfsDevice &device, UMockdevIoctlClient *client)
 {
-    const Turn turn(*this);
+    const TimedLock::Turn turn(m_lock);
     m_lastRequest = std::chrono::steady_clock::now();
     return device.handle(client);
 }
@@ -245,25 +221,14 @@ void UsbfsBus::apply(int printer, BusEvent::Action action)
     }
 }
 
-std::unique_ptr<TimePort::Timer> UsbfsBus::resetTimer()
+std::optional<UsbfsBus::Instant> UsbfsBus::nextDue() const
 {
     std::optional<Instant> due = m_agenda.next();
     for (const auto &device : m_devices) {
         if (const auto next = device->nextDue())
             due = std::min(due.value_or(*next), *next);
     }
-    if (due == m_timerDue)
-        return nullptr;
-    m_timerDue = due;
-    std::unique_ptr<TimePort::Timer> old = std::move(m_timer);
-    if (due) {
-        const auto delay = std::chrono::ceil<TimePort::Duration>(*due - now());
-        m_timer = m_time.after(std::max(delay, TimePort::Duration{0}), [this] {
-            const Turn turn(*this);
-            m_timerDue.reset();
-        });
-    }
-    return old;
+    return due;
 }
 
 void UsbfsBus::post(std::function<void()> job)

@@ -4,10 +4,12 @@
 #include "HolderProcess.h"
 #include "SerialQueue.h"
 #include "TimePort.h"
+#include "TimedLock.h"
 #include "UsbfsDevice.h"
 
 #include <atomic>
 #include <functional>
+#include <map>
 #include <mutex>
 #include <vector>
 
@@ -15,7 +17,7 @@
 ///
 /// Three kinds of threads meet here: the test bed's own, which brings the programs' requests and must never be kept;
 /// the bus thread, on which everything that calls the test bed runs; and the callers of the public operations.
-class UsbfsBus final : public UsbfsDevice::Bus
+class UsbfsBus final : public UsbfsDevice::Bus, private TimedLock::Content
 {
 public:
     using Instant = TimePort::Instant;
@@ -41,15 +43,14 @@ public:
     template <typename Value>
     Value of(int printer, const std::function<Value(const UsbfsDevice &)> &reader) const
     {
-        const std::lock_guard lock(m_mutex);
+        const std::lock_guard lock(m_lock.mutex());
         return reader(*m_devices.at(printer));
     }
 
 private:
-    /// One turn of the bus: the lock, and at its end everything due is done and the timer stands right.
-    class Turn;
-
     Instant now() const override { return m_time.now(); }
+    void settle() override;
+    std::optional<Instant> nextDue() const override;
     int serve(UsbfsDevice &device, UMockdevIoctlClient *client) override;
     void left(UsbfsDevice &device) override;
     void received(UsbfsDevice &device, const ReceivedFrame &frame) override;
@@ -57,25 +58,21 @@ private:
 
     int numberOf(const UsbfsDevice &device) const { return device.port() - 1; }
     void scheduleStart(int printer, const PrinterScript &script);
-    void settle();
     void apply(int printer, BusEvent::Action action);
-    std::unique_ptr<TimePort::Timer> resetTimer();
     void post(std::function<void()> job);
     void plugNow(int printer);
     void removeNow(const QByteArray &sysfsPath, const QString &nodePath);
     int freeDeviceNumber();
 
     TimePort &m_time;
+    mutable TimedLock m_lock;
     GObjectRef<UMockdevTestbed> m_testbed;
     QString m_root;
 
-    mutable std::mutex m_mutex;
     std::vector<std::unique_ptr<UsbfsDevice>> m_devices;
     std::map<int, std::unique_ptr<HolderProcess>> m_holders;
     Agenda m_agenda;
     Listener m_listener;
-    std::unique_ptr<TimePort::Timer> m_timer;
-    std::optional<Instant> m_timerDue;
     int m_lastDeviceNumber = 1;
     /// Real time, not the port's: see `busy`.
     std::chrono::steady_clock::time_point m_lastRequest;

@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <functional>
 #include <iterator>
+#include <linux/usb/ch9.h>
 #include <linux/usbdevice_fs.h>
 #include <sys/ioctl.h>
 #include <utility>
@@ -21,13 +23,12 @@ constexpr quint32 capabilities = USBDEVFS_CAP_ZERO_PACKET | USBDEVFS_CAP_NO_PACK
 UsbfsDevice::UsbfsDevice(Bus &bus, const QString &root, int port, PrinterModel model, UsbShape shape)
     : m_bus(bus)
     , m_port(port)
-    , m_model(std::move(model))
     , m_shape(std::move(shape))
     , m_sysfs(root, port)
     , m_root(root.toStdString())
     , m_handler(umockdev_ioctl_base_new())
     , m_interfaces(m_shape)
-    , m_inPipe(m_shape.packetSize)
+    , m_pipes(std::move(model), m_shape.packetSize, *this)
 {
     g_signal_connect(m_handler.get(), "handle-ioctl", G_CALLBACK(onRequest), this);
 }
@@ -47,9 +48,7 @@ void UsbfsDevice::leave()
         return;
     while (!m_pending.empty())
         complete(m_pending.begin(), -ESHUTDOWN);
-    m_inPipe.clear();
-    m_halted.clear();
-    m_model.endExchange();
+    m_pipes.reset();
     m_interfaces.reset();
     m_node.reset();
     m_bus.left(*this);
@@ -65,6 +64,7 @@ gboolean UsbfsDevice::onRequest(UMockdevIoctlBase *, UMockdevIoctlClient *client
 
 int UsbfsDevice::handle(UMockdevIoctlClient *client)
 {
+    dropOrphans();
     const unsigned long request = umockdev_ioctl_client_get_request(client);
     switch (request) {
     case USBDEVFS_GET_CAPABILITIES:
@@ -84,7 +84,7 @@ int UsbfsDevice::handle(UMockdevIoctlClient *client)
     case USBDEVFS_SUBMITURB:
         return submit(client);
     case USBDEVFS_CLEAR_HALT:
-        m_halted.erase(quint8(*IoctlArgument<unsigned>(client)));
+        m_pipes.clearHalt(*IoctlArgument<unsigned>(client) & USB_DIR_IN);
         return 0;
     default: {
         const int answer = m_interfaces.handle(request, client);
@@ -119,7 +119,7 @@ int UsbfsDevice::permitTransfer(const UsbfsUrb &urb, UMockdevIoctlClient *client
 
 void UsbfsDevice::answerControl(UsbfsUrb &urb) const
 {
-    const auto answer = ControlPipe::answer(ControlPipe::Setup::parse(urb.bytes()), m_model.identity());
+    const auto answer = ControlPipe::answer(ControlPipe::Setup::parse(urb.bytes()), m_pipes.model().identity());
     urb.status = answer ? 0 : -EPIPE;
     urb.in = answer.value_or(QByteArray());
 }
@@ -152,8 +152,18 @@ void UsbfsDevice::pump()
 {
     pumpOut();
     pumpIn();
-    if (m_inPipe.unplugIsDue(m_bus.now()))
+    if (m_pipes.unplugIsDue(m_bus.now()))
         leave();
+}
+
+void UsbfsDevice::dropOrphans()
+{
+    std::erase_if(m_pending, std::mem_fn(&UsbfsUrb::isOrphan));
+    std::erase_if(m_done, std::mem_fn(&UsbfsUrb::isOrphan));
+    if (m_node)
+        m_node->setReady(!m_done.empty());
+    if (m_interfaces.releaseVanished())
+        interfacesChanged();
 }
 
 UsbfsDevice::Urbs::iterator UsbfsDevice::nextOut()
@@ -164,71 +174,39 @@ UsbfsDevice::Urbs::iterator UsbfsDevice::nextOut()
 void UsbfsDevice::pumpOut()
 {
     for (auto urb = nextOut(); urb != m_pending.end(); urb = nextOut()) {
-        if (m_halted.contains(urb->endpoint())) {
-            complete(urb, -EPIPE);
-            continue;
-        }
-        if (!urb->plan) {
-            urb->plan = m_model.plan(urb->bytes());
-            urb->due = m_bus.now() + urb->plan->delay;
-        }
-        if (urb->taken || urb->due > m_bus.now())
+        if (!settle(urb, m_pipes.send(urb->bytes(), urb->out, m_bus.now())))
             return;
-        takeOut(*urb);
-        switch (urb->plan->after) {
-        case OutPlan::After::Complete:
-            complete(urb, 0);
-            break;
-        case OutPlan::After::Stall:
-            m_halted.insert(urb->endpoint());
-            complete(urb, -EPIPE);
-            break;
-        case OutPlan::After::Nak:
-            return;
-        case OutPlan::After::Unplug:
-            leave();
-            return;
-        }
     }
-}
-
-void UsbfsDevice::takeOut(UsbfsUrb &urb)
-{
-    urb.taken = true;
-    urb.out = urb.plan->accept;
-    const PrinterAnswer answer = m_model.accept(urb.bytes().first(urb.out), m_bus.now());
-    m_inPipe.push(answer.transfers, m_bus.now());
-    for (const ReceivedFrame &frame : answer.frames)
-        m_bus.received(*this, frame);
-    for (const BusEvent &event : answer.events)
-        m_bus.scheduled(*this, event);
 }
 
 void UsbfsDevice::pumpIn()
 {
-    for (auto next = m_pending.begin(); next != m_pending.end();) {
-        const auto urb = next++;
-        if (!urb->isIn())
-            continue;
-        if (m_halted.contains(urb->endpoint())) {
-            complete(urb, -EPIPE);
-            continue;
-        }
-        switch (m_inPipe.read(urb->in, urb->length(), m_bus.now())) {
-        case InPipe::Outcome::Waiting:
+    const auto nextIn = [this] { return std::ranges::find_if(m_pending, &UsbfsUrb::isIn); };
+    for (auto urb = nextIn(); urb != m_pending.end(); urb = nextIn()) {
+        if (!settle(urb, m_pipes.receive(urb->in, urb->length(), m_bus.now())))
             return;
-        case InPipe::Outcome::Complete:
-            complete(urb, 0);
-            break;
-        case InPipe::Outcome::Overflow:
-            complete(urb, -EOVERFLOW);
-            break;
-        case InPipe::Outcome::Stalled:
-            m_halted.insert(urb->endpoint());
-            complete(urb, -EPIPE);
-            break;
-        }
     }
+}
+
+bool UsbfsDevice::settle(Urbs::iterator urb, PrinterPipes::Outcome outcome)
+{
+    switch (outcome) {
+    case PrinterPipes::Outcome::Waiting:
+        return false;
+    case PrinterPipes::Outcome::Complete:
+        complete(urb, 0);
+        return true;
+    case PrinterPipes::Outcome::Stalled:
+        complete(urb, -EPIPE);
+        return true;
+    case PrinterPipes::Outcome::Overflow:
+        complete(urb, -EOVERFLOW);
+        return true;
+    case PrinterPipes::Outcome::Unplug:
+        leave();
+        return false;
+    }
+    Q_UNREACHABLE();
 }
 
 void UsbfsDevice::complete(Urbs::iterator urb, int status)
@@ -239,19 +217,29 @@ void UsbfsDevice::complete(Urbs::iterator urb, int status)
         m_node->setReady(true);
 }
 
+void UsbfsDevice::received(const ReceivedFrame &frame)
+{
+    m_bus.received(*this, frame);
+}
+
+void UsbfsDevice::scheduled(const BusEvent &event)
+{
+    m_bus.scheduled(*this, event);
+}
+
 std::optional<UsbfsDevice::Instant> UsbfsDevice::nextDue() const
 {
-    std::optional<Instant> due = m_inPipe.nextDue(m_bus.now());
+    std::optional<Instant> due = m_pipes.nextDue(m_bus.now());
     for (const UsbfsUrb &urb : m_pending) {
-        if (urb.plan && !urb.taken)
-            due = std::min(due.value_or(urb.due), urb.due);
+        if (urb.out.plan && !urb.out.taken)
+            due = std::min(due.value_or(urb.out.due), urb.out.due);
     }
     return due;
 }
 
 bool UsbfsDevice::owesSomething() const
 {
-    return !m_done.empty() || (m_interfaces.claims() > 0 && m_inPipe.hasDue(m_bus.now()));
+    return !m_done.empty() || (m_interfaces.claims() > 0 && m_pipes.hasReplyDue(m_bus.now()));
 }
 
 void UsbfsDevice::setKernelDriver(bool present)
@@ -276,7 +264,7 @@ void UsbfsDevice::setPermitted(bool permitted)
 void UsbfsDevice::interfacesChanged()
 {
     if (m_interfaces.claims() == 0)
-        m_model.endExchange();
+        m_pipes.model().endExchange();
     for (int number = 0; number < m_interfaces.count(); ++number)
-        m_sysfs.showDriver(number, m_interfaces.driver(number), m_model.identity());
+        m_sysfs.showDriver(number, m_interfaces.driver(number), m_pipes.model().identity());
 }

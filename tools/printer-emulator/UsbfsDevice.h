@@ -1,7 +1,6 @@
 #pragma once
 
-#include "InPipe.h"
-#include "PrinterModel.h"
+#include "PrinterPipes.h"
 #include "UsbShape.h"
 #include "UsbfsInterfaces.h"
 #include "UsbfsNode.h"
@@ -11,11 +10,10 @@
 #include <list>
 #include <memory>
 #include <optional>
-#include <set>
 
 /// One emulated printer as usbfs shows it: its node, its interfaces, its transfers. The bus that it hangs on guards all
 /// of its operations by one lock.
-class UsbfsDevice
+class UsbfsDevice final : private PrinterPipes::Listener
 {
 public:
     using Instant = std::chrono::steady_clock::time_point;
@@ -39,8 +37,8 @@ public:
     UsbfsDevice(Bus &bus, const QString &root, int port, PrinterModel model, UsbShape shape);
     ~UsbfsDevice();
 
-    PrinterModel &model() { return m_model; }
-    const PrinterModel &model() const { return m_model; }
+    PrinterModel &model() { return m_pipes.model(); }
+    const PrinterModel &model() const { return m_pipes.model(); }
     const UsbShape &shape() const { return m_shape; }
     const UsbfsSysfs &sysfs() const { return m_sysfs; }
     int port() const { return m_port; }
@@ -68,6 +66,9 @@ public:
     void interfacesChanged();
 
 private:
+    void received(const ReceivedFrame &frame) override;
+    void scheduled(const BusEvent &event) override;
+
     static gboolean onRequest(UMockdevIoctlBase *, UMockdevIoctlClient *client, gpointer self);
 
     int submit(UMockdevIoctlClient *client);
@@ -77,15 +78,16 @@ private:
     void answerControl(UsbfsUrb &urb) const;
 
     using Urbs = std::list<UsbfsUrb>;
+    void dropOrphans();
     void pumpOut();
     void pumpIn();
-    void takeOut(UsbfsUrb &urb);
+    /// Whether the transfer is finished, so that the next one's turn has come.
+    bool settle(Urbs::iterator urb, PrinterPipes::Outcome outcome);
     Urbs::iterator nextOut();
     void complete(Urbs::iterator urb, int status);
 
     Bus &m_bus;
     const int m_port;
-    PrinterModel m_model;
     const UsbShape m_shape;
     const UsbfsSysfs m_sysfs;
     const std::filesystem::path m_root;
@@ -98,6 +100,5 @@ private:
 
     Urbs m_pending;
     Urbs m_done;
-    InPipe m_inPipe;
-    std::set<quint8> m_halted;
+    PrinterPipes m_pipes;
 };

@@ -14,6 +14,14 @@ constexpr quint8 printerClass = 7;
 constexpr char otherProgram = 0;
 } // namespace
 
+int UsbfsInterfaces::Interface::claim(UMockdevIoctlClient *client)
+{
+    const int claimed = binding.claim(client);
+    if (claimed == 0)
+        program = share(client);
+    return claimed;
+}
+
 UsbfsInterfaces::UsbfsInterfaces(UsbShape shape)
     : m_shape(std::move(shape))
 {
@@ -25,7 +33,7 @@ void UsbfsInterfaces::reset()
     m_interfaces.clear();
     for (const UsbShape::Interface &settings : m_shape.interfaces) {
         const bool isPrinter = settings.front().interfaceClass == printerClass;
-        m_interfaces.push_back({InterfaceBinding(isPrinter && m_hasKernelDriver)});
+        m_interfaces.push_back({InterfaceBinding(isPrinter && m_hasKernelDriver), nullptr, 0});
     }
     settleHold();
 }
@@ -56,7 +64,7 @@ int UsbfsInterfaces::handle(unsigned long request, UMockdevIoctlClient *client)
 
 int UsbfsInterfaces::claim(int interface, UMockdevIoctlClient *client)
 {
-    return withInterface(unsigned(interface), [&](Interface &found) { return found.binding.claim(client); });
+    return withInterface(unsigned(interface), [client](Interface &found) { return found.claim(client); });
 }
 
 int UsbfsInterfaces::claimForEndpoint(quint8 endpoint, UMockdevIoctlClient *client)
@@ -86,7 +94,7 @@ int UsbfsInterfaces::select(UMockdevIoctlClient *client)
     return withInterface(argument->interface, [&](Interface &interface) {
         if (argument->altsetting >= m_shape.interfaces[argument->interface].size())
             return -EINVAL;
-        const int claimed = interface.binding.claim(client);
+        const int claimed = interface.claim(client);
         if (claimed == 0)
             interface.alternateSetting = int(argument->altsetting);
         return claimed;
@@ -101,7 +109,9 @@ int UsbfsInterfaces::disconnectAndClaim(UMockdevIoctlClient *client)
     const bool except = argument->flags & USBDEVFS_DISCONNECT_CLAIM_EXCEPT_DRIVER;
     const bool only = argument->flags & USBDEVFS_DISCONNECT_CLAIM_IF_DRIVER;
     return withInterface(argument->interface, [&](Interface &interface) {
-        return interface.binding.disconnectAndClaim(client, except ? named : QString(), only ? named : QString());
+        const int claimed =
+            interface.binding.disconnectAndClaim(client, except ? named : QString(), only ? named : QString());
+        return claimed < 0 ? claimed : interface.claim(client);
     });
 }
 
@@ -130,6 +140,18 @@ int UsbfsInterfaces::claims() const
     return int(std::ranges::count_if(m_interfaces, [](const Interface &interface) {
         return interface.binding.isClaimed() && !interface.binding.isClaimedBy(&otherProgram);
     }));
+}
+
+bool UsbfsInterfaces::releaseVanished()
+{
+    bool released = false;
+    for (Interface &interface : m_interfaces) {
+        if (interface.program && !umockdev_ioctl_client_get_connected(interface.program.get()))
+            released |= interface.binding.release(interface.program.get()) == 0;
+    }
+    if (released)
+        settleHold();
+    return released;
 }
 
 void UsbfsInterfaces::setKernelDriver(bool present)

@@ -22,6 +22,9 @@ public:
     int claim(int interface, UMockdevIoctlClient *client);
     int claimForEndpoint(quint8 endpoint, UMockdevIoctlClient *client);
 
+    /// Releases what programs held that have closed the node since; whether there was any.
+    bool releaseVanished();
+
     void setKernelDriver(bool present);
     /// Another program takes the interfaces as soon as no program has them.
     void setHeld(bool held);
@@ -35,7 +38,10 @@ public:
 private:
     struct Interface {
         InterfaceBinding binding;
+        GObjectRef<UMockdevIoctlClient> program; ///< That claimed it last.
         int alternateSetting = 0;
+
+        int claim(UMockdevIoctlClient *client);
     };
 
     int withInterface(unsigned number, const std::function<int(Interface &)> &action);

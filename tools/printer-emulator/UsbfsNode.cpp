@@ -46,7 +46,9 @@ UsbfsNode::~UsbfsNode()
 
 void UsbfsNode::setReady(bool ready)
 {
-    ::tcflow(m_slave, ready ? TCOON : TCOOFF);
+    if (ready != m_ready)
+        ::tcflow(m_slave, ready ? TCOON : TCOOFF);
+    m_ready = ready;
 }
 
 void UsbfsNode::setPermitted(bool permitted)

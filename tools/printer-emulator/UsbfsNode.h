@@ -23,4 +23,5 @@ private:
     std::filesystem::path m_path;
     int m_master = -1;
     int m_slave = -1;
+    bool m_ready = true; ///< As a terminal is when it is new.
 };

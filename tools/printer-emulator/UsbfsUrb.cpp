@@ -25,7 +25,7 @@ void UsbfsUrb::writeBack(UMockdevIoctlClient *reaper) const
 {
     auto *urb = reinterpret_cast<usbdevfs_urb *>(m_urb->data);
     urb->status = status;
-    urb->actual_length = int(isIn() || isControl() ? in.size() : out);
+    urb->actual_length = int(isIn() || isControl() ? in.size() : out.sent);
     if (!in.isEmpty())
         std::ranges::copy(in, m_buffer->data + (isControl() ? ControlPipe::Setup::size : 0));
     const auto answer = resolve(umockdev_ioctl_client_get_arg(reaper), 0, sizeof(void *));

@@ -1,23 +1,21 @@
 #pragma once
 
-#include "PrinterModel.h"
+#include "PrinterPipes.h"
 #include "UsbfsIoctl.h"
 
 #include <QByteArray>
 #include <QByteArrayView>
-#include <chrono>
-#include <optional>
 
 /// One transfer that a program has submitted and not yet collected.
 class UsbfsUrb
 {
 public:
-    using Instant = std::chrono::steady_clock::time_point;
-
     /// Takes the request's structure; its memory belongs to the client until `writeBack`.
     explicit UsbfsUrb(UMockdevIoctlClient *client);
 
     bool isFrom(const UMockdevIoctlClient *client) const { return m_client.get() == client; }
+    /// Its program has closed the node.
+    bool isOrphan() const { return !umockdev_ioctl_client_get_connected(m_client.get()); }
     gulong address() const { return m_urb->client_addr; }
     quint8 endpoint() const { return m_endpoint; }
     bool isIn() const { return m_endpoint & 0x80; }
@@ -29,13 +27,9 @@ public:
     /// Fills in the outcome and hands the transfer back as the answer to a request to collect it.
     void writeBack(UMockdevIoctlClient *reaper) const;
 
-    int status = 0;    ///< 0 or a negative errno.
-    QByteArray in;     ///< Bytes received so far.
-    qsizetype out = 0; ///< Bytes sent so far.
-
-    std::optional<OutPlan> plan; ///< An OUT transfer whose turn has come.
-    Instant due;                 ///< When its bytes are taken.
-    bool taken = false;          ///< They were.
+    int status = 0; ///< 0 or a negative errno.
+    QByteArray in;  ///< Bytes received so far.
+    OutProgress out;
 
 private:
     GObjectRef<UMockdevIoctlClient> m_client;
