@@ -1,0 +1,81 @@
+#include "wt_main.h"
+
+#include "AppDelegate.h"
+#include "Banner.h"
+#include "InfoList.h"
+#include "Log.h"
+#include "Machine.h"
+#include "WTApp.h"
+#include "WTCServer.h"
+#include "WTC_WLAN.h"
+#include "WTManager.h"
+#include "WTWindow.h"
+#include "WizardScreens.h"
+#include "resourceFolder.h"
+#include "startLogging.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+void usePorts(const Machine &machine)
+{
+    WTCServer::usePorts(machine.usb, machine.time);
+    WTC_WLAN::usePort(machine.hostWiFi);
+    WTManager::usePorts(machine.time, machine.spooler);
+    WTApp::usePorts(machine.hostWiFi, machine.desktop, machine.capabilities);
+}
+
+/// All that happens before there is an application object.
+void begin(const Machine &machine)
+{
+    InfoList::setResourceFolder(resourceFolder());
+    usePorts(machine);
+    const QString logFolder = startLogging(machine.capabilities);
+    for (const char *line : startBanner)
+        logInfo("%@", line);
+    WTApp::wt_systemLog();
+    WTManager::shared().setLogPath(logFolder + u"/WTCore-WiFiTool.log"_s);
+    WTApp::shared().appLanguage();
+}
+
+/// The toolkit's own texts (context menus of fields) in the interface language, where the system has them.
+void showToolkitTexts(QApplication &application)
+{
+    const QLocale language(WTApp::shared().appLanguage().value_or(u"en"_s));
+    auto *texts = new QTranslator(&application);
+    if (texts->load(language, u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(texts);
+}
+
+} // namespace
+
+int wt_main(int argc, char **argv, const Machine &machine, const std::function<void(WTWindow &)> &launched)
+{
+    begin(machine);
+
+    QApplication application(argc, argv);
+    showToolkitTexts(application);
+    WizardScreens screens;
+    AppDelegate delegate;
+    delegate.setWindow(&screens.window());
+    QObject::connect(&screens.window(), &WTWindow::closeRequested, &delegate, &AppDelegate::closeApplication);
+    QObject::connect(&application, &QApplication::aboutToQuit, &delegate, &AppDelegate::applicationWillTerminate);
+    QApplication::setQuitOnLastWindowClosed(delegate.applicationShouldTerminateAfterLastWindowClosed());
+
+    screens.show();
+    delegate.applicationDidFinishLaunching();
+    if (launched)
+        launched(screens.window());
+    const int status = QApplication::exec();
+
+    // While the toolkit's own data still exist: the loggers use them.
+    WTLog::flushLog();
+    return status;
+}
