@@ -87,7 +87,7 @@ QStringList WTLogFileManagerDefault::unsortedLogFilePaths() const
 
 QStringList WTLogFileManagerDefault::unsortedLogFileNames() const
 {
-    QStringList names = LogFolder::entries(logsDirectory());
+    QStringList names = LogFolder::entries(m_logsDirectory);
     names.removeIf([this](const QString &name) { return !isLogFile(name); });
     return names;
 }
