@@ -1,0 +1,162 @@
+#include <QFile>
+#include <QProcess>
+#include <QTest>
+#include <csignal>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+/// How a program ended.
+struct End {
+    QProcess::ExitStatus kind;
+    int number;
+    bool operator==(const End &) const = default;
+};
+
+const End endsWell{QProcess::NormalExit, 0};
+const End carriesOn{QProcess::NormalExit, 7};
+End dies(int signal)
+{
+    return {QProcess::CrashExit, signal};
+}
+
+constexpr int patience = 30'000;
+
+/// Sanitizers stop a program at its first real fault, before any signal.
+constexpr bool faultsReachTheProgram =
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    false;
+#else
+    true;
+#endif
+
+} // namespace
+
+Q_DECLARE_METATYPE(End)
+
+/// Runs a program that crashes on command and looks at the log it leaves.
+class CrashCaptureTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void reports_data();
+    void reports();
+    void flushesAtTheEnd_data();
+    void flushesAtTheEnd();
+
+private:
+    End run(const QString &crash, const QString &state);
+
+    QString m_output;
+    qint64 m_process = 0;
+};
+
+End CrashCaptureTest::run(const QString &crash, const QString &state)
+{
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"ASAN_OPTIONS"_s, u"allow_user_segv_handler=1:detect_leaks=0"_s);
+    environment.insert(u"TSAN_OPTIONS"_s, u"allow_user_segv_handler=1"_s);
+    program.setProcessEnvironment(environment);
+    program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    program.start(QStringLiteral(CRASHING_PROGRAM), {crash, state});
+    program.waitForStarted();
+    m_process = program.processId();
+    if (!program.waitForFinished(patience))
+        qCritical("the program hangs");
+    m_output = QString::fromUtf8(program.readAllStandardOutput());
+    return {program.exitStatus(), program.exitCode()};
+}
+
+void CrashCaptureTest::reports_data()
+{
+    QTest::addColumn<QString>("crash");
+    QTest::addColumn<QString>("state");
+    QTest::addColumn<QString>("reason");
+    QTest::addColumn<int>("reports");
+    QTest::addColumn<End>("end");
+    const auto row = [](const char *crash, const char *state, const char *reason, int reports, End end) {
+        QTest::addRow("%s, %s", crash, state) << QString::fromLatin1(crash) << QString::fromLatin1(state)
+                                              << QString::fromLatin1(reason) << reports << end;
+    };
+
+    row("SEGV", "main", "Signal SIGSEGV was raised!\n", 1, endsWell);
+    row("SEGV", "thread", "Signal SIGSEGV was raised!\n", 1, endsWell);
+    row("SEGV", "logging-queue", "Signal SIGSEGV was raised!\n", 1, endsWell);
+    row("SEGV", "logger-queue", "Signal SIGSEGV was raised!\n", 1, endsWell);
+    row("SEGV", "inside-another-logger", "Signal SIGSEGV was raised!\n", 1, endsWell);
+    row("SEGV", "during-a-report", "", 0, endsWell);
+    row("INT", "report-that-hangs", "", 0, carriesOn);
+    row("FPE", "main", "Signal SIGFPE was raised!\n", 1, carriesOn);
+    row("BUS", "main", "Signal SIGBUS was raised!\n", 1, carriesOn);
+    row("HUP", "main", "Signal SIGHUP was raised!\n", 1, carriesOn);
+    row("INT", "main", "Signal SIGINT was raised!\n", 1, carriesOn);
+    row("INT", "logging-queue", "Signal SIGINT was raised!\n", 1, carriesOn);
+    row("INT", "logger-queue", "Signal SIGINT was raised!\n", 1, carriesOn);
+    row("ILL", "main", "Signal SIGILL was raised!\n", 1, carriesOn);
+    row("PIPE", "thread", "Signal SIGPIPE was raised!\n", 1, carriesOn);
+    row("two-pipes", "main", "Signal SIGPIPE was raised!\n", 2, carriesOn);
+    row("QUIT", "main", "Signal SIGQUIT was raised!\n", 1, carriesOn);
+    row("ALRM", "main", "Signal SIGALRM was raised!\n", 1, carriesOn);
+    row("TRAP", "main", "Signal 5 was raised!", 1, carriesOn);
+    row("abort", "main", "Signal SIGABRT was raised!\n", 1, dies(SIGABRT));
+    row("exception", "main", "out of paper", 1, dies(SIGABRT));
+    row("exception", "thread", "out of paper", 1, dies(SIGABRT));
+    row("exception", "logging-queue", "out of paper", 1, dies(SIGABRT));
+    row("exception", "logger-queue", "out of paper", 1, dies(SIGABRT));
+    row("exception-without-text", "main", "an exception without a text", 1, dies(SIGABRT));
+    row("exception-that-names-SIGSEGV", "main", "saw SIGSEGV", 1, endsWell);
+    if (faultsReachTheProgram) {
+        row("null-pointer", "main", "Signal SIGSEGV was raised!\n", 1, endsWell);
+        row("stack-overflow", "main", "Signal SIGSEGV was raised!\n", 1, endsWell);
+        row("divide-by-zero", "main", "Signal SIGFPE was raised!\n", 1, dies(SIGFPE));
+        row("illegal-instruction", "thread", "Signal SIGILL was raised!\n", 1, dies(SIGILL));
+        row("beyond-the-file", "main", "Signal SIGBUS was raised!\n", 1, dies(SIGBUS));
+    }
+}
+
+void CrashCaptureTest::reports()
+{
+    QFETCH(QString, crash);
+    QFETCH(QString, state);
+    QFETCH(QString, reason);
+    QFETCH(int, reports);
+    QFETCH(End, end);
+
+    const End seen = run(crash, state);
+    QVERIFY2(seen == end,
+             qPrintable(u"%1 %2\n%3"_s.arg(QString::number(seen.kind), QString::number(seen.number), m_output)));
+    m_output.remove(u"outlived\n"_s);
+    QVERIFY2(m_output.contains(u" start\n"_s), qPrintable(m_output));
+    QCOMPARE(m_output.count(u"[ Uncaught Exception ]"_s), reports);
+    if (reports == 0)
+        return;
+    QVERIFY2(m_output.endsWith(u"[ Fe Symbols End ]\n\n\n"_s), qPrintable(m_output));
+    QVERIFY2(m_output.contains(u"] ❌ <FileName: WTExceptionHandler> <Function: void HandleException(NSException "
+                               u"*__strong)> <Line: 141> 崩溃信息：\n[ Uncaught Exception ]\n\nName: "_s),
+             qPrintable(m_output));
+    QVERIFY2(m_output.contains(u"\n\nReason: "_s + reason + u"\n\nProcess: "_s), qPrintable(m_output));
+    if (state == u"main")
+        QVERIFY2(m_output.contains(u" TID:%1] ❌"_s.arg(m_process, 6)), "the report names the thread that crashed");
+}
+
+void CrashCaptureTest::flushesAtTheEnd_data()
+{
+    QTest::addColumn<QString>("state");
+
+    QTest::newRow("exit handler") << u"main"_s;
+    QTest::newRow("application object") << u"application"_s;
+}
+
+void CrashCaptureTest::flushesAtTheEnd()
+{
+    QFETCH(QString, state);
+    QCOMPARE(run(u"exit"_s, state), carriesOn);
+    QVERIFY2(m_output.contains(u" last words\nflushed\n"_s), qPrintable(m_output));
+}
+
+QTEST_GUILESS_MAIN(CrashCaptureTest)
+#include "CrashCaptureTest.moc"
