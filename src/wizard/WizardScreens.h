@@ -5,7 +5,6 @@
 #include <memory>
 
 class WTStartView;
-class WTWiFiListScreen;
 class WTWindow;
 
 /// Makes the window and all screens, and wires every outlet. Main thread.

@@ -52,6 +52,12 @@ void SendWorkers::remove(const std::shared_ptr<AclExchange> &exchange)
     m_changed.notify_all();
 }
 
+bool SendWorkers::isIdle()
+{
+    const std::lock_guard lock(m_mutex);
+    return m_running.empty();
+}
+
 void SendWorkers::endAll()
 {
     std::unique_lock lock(m_mutex);

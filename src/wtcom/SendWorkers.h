@@ -17,6 +17,9 @@ public:
     /// Runs the exchange on a thread of its own; if none can be had, refuses it on the calling thread.
     void start(std::shared_ptr<AclExchange> exchange);
 
+    /// No send is running: nothing uses the ports any more.
+    bool isIdle();
+
 private:
     SendWorkers();
     void endAll();

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "WTPrinter.h"
+#include "WTView.h"
 #include "WTWiFi.h"
-#include "WTWiFiListScreen.h"
 
 class FieldFrame;
 class KSPasswordField;
@@ -16,14 +17,14 @@ class WTWiFiListViewModel;
 
 /// The networks that the computer sees, the joined one first with its stored password, and the fields for name and
 /// password. The fields lead: what they hold is what the printer gets.
-class WTWiFiListView : public WTWiFiListScreen
+class WTWiFiListView : public WTView
 {
     Q_OBJECT
 
 public:
     explicit WTWiFiListView(QWidget *parent = nullptr);
 
-    void setPrinter(const WTPrinterPtr &printer) override { m_printer = printer; }
+    void setPrinter(const WTPrinterPtr &printer) { m_printer = printer; }
     WTPrinterPtr printer() const { return m_printer; }
     void setInstallingView(WTInstallingView *view) { m_installingView = view; }
 
@@ -39,7 +40,8 @@ public:
     /// The choice, computed on each read into one and the same object: the chosen row, or what the fields hold.
     WTWiFiPtr selectedWiFi();
 
-    void ff_discoverPrinterAndUpdataWIFIList() override;
+    /// Starts the screen's work; called right after it was pushed. Returns after the wait for the permission.
+    void ff_discoverPrinterAndUpdataWIFIList();
     void updateWifiList();
     void fetchWIFIList();
     void changeLocation(qint32 status);

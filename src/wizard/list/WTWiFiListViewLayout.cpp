@@ -27,7 +27,7 @@ constexpr int columnGap = 32;
 } // namespace
 
 WTWiFiListView::WTWiFiListView(QWidget *parent)
-    : WTWiFiListScreen(parent)
+    : WTView(parent)
     , m_rows(new NetworkRows(this))
     , m_wifiListView(new WTListView)
     , m_updateButton(new WTButton)

@@ -8,7 +8,7 @@
 #include "WTDefaultStyleBtn.h"
 #include "WTManager.h"
 #include "WTNetworkWithManualAddition.h"
-#include "WTWiFiListScreen.h"
+#include "WTWiFiListView.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -6,7 +6,7 @@
 class TilePair;
 class WTDefaultStyleBtn;
 class WTNetworkWithManualAddition;
-class WTWiFiListScreen;
+class WTWiFiListView;
 
 /// The first screen: USB cable or Wi-Fi Protected Setup. Printers are looked for while it shows.
 class WTStartView : public WTView, public WTHoverViewDelegate
@@ -16,7 +16,7 @@ class WTStartView : public WTView, public WTHoverViewDelegate
 public:
     explicit WTStartView(QWidget *parent = nullptr);
 
-    void setWifiListView(WTWiFiListScreen *view) { m_wifiListView = view; }
+    void setWifiListView(WTWiFiListView *view) { m_wifiListView = view; }
     void setManualAdd(WTNetworkWithManualAddition *view) { m_manualAdd = view; }
     void setUnconnectView(WTView *view) { m_unconnectView = view; }
     void setWpsLinkView(WTView *view) { m_wpsLinkView = view; }
@@ -33,7 +33,7 @@ private:
     WTHoverView *m_selectWPS;
     TilePair *m_tiles;
     WTDefaultStyleBtn *m_netxtBtn;
-    WTWiFiListScreen *m_wifiListView = nullptr;
+    WTWiFiListView *m_wifiListView = nullptr;
     WTNetworkWithManualAddition *m_manualAdd = nullptr;
     WTView *m_unconnectView = nullptr;
     WTView *m_wpsLinkView = nullptr;

@@ -1,5 +1,6 @@
 #include "RunBed.h"
 
+#include "SendWorkers.h"
 #include "WTCServer.h"
 #include "WTManager.h"
 
@@ -32,7 +33,7 @@ RunBed::RunBed(TimePort &time, Wait wait, const PrinterScript &script, const Mod
 RunBed::~RunBed()
 {
     // The port may only go when no send uses it any more.
-    m_wait(m_bus, [this] { return m_bus.claims() == 0; });
+    m_wait(m_bus, [] { return SendWorkers::shared().isIdle(); });
 }
 
 bool RunBed::waitFor(const std::function<bool()> &done)

@@ -1,0 +1,85 @@
+#include "WizardBed.h"
+
+#include "InfoList.h"
+#include "SendWorkers.h"
+#include "WTApp.h"
+#include "WTCServer.h"
+#include "WTC_WLAN.h"
+#include "WTManager.h"
+#include "WTView.h"
+
+#include <QFile>
+#include <QTest>
+
+QString TracingDesktop::addPrinterCommandLine()
+{
+    return QStringLiteral("touch '%1'").arg(tracePath());
+}
+
+bool TracingDesktop::panelWasOpened() const
+{
+    return QFile::exists(tracePath());
+}
+
+WizardBed::WizardBed(const QList<ModelIdentity> &printers, const QString &language)
+    : m_bus(m_time)
+    , m_usb(m_time)
+
+{
+    InfoList::setResourceFolder(QStringLiteral(WT_RESOURCE_FOLDER));
+    WTCServer::usePorts(m_usb, m_time);
+    WTC_WLAN::usePort(hostWiFi);
+    WTManager::usePorts(m_time, spooler);
+    WTApp::usePorts(hostWiFi, desktop, {});
+    WTApp::shared().setAppLanguage(language);
+    for (const ModelIdentity &printer : printers)
+        plugIn(printer);
+
+    m_screens = std::make_unique<WizardScreens>([this] { ++processEnds; });
+    m_screens->show();
+    window().activateWindow();
+    if (!QTest::qWaitForWindowActive(&window()))
+        qFatal("The window does not become active.");
+}
+
+WizardBed::~WizardBed()
+{
+    m_screens.reset();
+    WTManager::shared().wt_stopDiscoverPrinter();
+    // The port may only go when no send uses it any more.
+    waitFor([] { return SendWorkers::shared().isIdle(); });
+}
+
+QByteArray WizardBed::shown()
+{
+    return window().contentView()->metaObject()->className();
+}
+
+QWidget *WizardBed::widget(const char *name)
+{
+    auto *found = window().contentView()->findChild<QWidget *>(QLatin1StringView(name));
+    if (!found)
+        qFatal("%s has no widget \"%s\".", shown().constData(), name);
+    return found;
+}
+
+void WizardBed::click(const char *name)
+{
+    QTest::mouseClick(widget(name), Qt::LeftButton);
+}
+
+void WizardBed::plugIn(const ModelIdentity &printer)
+{
+    m_bus.plug(m_bus.addPrinter(PrinterModel(printer)));
+    ++m_printerCount;
+}
+
+bool WizardBed::findPrinters()
+{
+    return waitFor([this] { return WTManager::shared().printerList().count() == m_printerCount; });
+}
+
+bool WizardBed::waitFor(const std::function<bool()> &done)
+{
+    return m_time.runUntil(done, [this] { return m_bus.busy(); });
+}

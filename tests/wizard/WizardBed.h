@@ -1,0 +1,77 @@
+#pragma once
+
+#include "FakeHost.h"
+#include "LibusbPort.h"
+#include "SpoolerPort.h"
+#include "UsbfsBed.h"
+#include "VirtualTime.h"
+#include "WTWindow.h"
+#include "WizardScreens.h"
+
+#include <QTemporaryDir>
+
+/// A desktop whose add-printer panel leaves a file behind.
+class TracingDesktop : public FakeDesktop
+{
+public:
+    QString addPrinterCommandLine() override;
+    bool panelWasOpened() const;
+
+private:
+    QString tracePath() const { return m_directory.filePath(QStringLiteral("opened")); }
+
+    QTemporaryDir m_directory;
+};
+
+/// A spooler with the queues that the test says.
+class FakeSpooler : public SpoolerPort
+{
+public:
+    std::vector<PrintDestination> queues;
+
+    std::vector<PrintDestination> destinations() override { return queues; }
+};
+
+/// The whole wizard in its window, over real libusb with emulated printers, in virtual time. One bed at a time; the
+/// application object lives longer.
+class WizardBed
+{
+public:
+    /// @param printers the models on the bus, in the order of their ports.
+    /// @param language what the screens speak.
+    explicit WizardBed(const QList<ModelIdentity> &printers = {}, const QString &language = QStringLiteral("zh-Hans"));
+    ~WizardBed();
+
+    template <typename Screen>
+    Screen *screen()
+    {
+        return m_screens->window().findChild<Screen *>();
+    }
+    /// The class of the screen that shows.
+    QByteArray shown();
+    /// A widget of the screen that shows, by its object name; the test ends without it.
+    QWidget *widget(const char *name);
+    void click(const char *name);
+
+    /// One more printer on the bus.
+    void plugIn(const ModelIdentity &printer);
+    /// Waits until the manager lists as many printers as are on the bus.
+    bool findPrinters();
+    bool waitFor(const std::function<bool()> &done);
+
+    WTWindow &window() { return m_screens->window(); }
+    UsbfsBed &bus() { return m_bus; }
+    VirtualTime &time() { return m_time; }
+
+    FakeHostWiFi hostWiFi;
+    TracingDesktop desktop;
+    FakeSpooler spooler;
+    int processEnds = 0; ///< How often a screen ended the process.
+
+private:
+    VirtualTime m_time;
+    UsbfsBed m_bus;
+    LibusbPort m_usb;
+    qsizetype m_printerCount = 0;
+    std::unique_ptr<WizardScreens> m_screens;
+};

@@ -1,0 +1,471 @@
+#include "WTWiFiListView.h"
+#include "LogCollector.h"
+#include "ScannerLock.h"
+#include "WTApp.h"
+#include "WTInstallingView.h"
+#include "WTLocationPermissionChecker.h"
+#include "WTManager.h"
+#include "WTStartView.h"
+#include "WTWiFiListViewModel.h"
+#include "WizardBed.h"
+
+#include <QAbstractButton>
+#include <QLineEdit>
+#include <QListView>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryFile>
+#include <QTest>
+#include <QTimer>
+#include <sys/file.h>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace
+{
+
+const VisibleNetwork home{u"Home"_s, 7, 80};
+const VisibleNetwork cafe{u"Cafe"_s, 1, 60};
+const VisibleNetwork office{u"Office"_s, 5, 40};
+
+HostWiFiState joinedTo(const QString &ssid)
+{
+    return {.interfaceName = u"wlan0"_s, .poweredOn = true, .band = 1, .ssid = ssid, .rssi = -60, .security = 4};
+}
+
+/// The wizard on the list screen, as a person gets there.
+class ListBed : public WizardBed
+{
+public:
+    explicit ListBed(ScanPermission permission = ScanPermission::Allowed, const QString &joined = u"Office"_s)
+        : WizardBed({ModelIdentity()})
+    {
+        hostWiFi.permission = permission;
+        hostWiFi.now = joinedTo(joined);
+        hostWiFi.networks = std::vector{home, cafe, office};
+        if (!findPrinters())
+            qFatal("The wizard does not find the printer.");
+    }
+
+    WTWiFiListView &list() { return *screen<WTWiFiListView>(); }
+    QLineEdit &name() { return *list().findChild<QLineEdit *>(u"ssidTextField"_s); }
+    QLineEdit &password() { return *list().findChild<QLineEdit *>(u"passwordTextField"_s); }
+    QAbstractButton &next() { return *list().findChild<QAbstractButton *>(u"btn_nextStep"_s); }
+    QListView &rows() { return *list().findChild<QListView *>(u"wifiListView"_s); }
+    QMessageBox *alert() { return window().findChild<QMessageBox *>(); }
+
+    /// Clicks a button whose action waits five seconds, lets them pass, and runs `meanwhile` in the middle of them.
+    void clickAndWait(const char *button, const std::function<void()> &meanwhile = {})
+    {
+        const auto start = time().now();
+        QTimer::singleShot(0, &window(), [&] {
+            waitFor([&] { return time().now() >= start + 1s; });
+            if (meanwhile)
+                meanwhile();
+            waitFor([&] { return time().now() >= start + 5s; });
+        });
+        click(button);
+    }
+    void enter(const std::function<void()> &meanwhile = {}) { clickAndWait("netxtBtn", meanwhile); }
+
+    void choose(int row)
+    {
+        const QRect area = rows().visualRect(rows().model()->index(row, 0));
+        QTest::mouseClick(rows().viewport(), Qt::LeftButton, {}, area.center());
+    }
+    QStringList shownNames()
+    {
+        QStringList names;
+        for (int row = 0; row < rows().model()->rowCount(); ++row)
+            names += rows().model()->index(row, 0).data().toString();
+        return names;
+    }
+    void type(QLineEdit &field, const QString &text)
+    {
+        field.setFocus();
+        field.selectAll();
+        QTest::keyClicks(&field, text);
+    }
+    /// As from the clipboard.
+    void paste(QLineEdit &field, const QString &text)
+    {
+        field.setFocus();
+        field.selectAll();
+        field.insert(text);
+        Q_EMIT field.textEdited(field.text());
+    }
+};
+
+} // namespace
+
+class WTWiFiListViewTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void order_data();
+    void order();
+    void permissionOnEntry_data();
+    void permissionOnEntry();
+    void noAnswerEndsAfterFiveSeconds();
+    void onlyRefreshReadsTheHostState();
+    void refreshWhileLoadingIsRefused();
+    void failedFetchKeepsTheList();
+    void onlyTheFirstRowBringsAPassword();
+    void typing_data();
+    void typing();
+    void nextNeedsALegalName_data();
+    void nextNeedsALegalName();
+    void choiceSurvivesForwardAndNotBack();
+    void lateSecret_data();
+    void lateSecret();
+    void leavingDuringTheWait_data();
+    void leavingDuringTheWait();
+    void refusals_data();
+    void refusals();
+    void scanLock();
+    void storedPasswordReachesThePrinter();
+};
+
+void WTWiFiListViewTest::order_data()
+{
+    QTest::addColumn<QString>("joined");
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<int>("withPassword");
+    QTest::newRow("joined network first")
+        << u"Office"_s << QStringList{u"Office"_s, u"Home"_s, u"Cafe"_s, u"Home"_s} << 1;
+    QTest::newRow("both of one name") << u"Home"_s << QStringList{u"Home"_s, u"Home"_s, u"Cafe"_s, u"Office"_s} << 2;
+    QTest::newRow("not joined") << QString() << QStringList{u"Home"_s, u"Cafe"_s, u"Office"_s, u"Home"_s} << 0;
+    QTest::newRow("out of sight") << u"Elsewhere"_s << QStringList{u"Home"_s, u"Cafe"_s, u"Office"_s, u"Home"_s} << 0;
+}
+
+void WTWiFiListViewTest::order()
+{
+    QFETCH(QString, joined);
+    QFETCH(QStringList, names);
+    QFETCH(int, withPassword);
+    ListBed bed(ScanPermission::Allowed, joined);
+    bed.hostWiFi.networks = std::vector{home, cafe, office, VisibleNetwork{u"Home"_s, 1, 20}};
+    bed.enter();
+
+    QCOMPARE(bed.shownNames(), names);
+    int passwords = 0;
+    for (const WTWiFiPtr &network : bed.list().viewModel()->list_WIFI()) {
+        if (network->password)
+            ++passwords;
+    }
+    QCOMPARE(passwords, withPassword);
+    QCOMPARE(bed.name().text(), names.first());
+    QCOMPARE(bed.password().text(), withPassword > 0 ? u"secret of "_s + joined : QString());
+}
+
+void WTWiFiListViewTest::permissionOnEntry_data()
+{
+    QTest::addColumn<ScanPermission>("permission");
+    QTest::addColumn<int>("scans");
+    QTest::addColumn<bool>("asksSecret");
+    QTest::addColumn<bool>("alerts");
+    QTest::addColumn<QByteArray>("shown");
+    QTest::newRow("not determined") << ScanPermission::NotDetermined << 0 << false << true
+                                    << QByteArray("WTWiFiListView");
+    QTest::newRow("restricted") << ScanPermission::Restricted << 1 << false << false << QByteArray("WTStartView");
+    QTest::newRow("denied") << ScanPermission::Denied << 0 << false << true << QByteArray("WTWiFiListView");
+    QTest::newRow("allowed") << ScanPermission::Allowed << 1 << true << false << QByteArray("WTWiFiListView");
+    QTest::newRow("unknown") << ScanPermission::Unknown << 1 << false << false << QByteArray("WTWiFiListView");
+}
+
+void WTWiFiListViewTest::permissionOnEntry()
+{
+    QFETCH(ScanPermission, permission);
+    QFETCH(int, scans);
+    QFETCH(bool, asksSecret);
+    QFETCH(bool, alerts);
+    QFETCH(QByteArray, shown);
+    ListBed bed(permission);
+    LogCollector log;
+    bed.enter();
+
+    QCOMPARE(bed.hostWiFi.scans, scans);
+    QCOMPARE(!bed.hostWiFi.askedSecrets.isEmpty(), asksSecret);
+    QCOMPARE(bed.shown(), shown);
+    QCOMPARE(bed.alert() != nullptr, alerts);
+    const bool goesOnAsUnknown = permission == ScanPermission::Restricted || permission == ScanPermission::Unknown;
+    const QString unknown = u"warning: 定位服务：未知状态 ⚠️ %1 ⚠️"_s.arg(int(permission));
+    QCOMPARE(log.lines().contains(unknown), goesOnAsUnknown);
+    if (alerts) {
+        bed.alert()->buttons().constLast()->click();
+        QTRY_COMPARE(bed.shown(), QByteArray("WTStartView"));
+    }
+}
+
+void WTWiFiListViewTest::noAnswerEndsAfterFiveSeconds()
+{
+    ListBed bed;
+    bed.hostWiFi.tellsPermission = false;
+    LogCollector log;
+    bed.enter();
+    QCOMPARE(bed.hostWiFi.scans, 0);
+    QVERIFY(!log.lines().contains(u"info: start loading"_s));
+    // The checker is gone: a permission that comes now reaches nobody.
+    bed.hostWiFi.changePermission(ScanPermission::Allowed);
+    QCoreApplication::processEvents();
+    QCOMPARE(bed.hostWiFi.scans, 0);
+}
+
+void WTWiFiListViewTest::onlyRefreshReadsTheHostState()
+{
+    ListBed bed;
+    bed.enter();
+    QCOMPARE(bed.list().currentSSID(), u"Office"_s);
+    bed.hostWiFi.now = joinedTo(u"Cafe"_s);
+
+    bed.click("previous");
+    LogCollector log;
+    bed.enter();
+    QCOMPARE(log.lines().filter(u"selectedSSID:"_s).size(), 1);
+
+    bed.hostWiFi.now = joinedTo(u"Home"_s);
+    log.clear();
+    bed.clickAndWait("updateButton");
+    QCOMPARE(log.lines().filter(u"selectedSSID:"_s), QStringList{u"info: selectedSSID:Home"_s});
+    QCOMPARE(bed.name().text(), u"Home"_s);
+    QCOMPARE(bed.password().text(), u"secret of Home"_s);
+}
+
+void WTWiFiListViewTest::refreshWhileLoadingIsRefused()
+{
+    ListBed bed;
+    bed.hostWiFi.holdsScans = true;
+    bed.enter();
+    LogCollector log;
+    bed.list().updateWifiList();
+    QCOMPARE(log.lines(), (QStringList{u"info: start fetch WiFi list btn"_s, u"error: 🈲 Disable Click"_s}));
+    QCOMPARE(bed.hostWiFi.scans, 1);
+    bed.hostWiFi.answerScans();
+    QTRY_VERIFY(bed.list().enableRefresh());
+    QCOMPARE(bed.shownNames().first(), u"Office"_s);
+}
+
+void WTWiFiListViewTest::failedFetchKeepsTheList()
+{
+    ListBed bed;
+    bed.enter();
+    const QStringList before = bed.shownNames();
+    bed.hostWiFi.networks = WTError{u"Test"_s, 1, u"the radio of wlan0 is off"_s};
+    LogCollector log;
+    bed.clickAndWait("updateButton");
+    QCOMPARE(bed.shownNames(), before);
+    QVERIFY(log.lines().contains(u"info: fetchWIFIList errror:the radio of wlan0 is off"_s));
+    QVERIFY(bed.list().enableRefresh());
+}
+
+void WTWiFiListViewTest::onlyTheFirstRowBringsAPassword()
+{
+    ListBed bed;
+    bed.enter();
+    QCOMPARE(bed.password().text(), u"secret of Office"_s);
+    bed.choose(1);
+    QCOMPARE(bed.name().text(), u"Home"_s);
+    QCOMPARE(bed.password().text(), QString());
+    QCOMPARE(bed.list().selectedWiFi()->security, 7);
+    QTest::keyClick(&bed.rows(), Qt::Key_Up);
+    QCOMPARE(bed.name().text(), u"Office"_s);
+    QCOMPARE(bed.password().text(), u"secret of Office"_s);
+    // A typed name is the choice from then on, with the security of an open network.
+    bed.type(bed.name(), u"Hidden"_s);
+    QVERIFY(bed.list().editedSSID());
+    QCOMPARE(bed.list().selectedWiFi()->SSID, u"Hidden"_s);
+    QCOMPARE(bed.list().selectedWiFi()->security, 0);
+}
+
+void WTWiFiListViewTest::typing_data()
+{
+    QTest::addColumn<bool>("inName");
+    QTest::addColumn<QString>("pasted");
+    QTest::addColumn<QString>("kept");
+    const QString thirtyTwo(32, u'n');
+    const QString sixtyFour(64, u'p');
+    QTest::newRow("name of 33") << true << thirtyTwo + u'x' << thirtyTwo;
+    QTest::newRow("no half of a pair") << true << QString(31, u'n') + u"🖨"_s << QString(31, u'n');
+    QTest::newRow("password of 64") << false << sixtyFour << sixtyFour;
+    QTest::newRow("password of 65") << false << sixtyFour + u'x' << sixtyFour;
+    QTest::newRow("the four signs") << false << u"¥€£•"_s << u"¥€£•"_s;
+    QTest::newRow("accent: undone") << false << u"café"_s << u"before"_s;
+    QTest::newRow("tab: undone") << false << u"a\tb"_s << u"before"_s;
+}
+
+void WTWiFiListViewTest::typing()
+{
+    QFETCH(bool, inName);
+    QFETCH(QString, pasted);
+    QFETCH(QString, kept);
+    ListBed bed;
+    bed.enter();
+    QLineEdit &field = inName ? bed.name() : bed.password();
+    bed.type(field, u"before"_s);
+    bed.paste(field, pasted);
+    QCOMPARE(field.text(), kept);
+}
+
+void WTWiFiListViewTest::nextNeedsALegalName_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("enabled");
+    QTest::newRow("empty") << QString() << false;
+    QTest::newRow("a name") << u"n"_s << true;
+    QTest::newRow("32 bytes") << QString(8, u'啡') + QString(8, u'n') << true;
+    QTest::newRow("33 bytes") << QString(11, u'啡') << false;
+}
+
+void WTWiFiListViewTest::nextNeedsALegalName()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, enabled);
+    ListBed bed;
+    bed.enter();
+    bed.paste(bed.name(), name);
+    QCOMPARE(bed.next().isEnabled(), enabled);
+}
+
+void WTWiFiListViewTest::choiceSurvivesForwardAndNotBack()
+{
+    ListBed bed;
+    bed.enter();
+    bed.choose(2);
+    bed.list().backPreviousView(); // Not the back button: the choice stays.
+    bed.hostWiFi.scans = 0;
+    bed.click("netxtBtn");
+    QCOMPARE(bed.list().selectRow(), 2);
+    QCOMPARE(bed.name().text(), u"Cafe"_s);
+    QCOMPARE(bed.hostWiFi.scans, 0);
+
+    bed.click("previous");
+    QCOMPARE(bed.list().selectRow(), 0);
+    QCOMPARE(bed.name().text(), QString());
+    QCOMPARE(bed.password().text(), QString());
+}
+
+void WTWiFiListViewTest::lateSecret_data()
+{
+    QTest::addColumn<QString>("meanwhile");
+    QTest::addColumn<QString>("password");
+    QTest::newRow("nothing touched") << QString() << u"secret of Office"_s;
+    QTest::newRow("password typed") << u"password"_s << u"mine"_s;
+    QTest::newRow("name typed") << u"name"_s << QString();
+    QTest::newRow("another row chosen") << u"row"_s << QString();
+    QTest::newRow("another network joined") << u"join"_s << QString();
+}
+
+void WTWiFiListViewTest::lateSecret()
+{
+    QFETCH(QString, meanwhile);
+    QFETCH(QString, password);
+    ListBed bed;
+    WTApp::shared().selectedPassword.reset();
+    bed.hostWiFi.holdsSecrets = true;
+    bed.enter();
+    QCOMPARE(bed.password().text(), QString());
+    if (meanwhile == u"password")
+        bed.type(bed.password(), u"mine"_s);
+    else if (meanwhile == u"name")
+        bed.type(bed.name(), u"Other"_s);
+    else if (meanwhile == u"row")
+        bed.choose(1);
+    else if (meanwhile == u"join")
+        WTApp::shared().selectedSSID = u"Cafe"_s;
+    bed.hostWiFi.answerSecrets();
+    QTRY_COMPARE(WTApp::shared().selectedPassword, u"secret of Office"_s);
+    QCoreApplication::processEvents();
+    QCOMPARE(bed.password().text(), password);
+}
+
+void WTWiFiListViewTest::leavingDuringTheWait_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<QByteArray>("shown");
+    QTest::newRow("back") << QByteArray("previous") << QByteArray("WTStartView");
+    QTest::newRow("next") << QByteArray("btn_nextStep") << QByteArray("WTInstallingView");
+}
+
+void WTWiFiListViewTest::leavingDuringTheWait()
+{
+    QFETCH(QByteArray, button);
+    QFETCH(QByteArray, shown);
+    ListBed bed;
+    LogCollector log;
+    QByteArray shownThen;
+    bed.enter([&] {
+        bed.click(button);
+        shownThen = bed.shown();
+        // What the host says now is for a screen that is not there.
+        bed.hostWiFi.changePermission(ScanPermission::Denied);
+        QCoreApplication::processEvents();
+    });
+    QCOMPARE(shownThen, shown);
+    QVERIFY(log.lines().contains(u"warning: current view is not visible!"_s));
+    QVERIFY(!bed.alert());
+}
+
+void WTWiFiListViewTest::refusals_data()
+{
+    QTest::addColumn<bool>("busy");
+    QTest::addColumn<QString>("password");
+    QTest::addColumn<QString>("alert");
+    QTest::addColumn<QString>("line");
+    QTest::newRow("printing") << true << u"pw"_s << u"打印端口被占用，无法配置打印机"_s
+                              << u"warning: printer is busy now"_s;
+    QTest::newRow("32 bytes") << false << QString(32, u'p') << u"31"_s << u"warning: password over 31 bytes refused"_s;
+    QTest::newRow("eleven euros") << false << QString(11, u'€') << u"31"_s
+                                  << u"warning: password over 31 bytes refused"_s;
+}
+
+void WTWiFiListViewTest::refusals()
+{
+    QFETCH(bool, busy);
+    QFETCH(QString, password);
+    QFETCH(QString, alert);
+    QFETCH(QString, line);
+    ListBed bed;
+    bed.enter();
+    bed.paste(bed.password(), password);
+    if (busy)
+        bed.spooler.queues = {{"QZ100_USB", "4"}};
+    LogCollector log;
+    bed.click("btn_nextStep");
+    QCOMPARE(bed.shown(), QByteArray("WTWiFiListView"));
+    QVERIFY(bed.alert());
+    QVERIFY2(bed.alert()->informativeText().contains(alert), qPrintable(bed.alert()->informativeText()));
+    QVERIFY(log.lines().contains(line));
+    QVERIFY(log.lines().filter(password).isEmpty());
+}
+
+void WTWiFiListViewTest::scanLock()
+{
+    QTemporaryFile lock;
+    QVERIFY(lock.open());
+    QVERIFY(!ScannerLock::isHeld({u"/nowhere/lock"_s, lock.fileName()}));
+    QCOMPARE(flock(lock.handle(), LOCK_SH), 0);
+    QVERIFY(ScannerLock::isHeld({u"/nowhere/lock"_s, lock.fileName()}));
+    QCOMPARE(flock(lock.handle(), LOCK_UN), 0);
+    QVERIFY(!ScannerLock::isHeld({lock.fileName()}));
+    QVERIFY(!ScannerLock::isHeld({}));
+}
+
+void WTWiFiListViewTest::storedPasswordReachesThePrinter()
+{
+    const QString network = u"Ça va? ☕"_s;
+    ListBed bed(ScanPermission::Allowed, network);
+    bed.hostWiFi.networks = std::vector{home, VisibleNetwork{network, 7, 50}};
+    LogCollector log;
+    bed.enter();
+    bed.click("btn_nextStep");
+    QCOMPARE(bed.shown(), QByteArray("WTInstallingView"));
+    QVERIFY(bed.waitFor([&] { return bed.shown() == "WTCompleteView"; }));
+    QCOMPARE(bed.bus().record().networkName, network.toUtf8());
+    QCOMPARE(bed.bus().record().password, (u"secret of "_s + network).toUtf8());
+    QVERIFY(log.lines().filter(u"secret of"_s).isEmpty());
+}
+
+QTEST_MAIN(WTWiFiListViewTest)
+#include "WTWiFiListViewTest.moc"
