@@ -6,6 +6,8 @@
 
 #include <memory>
 
+class EmulatedBus;
+
 /// The machine's USB bus with one emulated printer on it, in process and without any kernel or library below: the same
 /// printer model, faults and times as on the emulated usbfs, behind the program's own port. All operations may be
 /// called on any thread.
@@ -27,6 +29,5 @@ public:
     WTResult<std::unique_ptr<UsbConnection>> open(const UsbDevice &device) override;
 
 private:
-    class Bus;
-    std::shared_ptr<Bus> m_bus;
+    std::shared_ptr<EmulatedBus> m_bus;
 };

@@ -14,10 +14,13 @@ constexpr quint32 largestRandomSlice = 40;
 
 std::vector<qsizetype> sliceSizes(const PrinterFault &fault, qsizetype total)
 {
-    std::vector<qsizetype> sizes = fault.slices;
+    std::vector<qsizetype> sizes;
     qsizetype covered = 0;
-    for (qsizetype &size : sizes) {
-        size = std::min(size, total - covered);
+    for (const qsizetype wanted : fault.slices) {
+        const qsizetype size = std::min(wanted, total - covered);
+        if (size == 0 && wanted > 0)
+            break;
+        sizes.push_back(size);
         covered += size;
     }
     std::mt19937 random(fault.sliceSeed.value_or(0));

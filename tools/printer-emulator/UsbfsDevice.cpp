@@ -88,6 +88,10 @@ int UsbfsDevice::handle(UMockdevIoctlClient *client)
         return 0;
     default: {
         const int answer = m_interfaces.handle(request, client);
+        if (request == USBDEVFS_SETINTERFACE && answer == 0) {
+            m_pipes.clearHalt(false);
+            m_pipes.clearHalt(true);
+        }
         interfacesChanged();
         return answer;
     }

@@ -1,0 +1,81 @@
+#include "EmulatedUsb.h"
+
+#include "EmulatedBus.h"
+
+#include <utility>
+
+namespace
+{
+/// Holds the printer from its claim to its end. The bus lives as long as one of them.
+class EmulatedConnection final : public UsbConnection
+{
+public:
+    explicit EmulatedConnection(std::shared_ptr<EmulatedBus> bus)
+        : m_bus(std::move(bus))
+    {
+    }
+    ~EmulatedConnection() override { m_bus->release(); }
+    EmulatedConnection(const EmulatedConnection &) = delete;
+    EmulatedConnection &operator=(const EmulatedConnection &) = delete;
+
+    std::optional<WTError> write(QByteArrayView bytes) override { return m_bus->write(bytes); }
+    WTResult<QByteArray> read(qsizetype atMost) override { return m_bus->read(atMost); }
+    void discardInput() override { m_bus->discardInput(); }
+    void cancel() override { m_bus->cancel(); }
+
+private:
+    const std::shared_ptr<EmulatedBus> m_bus;
+};
+} // namespace
+
+EmulatedUsb::EmulatedUsb(TimePort &time, PrinterModel printer)
+    : m_bus(std::make_shared<EmulatedBus>(time, std::move(printer)))
+{
+}
+
+EmulatedUsb::~EmulatedUsb()
+{
+    m_bus->stopWatching();
+}
+
+void EmulatedUsb::plug()
+{
+    m_bus->apply(BusEvent::Action::Plug);
+}
+
+void EmulatedUsb::unplug()
+{
+    m_bus->apply(BusEvent::Action::Unplug);
+}
+
+PrinterRecord EmulatedUsb::record() const
+{
+    return m_bus->record();
+}
+
+void EmulatedUsb::setScript(PrinterScript script)
+{
+    m_bus->setScript(std::move(script));
+}
+
+void EmulatedUsb::watch(std::vector<quint16> vendorIDs, ListChanged changed)
+{
+    m_bus->watch(std::move(vendorIDs), std::move(changed));
+}
+
+void EmulatedUsb::stopWatching()
+{
+    m_bus->stopWatching();
+}
+
+UsbDeviceList EmulatedUsb::devices(const std::vector<quint16> &vendorIDs)
+{
+    return m_bus->devices(vendorIDs);
+}
+
+WTResult<std::unique_ptr<UsbConnection>> EmulatedUsb::open(const UsbDevice &device)
+{
+    if (std::optional<WTError> failed = m_bus->claim(device))
+        return *std::move(failed);
+    return std::unique_ptr<UsbConnection>(std::make_unique<EmulatedConnection>(m_bus));
+}
