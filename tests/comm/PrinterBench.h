@@ -1,0 +1,38 @@
+#pragma once
+
+#include "LibusbPort.h"
+#include "ResourceFolder.h"
+#include "SpoolerPort.h"
+#include "UsbfsBed.h"
+#include "VirtualTime.h"
+
+/// The manager on a machine with one emulated printer: real library, real libusb, virtual time. One per process.
+class PrinterBench
+{
+public:
+    PrinterBench();
+
+    /// Lets the search find the printer and ends it. @return whether it was found.
+    bool discover();
+    /// The URI of the printer found, also while it is unplugged.
+    QString uri() const { return m_uri; }
+
+    /// Runs the program until `done`, in virtual time.
+    bool runUntil(const std::function<bool()> &done);
+
+    /// As new: plugged, free, permitted, with this script.
+    void reset(const PrinterScript &script = {});
+
+    ResourceFolder resources;
+    VirtualTime time;
+    UsbfsBed bed{time};
+
+private:
+    struct NoSpooler : SpoolerPort {
+        std::vector<PrintDestination> destinations() override { return {}; }
+    };
+
+    LibusbPort m_usb{time};
+    NoSpooler m_spooler;
+    QString m_uri;
+};
