@@ -531,5 +531,9 @@
         <source>打印端口被占用，无法配置打印机</source>
         <translation>The printer is in use by another job and cannot be set up now. Wait until it has finished.</translation>
     </message>
+    <message>
+        <source>请从列表中选择，或在此输入名称。</source>
+        <translation>Choose from the list, or type the name here.</translation>
+    </message>
 </context>
 </TS>

@@ -27,7 +27,8 @@ FieldFrame::FieldFrame(const QString &label, QWidget *field, QWidget *parent)
     m_label->setBuddy(field);
     field->setAccessibleName(label);
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    // The border is drawn around the field, so that it needs a line below one that has no note.
+    layout->setContentsMargins(0, 0, 0, 1);
     layout->setSpacing(8);
     layout->addWidget(m_label);
     field->setFixedHeight(boxHeight);

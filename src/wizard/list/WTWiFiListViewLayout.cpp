@@ -63,13 +63,13 @@ void WTWiFiListView::layOut()
     ButtonSchemes::applyCheckBox(*m_showPwdBtn);
     ButtonSchemes::applyBack(*m_previous);
     resetFieldFrames();
+    m_ssidView->setHelp(localized(u"请从列表中选择，或在此输入名称。"_s));
     m_passwordView->setHelp(localized(u"没有密码的网络请留空。"_s));
     m_activeView->hide();
 
     auto *header = new QHBoxLayout;
     header->addWidget(TextStyle::makeLabel(localized(u"附近的无线网络"_s), TextStyle::Size::Body, Palette::heading), 1);
     header->addWidget(m_activeView);
-    header->addWidget(m_updateButton);
     auto *list = new QVBoxLayout;
     list->setSpacing(8);
     list->addLayout(header);
@@ -93,4 +93,5 @@ void WTWiFiListView::layOut()
     frame->content()->addLayout(columns, 1);
     frame->setBackButton(m_previous);
     frame->setMainButton(m_nextBtn);
+    frame->addToBar(m_updateButton);
 }
