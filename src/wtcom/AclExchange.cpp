@@ -29,6 +29,15 @@ WTCErrorCode codeOf(UsbErrorCode code)
     return WTCErrorCode::TransferFailed;
 }
 
+/// A printer's device ID may have come to be known after the search had named it by its texts.
+bool isNamed(UsbDevice device, const QString &URI)
+{
+    if (deviceFromUsb(device).URI == URI)
+        return true;
+    device.ieee1284DeviceID.clear();
+    return deviceFromUsb(device).URI == URI;
+}
+
 } // namespace
 
 /// While it lives, a break-off reaches the connection; one that came earlier reaches it at once.
@@ -111,7 +120,7 @@ std::optional<UsbDevice> AclExchange::find() const
 {
     const auto devices = m_environment.usb.devices(m_environment.vendorIDs);
     const auto found =
-        std::ranges::find(devices, m_request.URI, [](const UsbDevice &device) { return deviceFromUsb(device).URI; });
+        std::ranges::find_if(devices, [this](const UsbDevice &device) { return isNamed(device, m_request.URI); });
     if (found == devices.end())
         return std::nullopt;
     return *found;

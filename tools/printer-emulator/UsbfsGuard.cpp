@@ -63,3 +63,13 @@ int guarded(const char *wrapped, const char *path, int flags, mode_t mode)
 
 WT_GUARD(open)
 WT_GUARD(open64)
+
+// What a program built with _FORTIFY_SOURCE calls when the flags are no constant; libusb does.
+#define WT_GUARD_FORTIFIED(name, plain)                                                                                \
+    extern "C" __attribute__((visibility("default"))) int name(const char *path, int flags)                            \
+    {                                                                                                                  \
+        return guarded(#plain, path, flags, 0);                                                                        \
+    }
+
+WT_GUARD_FORTIFIED(__open_2, open)
+WT_GUARD_FORTIFIED(__open64_2, open64)

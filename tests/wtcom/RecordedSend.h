@@ -1,0 +1,40 @@
+#pragma once
+
+#include "WTCUSBPrinter.h"
+
+#include <QStringList>
+#include <memory>
+#include <mutex>
+
+/// One send and everything its callbacks were told, as it came.
+class RecordedSend
+{
+public:
+    enum class HeadReaction {
+        ReadAnnounced, ///< The data length of the header's bytes 6 and 7.
+        ReadNone,
+        Stop,
+        Throw
+    };
+
+    struct Record {
+        QStringList calls; ///< "head" and "data", in order.
+        std::optional<QByteArray> header;
+        std::optional<QByteArray> data;
+        std::optional<WTError> error;
+        bool onMainThread = false; ///< One of the callbacks was.
+    };
+
+    RecordedSend(const QString &URI, const QByteArray &frame, int timeout,
+                 HeadReaction reaction = HeadReaction::ReadAnnounced, bool dataCallbackThrows = false);
+
+    Record record() const;
+    bool hasEnded() const { return record().calls.contains(QLatin1String("data")); }
+
+private:
+    struct State {
+        mutable std::mutex mutex;
+        Record record;
+    };
+    const std::shared_ptr<State> m_state = std::make_shared<State>();
+};
