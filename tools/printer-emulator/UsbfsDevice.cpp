@@ -269,6 +269,9 @@ void UsbfsDevice::interfacesChanged()
 {
     if (m_interfaces.claims() == 0)
         m_pipes.model().endExchange();
+    // The folders of a device that has left are being removed on the bus thread.
+    if (!isPlugged())
+        return;
     for (int number = 0; number < m_interfaces.count(); ++number)
         m_sysfs.showDriver(number, m_interfaces.driver(number), m_pipes.model().identity());
 }
