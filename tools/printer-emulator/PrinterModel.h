@@ -14,10 +14,10 @@
 
 /// What the printer was told so far.
 struct PrinterRecord {
-    std::vector<ReceivedFrame> frames;     ///< In order of arrival; frames that were cut off are among them.
-    std::map<quint16, int> counts;         ///< Attempts per command code, also those that a fault cut short.
-    std::optional<QByteArray> networkName; ///< Of the last sound configuration frame.
-    std::optional<QByteArray> password;
+    std::vector<ReceivedFrame> frames{};     ///< In order of arrival; frames that were cut off are among them.
+    std::map<quint16, int> counts{};         ///< Attempts per command code, also those that a fault cut short.
+    std::optional<QByteArray> networkName{}; ///< Of the last sound configuration frame.
+    std::optional<QByteArray> password{};
 
     int count(quint16 command) const;
     /// The commands of all sound frames, in order.
@@ -40,9 +40,9 @@ struct OutPlan {
 
 /// The consequences of received bytes.
 struct PrinterAnswer {
-    std::vector<InTransfer> transfers;
-    std::vector<BusEvent> events;      ///< Due now, each after its own delay.
-    std::vector<ReceivedFrame> frames; ///< The frames that these bytes completed.
+    std::vector<InTransfer> transfers{};
+    std::vector<BusEvent> events{};      ///< Due now, each after its own delay.
+    std::vector<ReceivedFrame> frames{}; ///< The frames that these bytes completed.
 };
 
 /// The printer without its cable: bytes in, scripted replies out. It checks every frame byte by byte, keeps what it was

@@ -13,7 +13,7 @@ struct InTransfer {
         Unplug, ///< The printer leaves the bus.
     };
     Kind kind = Kind::Data;
-    QByteArray bytes;
+    QByteArray bytes{};
     /// After the transfer before it; for the first one, after the frame arrived.
     std::chrono::milliseconds delay{0};
 };
@@ -22,7 +22,7 @@ struct InTransfer {
 struct PrinterReply {
     quint16 command = 0;
     quint16 result = 0;
-    QByteArray data;
+    QByteArray data{};
     std::chrono::milliseconds time{0}; ///< That the command takes the printer.
 
     /// The reply as it travels under this fault.

@@ -22,7 +22,7 @@ struct BusEvent {
     };
 
     Action action = Action::Unplug;
-    std::optional<Cause> after;
+    std::optional<Cause> after{};
     std::chrono::milliseconds delay{0};
 };
 
@@ -39,12 +39,12 @@ struct PrinterScript {
     Duration addressTime{0}; ///< From that answer to the first address; until then the address query gets no data.
 
     QByteArray ipv4 = "192.168.1.77";
-    QByteArray ipv6;
-    QByteArray secondIpv6;
+    QByteArray ipv6{};
+    QByteArray secondIpv6{};
     bool joinedFromStart = false;
 
     bool plugged = true; ///< On the bus from the start; otherwise an event plugs it.
 
-    std::vector<PrinterFault> faults; ///< The first one that fits a command and its occurrence applies.
-    std::vector<BusEvent> events;
+    std::vector<PrinterFault> faults{}; ///< The first one that fits a command and its occurrence applies.
+    std::vector<BusEvent> events{};
 };

@@ -48,7 +48,8 @@ int guarded(const char *wrapped, const char *path, int flags, mode_t mode)
 }
 } // namespace
 
-#define WT_GUARD(name)                                                                                                 \
+// The plain name, and the one that a program built with _FORTIFY_SOURCE calls.
+#define WT_GUARD(name, fortified)                                                                                      \
     extern "C" __attribute__((visibility("default"))) int name(const char *path, int flags, ...)                       \
     {                                                                                                                  \
         mode_t mode = 0;                                                                                               \
@@ -59,17 +60,11 @@ int guarded(const char *wrapped, const char *path, int flags, mode_t mode)
             va_end(rest);                                                                                              \
         }                                                                                                              \
         return guarded(#name, path, flags, mode);                                                                      \
-    }
-
-WT_GUARD(open)
-WT_GUARD(open64)
-
-// What a program built with _FORTIFY_SOURCE calls when the flags are no constant; libusb does.
-#define WT_GUARD_FORTIFIED(name, plain)                                                                                \
-    extern "C" __attribute__((visibility("default"))) int name(const char *path, int flags)                            \
+    }                                                                                                                  \
+    extern "C" __attribute__((visibility("default"))) int fortified(const char *path, int flags)                       \
     {                                                                                                                  \
-        return guarded(#plain, path, flags, 0);                                                                        \
+        return guarded(#name, path, flags, 0);                                                                         \
     }
 
-WT_GUARD_FORTIFIED(__open_2, open)
-WT_GUARD_FORTIFIED(__open64_2, open64)
+WT_GUARD(open, __open_2)
+WT_GUARD(open64, __open64_2)

@@ -1,42 +1,426 @@
 #include "UsbfsBed.h"
 #include "LibusbPrinter.h"
+#include "PrinterCommand.h"
 #include "SystemTime.h"
 #include "TestFrames.h"
+#include "VirtualTime.h"
 
+#include <QFile>
 #include <QTest>
+#include <fcntl.h>
+#include <future>
+#include <optional>
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace TestFrames;
+using namespace std::chrono_literals;
 
+namespace
+{
+const QByteArray wakeUpReply = QByteArray::fromHex("00acff21000000000000000000000000");
+
+/// Opens the printer and takes its interface from usblp.
+void seize(LibusbPrinter &printer)
+{
+    QCOMPARE(printer.open(), 0);
+    QCOMPARE(libusb_set_auto_detach_kernel_driver(printer.handle(), 1), 0);
+    QCOMPARE(libusb_claim_interface(printer.handle(), 0), 0);
+}
+
+QByteArray sysfs(const QString &file)
+{
+    QFile attribute(file);
+    return attribute.open(QFile::ReadOnly) ? attribute.readAll() : QByteArray("absent");
+}
+
+PrinterScript withFault(quint16 command, const std::function<void(PrinterFault &)> &change)
+{
+    PrinterScript script;
+    change(script.faults.emplace_back());
+    script.faults.back().command = command;
+    return script;
+}
+} // namespace
+
+/// The emulated bus as plain libusb sees it.
 class UsbfsBedTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void answersThroughLibusb();
+    void init();
+    void cleanup() { m_bed.reset(); }
+
+    void showsItself();
+    void lendsItsInterface();
+    void hasNoDriverWhereThereIsNone();
+    void isHeldByAnother();
+    void isHeldByAProcess();
+    void forgetsWhoClosedIt();
+    void mayNotBeOpened();
+    void hasAlternateSettings();
+    void saysWhatFitsInPackets();
+    void stalls();
+    void takesAPart();
+    void takesNothingThatWasCalledBack();
+    void leavesInTheMiddle_data();
+    void leavesInTheMiddle();
+    void comesBackOften();
+    void sharesItsBus();
+    void livesInThePortsTime();
+    void followsItsEvents();
+
+private:
+    SystemTime m_time;
+    std::optional<UsbfsBed> m_bed;
 };
 
-void UsbfsBedTest::answersThroughLibusb()
+void UsbfsBedTest::init()
 {
-    SystemTime time;
-    UsbfsBed bed(time);
-    bed.addPrinter();
-    bed.plug();
+    m_bed.emplace(m_time);
+    m_bed->addPrinter();
+    m_bed->plug();
+}
+
+void UsbfsBedTest::showsItself()
+{
+    const QString device = m_bed->sysfsPath();
+    const QByteArray deviceID = ModelIdentity().deviceID();
+    QCOMPARE(sysfs(device + u"/serial"_s), QByteArray("QM0001\n"));
+    QCOMPARE(sysfs(device + u":1.0/bInterfaceProtocol"_s), QByteArray("02\n"));
+    QCOMPARE(sysfs(device + u":1.0/ieee1284_id"_s), deviceID);
+
     LibusbPrinter printer;
     QCOMPARE(printer.open(), 0);
-    QCOMPARE(bed.boundDriver(), u"usblp"_s);
-    QCOMPARE(libusb_claim_interface(printer.handle(), 0), int(LIBUSB_ERROR_BUSY));
+    unsigned char text[256];
+    QVERIFY(libusb_get_string_descriptor_ascii(printer.handle(), 2, text, sizeof text) > 0);
+    QCOMPARE(reinterpret_cast<char *>(text), "Quillmark QZ100");
+    QCOMPARE(libusb_get_string_descriptor_ascii(printer.handle(), 9, text, sizeof text), int(LIBUSB_ERROR_PIPE));
+    // The device ID may be read while usblp has the interface, the port status not.
+    const int size = libusb_control_transfer(printer.handle(), 0xA1, 0, 0, 0, text, sizeof text, 1000);
+    QCOMPARE(QByteArray(reinterpret_cast<char *>(text), size).sliced(2), deviceID);
+    QVERIFY(libusb_control_transfer(printer.handle(), 0xA1, 1, 0, 0, text, 1, 1000) < 0);
+}
+
+void UsbfsBedTest::lendsItsInterface()
+{
+    LibusbPrinter printer;
+    QCOMPARE(printer.open(), 0);
+    QCOMPARE(m_bed->boundDriver(), u"usblp"_s);
     QCOMPARE(libusb_kernel_driver_active(printer.handle(), 0), 1);
+    QCOMPARE(libusb_claim_interface(printer.handle(), 0), int(LIBUSB_ERROR_BUSY));
+
     QCOMPARE(libusb_detach_kernel_driver(printer.handle(), 0), 0);
+    QCOMPARE(m_bed->boundDriver(), QString());
+    QCOMPARE(sysfs(m_bed->sysfsPath() + u":1.0/ieee1284_id"_s), QByteArray("absent"));
     QCOMPARE(libusb_claim_interface(printer.handle(), 0), 0);
-    QCOMPARE(printer.write(TestFrames::shortFrame(0xFF21)), 0);
+    QCOMPARE(m_bed->boundDriver(), u"usbfs"_s);
+    QCOMPARE(libusb_attach_kernel_driver(printer.handle(), 0), int(LIBUSB_ERROR_BUSY));
+    QCOMPARE(printer.write(shortFrame(0xFF21)), 0);
     QByteArray reply;
     QCOMPARE(printer.read(reply), 0);
-    QCOMPARE(reply.toHex(), QByteArray("00acff21000000000000000000000000"));
-    libusb_release_interface(printer.handle(), 0);
+    QCOMPARE(reply, wakeUpReply);
+
+    QCOMPARE(libusb_release_interface(printer.handle(), 0), 0);
     QCOMPARE(libusb_attach_kernel_driver(printer.handle(), 0), 0);
-    QCOMPARE(bed.boundDriver(), u"usblp"_s);
-    printer.close();
+    QCOMPARE(m_bed->boundDriver(), u"usblp"_s);
+    QVERIFY(sysfs(m_bed->sysfsPath() + u":1.0/ieee1284_id"_s).startsWith("MFG:"));
+
+    seize(printer);
+    QCOMPARE(m_bed->claims(), 1);
+    QCOMPARE(libusb_release_interface(printer.handle(), 0), 0);
+    QCOMPARE(m_bed->boundDriver(), u"usblp"_s);
+    QCOMPARE(m_bed->record().commands(), std::vector{PrinterCommand::WakeUp});
 }
+
+void UsbfsBedTest::hasNoDriverWhereThereIsNone()
+{
+    m_bed->setKernelDriver(false);
+    m_bed->replug();
+    LibusbPrinter printer;
+    QCOMPARE(printer.open(), 0);
+    QCOMPARE(libusb_kernel_driver_active(printer.handle(), 0), 0);
+    QCOMPARE(libusb_detach_kernel_driver(printer.handle(), 0), int(LIBUSB_ERROR_NOT_FOUND));
+    QCOMPARE(libusb_claim_interface(printer.handle(), 0), 0);
+    QCOMPARE(libusb_release_interface(printer.handle(), 0), 0);
+    QCOMPARE(libusb_attach_kernel_driver(printer.handle(), 0), int(LIBUSB_ERROR_NOT_FOUND));
+}
+
+void UsbfsBedTest::isHeldByAnother()
+{
+    LibusbPrinter printer;
+    seize(printer);
+    m_bed->hold();
+    QCOMPARE(printer.write(shortFrame(0xFF21)), 0);
+    QCOMPARE(libusb_release_interface(printer.handle(), 0), 0);
+    QCOMPARE(libusb_claim_interface(printer.handle(), 0), int(LIBUSB_ERROR_BUSY));
+    QCOMPARE(m_bed->claims(), 0);
+    m_bed->release();
+    QCOMPARE(m_bed->boundDriver(), u"usblp"_s);
+    QCOMPARE(libusb_claim_interface(printer.handle(), 0), 0);
+}
+
+void UsbfsBedTest::isHeldByAProcess()
+{
+    const QString process = u"/proc/%1/"_s.arg(m_bed->holdByProcess());
+    QCOMPARE(sysfs(process + u"comm"_s), QByteArray("ipp-usb\n"));
+    struct stat node {
+    };
+    struct stat held {
+    };
+    QCOMPARE(::stat(m_bed->nodePath().toUtf8().constData(), &node), 0);
+    QCOMPARE(::stat((process + u"fd/1"_s).toUtf8().constData(), &held), 0);
+    QVERIFY(node.st_dev == held.st_dev && node.st_ino == held.st_ino);
+    LibusbPrinter printer;
+    QCOMPARE(printer.open(), 0);
+    QCOMPARE(libusb_claim_interface(printer.handle(), 0), int(LIBUSB_ERROR_BUSY));
+    m_bed->release();
+    QVERIFY(!QFile::exists(process));
+}
+
+void UsbfsBedTest::forgetsWhoClosedIt()
+{
+    LibusbPrinter printer;
+    seize(printer);
+    printer.close();
+    seize(printer);
+}
+
+void UsbfsBedTest::mayNotBeOpened()
+{
+    m_bed->deny();
+    LibusbPrinter printer;
+    QCOMPARE(printer.open(), int(LIBUSB_ERROR_ACCESS));
+    m_bed->replug();
+    QCOMPARE(printer.open(), int(LIBUSB_ERROR_ACCESS));
+    QCOMPARE(sysfs(m_bed->sysfsPath() + u"/product"_s), QByteArray("Quillmark QZ100\n"));
+    m_bed->permit();
+    seize(printer);
+}
+
+void UsbfsBedTest::hasAlternateSettings()
+{
+    const UsbShape::AlternateSetting unidirectional{.protocol = 1, .bulkIn = false};
+    const int second = m_bed->addPrinter(PrinterModel(), UsbShape{.interfaces = {{unidirectional, {}}}});
+    m_bed->unplug();
+    m_bed->plug(second);
+    LibusbPrinter printer;
+    seize(printer);
+    QByteArray reply;
+    QCOMPARE(printer.write(shortFrame(0xFF21)), 0);
+    QCOMPARE(printer.read(reply), int(LIBUSB_ERROR_IO));
+    QCOMPARE(libusb_set_interface_alt_setting(printer.handle(), 0, 2), int(LIBUSB_ERROR_NOT_FOUND));
+    QCOMPARE(libusb_set_interface_alt_setting(printer.handle(), 0, 1), 0);
+    QCOMPARE(m_bed->alternateSetting(second), 1);
+    QCOMPARE(printer.read(reply), 0);
+    QCOMPARE(reply, wakeUpReply);
+}
+
+void UsbfsBedTest::saysWhatFitsInPackets()
+{
+    // With its header, the first reply fills two packets, so that a zero-length one ends it.
+    m_bed->setScript(withFault(PrinterCommand::Capability, [](auto &fault) { fault.data = QByteArray(1008, 'd'); }));
+    LibusbPrinter printer;
+    seize(printer);
+    QByteArray reply;
+    QCOMPARE(printer.write(shortFrame(0xFF81)), 0);
+    QCOMPARE(printer.read(reply, 4096), 0);
+    QCOMPARE(reply.size(), 1024);
+    QCOMPARE(printer.write(shortFrame(0xFF81)), 0);
+    QCOMPARE(printer.read(reply, 1024), 0);
+    QCOMPARE(printer.read(reply, 512), 0);
+    QCOMPARE(reply.size(), 0);
+    QCOMPARE(printer.write(shortFrame(0xFF21)), 0);
+    QCOMPARE(printer.read(reply, 15), int(LIBUSB_ERROR_OVERFLOW));
+}
+
+void UsbfsBedTest::stalls()
+{
+    PrinterScript script = withFault(PrinterCommand::WakeUp, [](auto &fault) { fault.stallOut = true; });
+    script.faults.front().occurrence = 1;
+    script.faults.push_back(script.faults.front());
+    script.faults.back() = {.command = PrinterCommand::WakeUp, .occurrence = 2, .stallIn = true};
+    m_bed->setScript(script);
+    LibusbPrinter printer;
+    seize(printer);
+    QByteArray reply;
+    QCOMPARE(printer.write(shortFrame(0xFF21)), int(LIBUSB_ERROR_PIPE));
+    QCOMPARE(printer.write(shortFrame(0xFF21)), int(LIBUSB_ERROR_PIPE));
+    QCOMPARE(libusb_clear_halt(printer.handle(), 0x01), 0);
+    QCOMPARE(printer.write(shortFrame(0xFF21)), 0);
+    QCOMPARE(printer.read(reply), int(LIBUSB_ERROR_PIPE));
+    QCOMPARE(printer.read(reply), int(LIBUSB_ERROR_PIPE));
+    QCOMPARE(libusb_clear_halt(printer.handle(), 0x82), 0);
+    QCOMPARE(printer.write(shortFrame(0xFF21)), 0);
+    QCOMPARE(printer.read(reply), 0);
+    QCOMPARE(reply, wakeUpReply);
+}
+
+void UsbfsBedTest::takesAPart()
+{
+    m_bed->setScript(withFault(PrinterCommand::WakeUp, [](auto &fault) { fault.acceptOnly = 40; }));
+    LibusbPrinter printer;
+    seize(printer);
+    int sent = 0;
+    QCOMPARE(printer.write(shortFrame(0xFF21), 50, &sent), int(LIBUSB_ERROR_TIMEOUT));
+    QCOMPARE(sent, 40);
+    QCOMPARE(libusb_release_interface(printer.handle(), 0), 0);
+    QCOMPARE(m_bed->record().frames.size(), 1U);
+    QCOMPARE(m_bed->record().frames.front().verdict(), u"at 40: cut off"_s);
+}
+
+void UsbfsBedTest::takesNothingThatWasCalledBack()
+{
+    m_bed->setScript(withFault(PrinterCommand::WakeUp, [](auto &fault) { fault.acceptDelay = 1h; }));
+    LibusbPrinter printer;
+    seize(printer);
+    QCOMPARE(printer.write(shortFrame(0xFF21), 30), int(LIBUSB_ERROR_TIMEOUT));
+    QVERIFY(m_bed->record().frames.empty());
+}
+
+void UsbfsBedTest::leavesInTheMiddle_data()
+{
+    QTest::addColumn<PrinterFault>("fault");
+    QTest::addColumn<int>("writeResult");
+    QTest::addColumn<int>("received");
+    QTest::newRow("of the frame") << PrinterFault{.command = PrinterCommand::Capability, .unplugOut = 40}
+                                  << int(LIBUSB_ERROR_NO_DEVICE) << 0;
+    QTest::newRow("before the reply") << PrinterFault{.command = PrinterCommand::Capability, .unplugIn = 0} << 0 << 0;
+    QTest::newRow("of the reply") << PrinterFault{.command = PrinterCommand::Capability, .unplugIn = 5} << 0 << 5;
+}
+
+void UsbfsBedTest::leavesInTheMiddle()
+{
+    QFETCH(const PrinterFault, fault);
+    PrinterScript script;
+    script.faults = {fault};
+    m_bed->setScript(script);
+    const QString node = m_bed->nodePath();
+    LibusbPrinter printer;
+    seize(printer);
+    QTEST(printer.write(shortFrame(0xFF81)), "writeResult");
+    QByteArray reply;
+    if (printer.read(reply) == 0)
+        QTEST(int(reply.size()), "received");
+    QCOMPARE(printer.read(reply), int(LIBUSB_ERROR_NO_DEVICE));
+    printer.close();
+
+    m_bed->plug();
+    QVERIFY(m_bed->nodePath() != node);
+    m_bed->setScript({});
+    LibusbPrinter again;
+    seize(again);
+    QCOMPARE(again.write(shortFrame(0xFF81)), 0);
+}
+
+void UsbfsBedTest::comesBackOften()
+{
+    // More often than there are device numbers, and than the test bed underneath could open.
+    for (int round = 0; round < 150; ++round) {
+        LibusbPrinter printer;
+        seize(printer);
+        QByteArray reply;
+        QCOMPARE(printer.write(shortFrame(0xFF21)), 0);
+        QCOMPARE(printer.read(reply), 0);
+        printer.close();
+        QVERIFY(::open("/dev/not-there", O_RDONLY) < 0);
+        m_bed->replug();
+    }
+}
+
+void UsbfsBedTest::sharesItsBus()
+{
+    const int second = m_bed->addPrinter(PrinterModel({.model = u"QZ200"_s, .serialNumber = u"QM0002"_s}));
+    m_bed->plug(second);
+    LibusbPrinter printer;
+    libusb_context *context = nullptr;
+    QCOMPARE(libusb_init(&context), 0);
+    libusb_device **list = nullptr;
+    QCOMPARE(libusb_get_device_list(context, &list), ssize_t(3)); // With the root hub.
+    libusb_free_device_list(list, 1);
+    libusb_exit(context);
+    QVERIFY(m_bed->nodePath() != m_bed->nodePath(second));
+    QCOMPARE(m_bed->locationID(second), 0x01200000U);
+    m_bed->unplug(second);
+    seize(printer);
+    QCOMPARE(m_bed->boundDriver(second), QString());
+}
+
+void UsbfsBedTest::livesInThePortsTime()
+{
+    VirtualTime time;
+    m_bed.reset();
+    m_bed.emplace(time);
+    PrinterScript script = withFault(PrinterCommand::Configuration, [](auto &fault) {
+        fault.slices = {7};
+        fault.sliceDelay = 20s;
+        fault.acceptDelay = 10s;
+    });
+    script.joinTime = 3min;
+    m_bed->addPrinter(PrinterModel({}, script));
+    m_bed->plug();
+    LibusbPrinter printer;
+    seize(printer);
+
+    const auto begin = time.now();
+    std::vector<std::pair<QByteArray, TimePort::Duration>> replies;
+    const auto since = [&] { return std::chrono::duration_cast<TimePort::Duration>(time.now() - begin); };
+    auto exchange = std::async(std::launch::async, [&] {
+        printer.write(configuration("Office", "secret-1"), 0);
+        replies.emplace_back(QByteArray(), since());
+        for (int slice = 0; slice < 2; ++slice) {
+            QByteArray reply;
+            printer.read(reply, 512, 0);
+            replies.emplace_back(reply, since());
+        }
+    });
+    QVERIFY(time.runUntil([&] { return exchange.wait_for(0s) == std::future_status::ready; },
+                          [this] { return m_bed->busy(); }));
+    QCOMPARE(replies.size(), 3U);
+    QCOMPARE(replies[0].second, TimePort::Duration(10s));
+    QCOMPARE(replies[1].first.size(), 7);
+    QCOMPARE(replies[1].second, TimePort::Duration(3min + 10s));
+    QCOMPARE(replies[2].first.size(), 9);
+    QCOMPARE(replies[2].second, TimePort::Duration(3min + 30s));
+    QVERIFY(!m_bed->busy());
+    printer.close();
+    m_bed.reset();
+}
+
+void UsbfsBedTest::followsItsEvents()
+{
+    VirtualTime time;
+    m_bed.reset();
+    m_bed.emplace(time);
+    PrinterScript script;
+    using enum BusEvent::Action;
+    script.events = {{Plug, std::nullopt, 2s},
+                     {Hold, BusEvent::Cause{PrinterCommand::WakeUp, 1}, 0s},
+                     {Release, BusEvent::Cause{PrinterCommand::WakeUp, 1}, 5s},
+                     {Unplug, BusEvent::Cause{PrinterCommand::WakeUp, 1}, 9s}};
+    m_bed->addPrinter(PrinterModel({}, script));
+    time.advance(1999ms);
+    QVERIFY(!m_bed->isPlugged());
+    time.advance(1ms);
+    QTRY_VERIFY(!m_bed->busy());
+    QVERIFY(m_bed->isPlugged());
+
+    LibusbPrinter printer;
+    seize(printer);
+    QCOMPARE(printer.write(shortFrame(0xFF21)), 0);
+    QCOMPARE(libusb_release_interface(printer.handle(), 0), 0);
+    QCOMPARE(libusb_claim_interface(printer.handle(), 0), int(LIBUSB_ERROR_BUSY));
+    time.advance(5s);
+    QCOMPARE(libusb_claim_interface(printer.handle(), 0), 0);
+    time.advance(4s);
+    QVERIFY(!m_bed->isPlugged());
+    printer.close();
+    m_bed.reset();
+}
+
+Q_DECLARE_METATYPE(PrinterFault)
 
 QTEST_GUILESS_MAIN(UsbfsBedTest)
 #include "UsbfsBedTest.moc"
