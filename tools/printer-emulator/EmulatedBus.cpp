@@ -7,7 +7,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-constexpr qsizetype packetSize = 512;
 constexpr quint32 locationID = 0x01100000; ///< Bus 1, port 1.
 
 WTError error(UsbErrorCode code, const QString &message)

@@ -18,6 +18,8 @@ public:
     EmulatedBus(const EmulatedBus &) = delete;
     EmulatedBus &operator=(const EmulatedBus &) = delete;
 
+    static constexpr qsizetype packetSize = 512;
+
     void apply(BusEvent::Action action);
     PrinterRecord record() const;
     void setScript(PrinterScript script);

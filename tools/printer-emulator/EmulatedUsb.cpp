@@ -19,12 +19,30 @@ public:
     EmulatedConnection &operator=(const EmulatedConnection &) = delete;
 
     std::optional<WTError> write(QByteArrayView bytes) override { return m_bus->write(bytes); }
-    WTResult<QByteArray> read(qsizetype atMost) override { return m_bus->read(atMost); }
-    void discardInput() override { m_bus->discardInput(); }
+    WTResult<QByteArray> read(qsizetype atMost) override
+    {
+        // Whole packets: one that does not fit would be an overflow.
+        if (m_unread.isEmpty()) {
+            constexpr qsizetype packet = EmulatedBus::packetSize;
+            WTResult<QByteArray> received = m_bus->read((atMost + packet - 1) / packet * packet);
+            if (!received)
+                return received;
+            m_unread = std::move(received.value());
+        }
+        QByteArray bytes = m_unread.left(atMost);
+        m_unread.remove(0, bytes.size());
+        return bytes;
+    }
+    void discardInput() override
+    {
+        m_unread.clear();
+        m_bus->discardInput();
+    }
     void cancel() override { m_bus->cancel(); }
 
 private:
     const std::shared_ptr<EmulatedBus> m_bus;
+    QByteArray m_unread;
 };
 } // namespace
 
