@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Story.h"
+
+#include <QDir>
+#include <QObject>
+
+class QWidget;
+class WTWindow;
+
+/// Walks a story through the wizard's window with clicks and keys on the widgets that show, as a person would, and
+/// saves a picture of every screen. Ends the program's event loop with status 1 and a line on standard error where it
+/// cannot go on; otherwise the story's last act ends the program.
+class Autopilot : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @param pictures exists.
+    Autopilot(const Story &story, WTWindow &window, const QDir &pictures);
+
+    /// Begins as soon as the event loop runs.
+    void start();
+    /// The last act was done.
+    bool arrived() const { return m_arrived; }
+
+private:
+    void walk();
+    // Each answers what stood in the way; empty when nothing did.
+    QString visit(const Visit &visit);
+    QString perform(const Act &act);
+    QString click(const QString &name);
+    QString confirm();
+    QWidget *visibleWidget(const QString &name) const;
+    void savePicture(QWidget &shown, const QString &name);
+
+    const Story &m_story;
+    WTWindow &m_window;
+    const QDir m_pictures;
+    int m_pictureCount = 0;
+    bool m_arrived = false;
+};

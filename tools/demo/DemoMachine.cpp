@@ -1,0 +1,46 @@
+#include "DemoMachine.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+/// The shell's command that does nothing.
+const QString noCommand = u":"_s;
+
+} // namespace
+
+DemoMachine::DemoMachine(const PrinterScript &script)
+    : m_usb(m_time, PrinterModel(ModelIdentity{}, script))
+{
+}
+
+Machine DemoMachine::machine()
+{
+    return {m_usb, m_time, m_spooler, m_desktop, m_hostWiFi, HostCapabilities{.hasUnifiedLog = false}};
+}
+
+std::vector<PrintDestination> DemoMachine::IdleSpooler::destinations()
+{
+    return {{.name = "Quillmark_QZ100", .printerState = "3"}};
+}
+
+QString DemoMachine::QuietDesktop::addPrinterCommandLine()
+{
+    return noCommand;
+}
+
+QString DemoMachine::QuietDesktop::privacySettingsCommandLine()
+{
+    return noCommand;
+}
+
+QString DemoMachine::QuietDesktop::hostReport()
+{
+    return {};
+}
+
+QString DemoMachine::QuietDesktop::operatingSystemVersion()
+{
+    return u"Demo machine"_s;
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "PrinterScript.h"
+
+#include <QString>
+#include <chrono>
+#include <optional>
+#include <span>
+#include <vector>
+
+/// One thing that a person does on a screen. Widgets are named by their object names.
+struct Act {
+    enum class Kind {
+        Click,       ///< On the widget.
+        Type,        ///< `text` into the widget, after a click on it.
+        CloseWindow, ///< Presses the window's close button.
+        Confirm,     ///< Presses the first button of the sheet that shows.
+    };
+    Kind kind = Kind::Click;
+    QString widget;
+    QString text;
+};
+
+/// A screen on the way: who arrives waits for it, looks at it, does its acts, and takes a picture before the last of
+/// them.
+struct Visit {
+    QString screen; ///< The class name.
+    std::vector<Act> acts;
+    std::chrono::seconds patience{10}; ///< How long the screen, and the printer, may take to come.
+    std::chrono::seconds look{0};      ///< How long to look at it.
+    bool awaitsPrinter = false;        ///< Go on only when the printer has been found.
+};
+
+/// A walk through the wizard with a printer that plays its part.
+struct Story {
+    QString name;
+    QString summary;
+    PrinterScript printer;
+    std::vector<Visit> visits; ///< The last act of the last one ends the program.
+    /// What the printer must have been told in the end; absent: nothing.
+    std::optional<QByteArray> networkName;
+    std::optional<QByteArray> password;
+};
+
+/// All stories; the first one is the main job.
+std::span<const Story> stories();
+/// Null when there is none of that name.
+const Story *findStory(const QString &name);
