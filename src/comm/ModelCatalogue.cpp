@@ -39,7 +39,7 @@ std::optional<ModelCatalogue::Model> firstModel(const QJsonArray &entries, const
 {
     if (!isSafe(wanted))
         return std::nullopt;
-    for (const QJsonValue &entry : entries) {
+    for (const auto &entry : entries) {
         const QString name = entry["device_name"_L1].toString();
         if (isSafe(name) && matches(name))
             return modelOf(entry.toObject());

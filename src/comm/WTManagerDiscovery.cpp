@@ -44,7 +44,7 @@ std::shared_ptr<WTUSB> usbSideOf(const WTCDevice &device)
 
 WTPrinterPtr printerOf(const WTCDevice &device)
 {
-    const WTPrinterPtr printer = WTPrinter::initWithPrinterType(device.printerType);
+    WTPrinterPtr printer = WTPrinter::initWithPrinterType(device.printerType);
     printer->serialNumber = device.serialNumber;
     printer->connectionType = WTPrinter::ConnectedByUsb;
     printer->usbObj = usbSideOf(device);

@@ -29,6 +29,13 @@ bool PrinterBench::runUntil(const std::function<bool()> &done)
     return time.runUntil(done, [this] { return bed.busy(); });
 }
 
+std::shared_ptr<Answer> PrinterBench::perform(Operation operation)
+{
+    auto answer = start(operation, m_uri);
+    runUntil([&] { return answer->calls() > 0; });
+    return answer;
+}
+
 void PrinterBench::reset(const PrinterScript &script)
 {
     bed.release();

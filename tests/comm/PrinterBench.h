@@ -1,6 +1,7 @@
 #pragma once
 
 #include "LibusbPort.h"
+#include "PrinterOperation.h"
 #include "ResourceFolder.h"
 #include "SpoolerPort.h"
 #include "UsbfsBed.h"
@@ -19,6 +20,9 @@ public:
 
     /// Runs the program until `done`, in virtual time.
     bool runUntil(const std::function<bool()> &done);
+
+    /// Runs the operation on the printer found until it has answered.
+    std::shared_ptr<Answer> perform(Operation operation);
 
     /// As new: plugged, free, permitted, with this script.
     void reset(const PrinterScript &script = {});

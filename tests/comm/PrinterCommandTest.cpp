@@ -1,13 +1,10 @@
 #include "LogCollector.h"
 #include "PrinterBench.h"
-#include "TextFormat.h"
+#include "PrinterOperation.h"
 #include "WTManager.h"
 
 #include <QRandomGenerator>
 #include <QTest>
-#include <QThread>
-#include <algorithm>
-#include <mutex>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -15,121 +12,8 @@ using namespace std::chrono_literals;
 namespace
 {
 
-enum class Operation { WakeUp, Capability, Configuration, Address, InformationPage };
-
 /// What keeps the program from the printer before the operation begins.
 enum class Obstacle { None, Held, Denied, Absent };
-
-constexpr quint16 commandOf(Operation operation)
-{
-    switch (operation) {
-    case Operation::WakeUp:
-        return 0xFF21;
-    case Operation::Capability:
-        return 0xFF81;
-    case Operation::Configuration:
-        return 0xFF80;
-    case Operation::Address:
-        return 0xFF0F;
-    case Operation::InformationPage:
-        return 0xFF84;
-    }
-    return 0;
-}
-
-/// What an operation's callback was given, as one text, and how it was called. Written on any thread.
-class Answer
-{
-public:
-    void give(const QString &text)
-    {
-        const std::lock_guard lock{m_mutex};
-        ++m_calls;
-        m_text = text;
-        m_thread = QThread::currentThread();
-    }
-    void give(int status, const QString &text) { give(u"%1, %2"_s.arg(status).arg(text)); }
-    void give(int status, quint16 result) { give(status, u"0x%1"_s.arg(result, 0, 16)); }
-
-    int calls() const
-    {
-        const std::lock_guard lock{m_mutex};
-        return m_calls;
-    }
-    QString text() const
-    {
-        const std::lock_guard lock{m_mutex};
-        return m_text;
-    }
-    bool wasGivenOn(const QThread *thread) const
-    {
-        const std::lock_guard lock{m_mutex};
-        return m_thread == thread;
-    }
-
-private:
-    mutable std::mutex m_mutex;
-    int m_calls = 0;
-    QString m_text;
-    QThread *m_thread = nullptr;
-};
-
-const QString networkName = u"Harbour guests, second floor"_s;
-const QString networkPassword = u"correct horse battery staple"_s;
-
-/// Whether a line shows a part of the network's password, as text or as bytes.
-bool tellsSecret(const QStringList &lines)
-{
-    const QString part = networkPassword.sliced(4, 4);
-    const QString bytes = QString::fromLatin1(part.toUtf8().toHex());
-    return std::ranges::any_of(
-        lines, [&](const QString &line) { return line.contains(part) || line.contains(bytes, Qt::CaseInsensitive); });
-}
-
-std::shared_ptr<Answer> start(Operation operation, const QString &uri)
-{
-    constexpr quint32 location = 0x01100000;
-    const auto answer = std::make_shared<Answer>();
-    const auto status = [answer](int code, quint16 result) { answer->give(code, result); };
-    switch (operation) {
-    case Operation::WakeUp:
-        WTManager::wt_wakeUpPrinter(uri, location, [answer](bool success, const std::optional<QString> &message) {
-            answer->give(success ? 1 : 0, message.value_or(u"no message"_s));
-        });
-        break;
-    case Operation::Capability:
-        WTManager::checkWiFiCapabilityFromPrinter(uri, location, status);
-        break;
-    case Operation::Configuration:
-        WTManager::wifiConfigForPrinter(uri, location, networkName, networkPassword, status);
-        break;
-    case Operation::Address:
-        WTManager::getIPAddressFromPrinter(uri, location,
-                                           [answer](int code, const QString &text) { answer->give(code, text); });
-        break;
-    case Operation::InformationPage:
-        WTManager::printingWiFiInfoFromPrinter(uri, location, u"QZ100"_s, status);
-        break;
-    }
-    return answer;
-}
-
-/// `fault`, with one more field of it set.
-template <typename Field, typename Value>
-PrinterFault with(Field PrinterFault::*field, const Value &value, PrinterFault fault = {})
-{
-    fault.*field = value;
-    return fault;
-}
-
-PrinterScript scriptWith(Operation operation, PrinterFault fault)
-{
-    PrinterScript script;
-    fault.command = commandOf(operation);
-    script.joinedFromStart = true;
-    script.faults.push_back(fault);
-    return script;
-}
 
 } // namespace
 
@@ -151,22 +35,8 @@ private Q_SLOTS:
     void answersASuccessfulConfigurationAfterAPause();
     void sendsTheInformationPageInTheModelsDialect_data();
     void sendsTheInformationPageInTheModelsDialect();
-    void logsTheExchange_data();
-    void logsTheExchange();
-    void refusesAWakeUpWithoutUriAtOnce();
-    void triesACapabilityCheckWithoutUri();
-    void warnsOfALocationOfZeroOnly();
-    void sendsNoConfigurationThatDoesNotFit();
 
 private:
-    /// Runs the operation to its answer; no answer is an empty one.
-    std::shared_ptr<Answer> perform(Operation operation)
-    {
-        const auto answer = start(operation, m_bench.uri());
-        m_bench.runUntil([&] { return answer->calls() > 0; });
-        return answer;
-    }
-
     PrinterBench m_bench;
 };
 
@@ -249,7 +119,7 @@ void PrinterCommandTest::answersWhateverThePrinterDoes()
         m_bench.bed.unplug();
 
     const LogCollector log;
-    const auto answer = perform(operation);
+    const auto answer = m_bench.perform(operation);
     QTEST(answer->text(), "answer");
     QCOMPARE(answer->calls(), 1);
     QVERIFY(!tellsSecret(log.lines()));
@@ -291,7 +161,7 @@ void PrinterCommandTest::readsAddressReplies()
     QFETCH(PrinterFault, fault);
     m_bench.reset(scriptWith(Operation::Address, fault));
     const LogCollector log;
-    const auto answer = perform(Operation::Address);
+    const auto answer = m_bench.perform(Operation::Address);
     QTEST(answer->text(), "answer");
     QCOMPARE(answer->calls(), 1);
     QTEST(log.lines().filter(u"error: "_s), "errors");
@@ -303,7 +173,7 @@ void PrinterCommandTest::readsRepliesInAnySlices()
         const quint32 seed = QRandomGenerator::global()->generate();
         m_bench.reset(
             scriptWith(Operation::Address, with(&PrinterFault::sliceSeed, seed, with(&PrinterFault::sliceDelay, 3ms))));
-        const auto answer = perform(Operation::Address);
+        const auto answer = m_bench.perform(Operation::Address);
         QVERIFY2(answer->text() == "0, 192.168.1.77"_L1, qPrintable(u"seed %1: %2"_s.arg(seed).arg(answer->text())));
     }
 }
@@ -324,7 +194,7 @@ void PrinterCommandTest::waitsAsLongAsItsCommandMayTake()
     QFETCH(Operation, operation);
     m_bench.reset(scriptWith(operation, with(&PrinterFault::silent, true)));
     const auto before = m_bench.time.now();
-    QCOMPARE(perform(operation)->calls(), 1);
+    QCOMPARE(m_bench.perform(operation)->calls(), 1);
     QTEST(static_cast<int>(std::chrono::round<std::chrono::seconds>(m_bench.time.now() - before).count()), "seconds");
 }
 
@@ -334,7 +204,7 @@ void PrinterCommandTest::answersASuccessfulConfigurationAfterAPause()
     slowToJoin.joinTime = 20s;
     m_bench.reset(slowToJoin);
     const auto before = m_bench.time.now();
-    QCOMPARE(perform(Operation::Configuration)->text(), u"0, 0x1"_s);
+    QCOMPARE(m_bench.perform(Operation::Configuration)->text(), u"0, 0x1"_s);
     const auto duration = m_bench.time.now() - before;
     QVERIFY(duration >= 25s && duration < 26s);
     const PrinterRecord told = m_bench.bed.record();
@@ -376,114 +246,6 @@ void PrinterCommandTest::sendsTheInformationPageInTheModelsDialect()
     const PrinterRecord told = m_bench.bed.record();
     QCOMPARE(told.frames.back().bytes.toHex(), "1b252d31323334355840504a4c20454e544552204c414e47554147453d41434c0d0a" +
                                                    frame.toHex() + "1b252d313233343558");
-}
-
-void PrinterCommandTest::logsTheExchange_data()
-{
-    QTest::addColumn<Operation>("operation");
-    QTest::addColumn<PrinterFault>("fault");
-    QTest::addColumn<QStringList>("lines");
-
-    const auto row = [](const char *name, Operation operation, const PrinterFault &fault, const QStringList &lines) {
-        QTest::newRow(name) << operation << fault << lines;
-    };
-    const auto described = [](const QByteArray &hex) { return describeBytes(QByteArray::fromHex(hex)); };
-    const QString frame = u"{length = 59, bytes = 0x"_s + u"1b252d31323334355840504a4c20454e ... 252d313233343558}"_s;
-    const QString mismatch = u"warning: CMD not matched! msg:acl 失败，失败原因：cmd not matched! "_s;
-
-    row("wake-up", Operation::WakeUp, {},
-        {u"info: send ACL:0xFF21, uri:URI, data:"_s + frame,
-         u"info: 返回 ACL:0xFF21, headData:"_s + described("00acff21000000000000000000000000"),
-         u"info: ACL:0xFF21, uri:URI, 最终返回 👉 data:(null)"_s});
-    row("capability", Operation::Capability, {},
-        {u"info: send ACL:0xFF81, uri:URI, data:"_s + frame,
-         u"info: 返回 ACL:0xFF81, headData:"_s + described("00acff81000100000000000000000000"),
-         u"info: send_cmd:0xFF81 header data:"_s + described("00acff81000100000000000000000000"),
-         u"info: recv_cmd:0xFF81 result:0x1"_s, u"info: cb_success!"_s});
-    row("capability, another command", Operation::Capability, with(&PrinterFault::echo, 0xFF82),
-        {u"info: send ACL:0xFF81, uri:URI, data:"_s + frame,
-         u"info: 返回 ACL:0xFF81, headData:"_s + described("00acff82000100000000000000000000"),
-         mismatch + u"send:0xFF81, recv:0xFF82"_s, u"info: send_cmd:0xFF81 header data:(null)"_s,
-         u"error: no header data!"_s});
-    row("capability, a stall", Operation::Capability, with(&PrinterFault::stallIn, true),
-        {u"info: send ACL:0xFF81, uri:URI, data:"_s + frame, u"info: 返回 ACL:0xFF81, headData:(null)"_s,
-         u"error: FF81 返回错误：WTCOM"_s, u"info: send_cmd:0xFF81 header data:(null)"_s, u"error: no header data!"_s});
-    row("configuration", Operation::Configuration, {},
-        {u"info: send ACL:0xFF80, uri:URI, data:"_s + QString{frame}.replace(u"59"_s, u"267"_s),
-         u"info: recv ACL:0xFF80, header:"_s + described("00acff80000100000000000000000000")});
-    row("address", Operation::Address, with(&PrinterFault::data, "10.0.0.7"_ba.leftJustified(16, '\0')),
-        {u"info: send ACL:0xFF0F, uri:URI, data:"_s + frame,
-         u"info: recv ACL:0xFF0F, header:"_s + described("00acff0f000100100000000000000000"), u"info: 0xFF0F:1"_s,
-         u"info: IP:10.0.0.7"_s, u"info: IPv4:10.0.0.7, IPv6:, unstatus:"_s});
-    row("information page", Operation::InformationPage, {},
-        {u"info: send ACL:0xFF84, uri:URI, data:"_s + frame,
-         u"info: 返回 ACL:0xFF84, headData:"_s + described("00acff84000000000000000000000000"),
-         u"info: ACL:0xFF84, uri:URI, 最终返回 👉 data:(null) error:(null)"_s,
-         u"info: send_cmd:0xFF84 header data:"_s + described("00acff84000000000000000000000000"),
-         u"info: recv_cmd:0xFF84 result:0x0"_s, u"info: cb_success!"_s});
-}
-
-void PrinterCommandTest::logsTheExchange()
-{
-    QFETCH(Operation, operation);
-    QFETCH(PrinterFault, fault);
-    QFETCH(QStringList, lines);
-    m_bench.reset(scriptWith(operation, fault));
-    const LogCollector log;
-    QCOMPARE(perform(operation)->calls(), 1);
-    QCOMPARE(log.lines(), lines.replaceInStrings(u"URI"_s, m_bench.uri()));
-}
-
-void PrinterCommandTest::refusesAWakeUpWithoutUriAtOnce()
-{
-    const LogCollector log;
-    const auto answer = start(Operation::WakeUp, u" "_s);
-    QCOMPARE(answer->calls(), 1);
-    QCOMPARE(answer->text(), u"0, invalid URI!"_s);
-    QCOMPARE(log.lines(), QStringList{u"error: invalid URI!"_s});
-}
-
-void PrinterCommandTest::triesACapabilityCheckWithoutUri()
-{
-    const LogCollector log;
-    const auto answer = start(Operation::Capability, {});
-    QCOMPARE(answer->calls(), 0);
-    QVERIFY(m_bench.runUntil([&] { return answer->calls() > 0; }));
-    QCOMPARE(answer->text(), u"1, 0x0"_s);
-    QCOMPARE(log.lines().constFirst(), u"error: checkWiFiCapabilityFromPrinter, printerURI:  locationID:0x1100000"_s);
-}
-
-void PrinterCommandTest::warnsOfALocationOfZeroOnly()
-{
-    const LogCollector log;
-    bool awake = false;
-    WTManager::wt_wakeUpPrinter(m_bench.uri(), 0, [&](bool success, const auto &) { awake = success; });
-    QVERIFY(m_bench.runUntil([&] { return awake; }));
-    QCOMPARE(log.lines().constFirst(), u"warning: invalid locationID!"_s);
-}
-
-void PrinterCommandTest::sendsNoConfigurationThatDoesNotFit()
-{
-    const LogCollector log;
-    const int framesBefore = m_bench.bed.record().count(0xFF80);
-    const QString longPassword = networkPassword + networkPassword;
-    Answer nameless;
-    Answer tooLong;
-    WTManager::wifiConfigForPrinter(m_bench.uri(), 1, u" \n"_s, networkPassword,
-                                    [&](int status, quint16 result) { nameless.give(status, result); });
-    WTManager::wifiConfigForPrinter(m_bench.uri(), 1, networkName, longPassword,
-                                    [&](int status, quint16 result) { tooLong.give(status, result); });
-    QVERIFY(m_bench.runUntil([&] { return tooLong.calls() > 0; }));
-
-    QCOMPARE(tooLong.text(), u"1, 0x0"_s);
-    QVERIFY(!tooLong.wasGivenOn(thread()));
-    QCOMPARE(nameless.calls(), 0);
-    QCOMPARE(m_bench.bed.record().count(0xFF80), framesBefore);
-    const QStringList lines = log.lines();
-    QCOMPARE(lines.size(), 2);
-    QCOMPARE(lines.first(), u"error: dirty data👉🏻ssid: \n"_s);
-    QVERIFY(lines.last().startsWith("error: "_L1));
-    QVERIFY(!tellsSecret(lines));
 }
 
 QTEST_GUILESS_MAIN(PrinterCommandTest)

@@ -1,0 +1,139 @@
+#include "LogCollector.h"
+#include "PrinterBench.h"
+#include "PrinterOperation.h"
+#include "TextFormat.h"
+#include "WTManager.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// What the printer commands log, and what they refuse, in front of the emulated printer.
+class PrinterCommandLogTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QVERIFY(m_bench.discover()); }
+    void init() { m_bench.reset(); }
+    void logsTheExchange_data();
+    void logsTheExchange();
+    void refusesAWakeUpWithoutUriAtOnce();
+    void triesACapabilityCheckWithoutUri();
+    void warnsOfALocationOfZeroOnly();
+    void sendsNoConfigurationThatDoesNotFit();
+
+private:
+    PrinterBench m_bench;
+};
+
+void PrinterCommandLogTest::logsTheExchange_data()
+{
+    QTest::addColumn<Operation>("operation");
+    QTest::addColumn<PrinterFault>("fault");
+    QTest::addColumn<QStringList>("lines");
+
+    const auto row = [](const char *name, Operation operation, const PrinterFault &fault, const QStringList &lines) {
+        QTest::newRow(name) << operation << fault << lines;
+    };
+    const auto described = [](const QByteArray &hex) { return describeBytes(QByteArray::fromHex(hex)); };
+    const QString frame = u"{length = 59, bytes = 0x"_s + u"1b252d31323334355840504a4c20454e ... 252d313233343558}"_s;
+    const QString mismatch = u"warning: CMD not matched! msg:acl 失败，失败原因：cmd not matched! "_s;
+
+    row("wake-up", Operation::WakeUp, {},
+        {u"info: send ACL:0xFF21, uri:URI, data:"_s + frame,
+         u"info: 返回 ACL:0xFF21, headData:"_s + described("00acff21000000000000000000000000"),
+         u"info: ACL:0xFF21, uri:URI, 最终返回 👉 data:(null)"_s});
+    row("capability", Operation::Capability, {},
+        {u"info: send ACL:0xFF81, uri:URI, data:"_s + frame,
+         u"info: 返回 ACL:0xFF81, headData:"_s + described("00acff81000100000000000000000000"),
+         u"info: send_cmd:0xFF81 header data:"_s + described("00acff81000100000000000000000000"),
+         u"info: recv_cmd:0xFF81 result:0x1"_s, u"info: cb_success!"_s});
+    row("capability, another command", Operation::Capability, with(&PrinterFault::echo, 0xFF82),
+        {u"info: send ACL:0xFF81, uri:URI, data:"_s + frame,
+         u"info: 返回 ACL:0xFF81, headData:"_s + described("00acff82000100000000000000000000"),
+         mismatch + u"send:0xFF81, recv:0xFF82"_s, u"info: send_cmd:0xFF81 header data:(null)"_s,
+         u"error: no header data!"_s});
+    row("capability, a stall", Operation::Capability, with(&PrinterFault::stallIn, true),
+        {u"info: send ACL:0xFF81, uri:URI, data:"_s + frame, u"info: 返回 ACL:0xFF81, headData:(null)"_s,
+         u"error: FF81 返回错误：WTCOM"_s, u"info: send_cmd:0xFF81 header data:(null)"_s, u"error: no header data!"_s});
+    row("configuration", Operation::Configuration, {},
+        {u"info: send ACL:0xFF80, uri:URI, data:"_s + QString{frame}.replace(u"59"_s, u"267"_s),
+         u"info: recv ACL:0xFF80, header:"_s + described("00acff80000100000000000000000000")});
+    row("address", Operation::Address, with(&PrinterFault::data, "10.0.0.7"_ba.leftJustified(16, '\0')),
+        {u"info: send ACL:0xFF0F, uri:URI, data:"_s + frame,
+         u"info: recv ACL:0xFF0F, header:"_s + described("00acff0f000100100000000000000000"), u"info: 0xFF0F:1"_s,
+         u"info: IP:10.0.0.7"_s, u"info: IPv4:10.0.0.7, IPv6:, unstatus:"_s});
+    row("information page", Operation::InformationPage, {},
+        {u"info: send ACL:0xFF84, uri:URI, data:"_s + frame,
+         u"info: 返回 ACL:0xFF84, headData:"_s + described("00acff84000000000000000000000000"),
+         u"info: ACL:0xFF84, uri:URI, 最终返回 👉 data:(null) error:(null)"_s,
+         u"info: send_cmd:0xFF84 header data:"_s + described("00acff84000000000000000000000000"),
+         u"info: recv_cmd:0xFF84 result:0x0"_s, u"info: cb_success!"_s});
+}
+
+void PrinterCommandLogTest::logsTheExchange()
+{
+    QFETCH(Operation, operation);
+    QFETCH(PrinterFault, fault);
+    QFETCH(QStringList, lines);
+    m_bench.reset(scriptWith(operation, fault));
+    const LogCollector log;
+    QCOMPARE(m_bench.perform(operation)->calls(), 1);
+    QCOMPARE(log.lines(), lines.replaceInStrings(u"URI"_s, m_bench.uri()));
+}
+
+void PrinterCommandLogTest::refusesAWakeUpWithoutUriAtOnce()
+{
+    const LogCollector log;
+    const auto answer = start(Operation::WakeUp, u" "_s);
+    QCOMPARE(answer->calls(), 1);
+    QCOMPARE(answer->text(), u"0, invalid URI!"_s);
+    QCOMPARE(log.lines(), QStringList{u"error: invalid URI!"_s});
+}
+
+void PrinterCommandLogTest::triesACapabilityCheckWithoutUri()
+{
+    const LogCollector log;
+    const auto answer = start(Operation::Capability, {});
+    QCOMPARE(answer->calls(), 0);
+    QVERIFY(m_bench.runUntil([&] { return answer->calls() > 0; }));
+    QCOMPARE(answer->text(), u"1, 0x0"_s);
+    QCOMPARE(log.lines().constFirst(), u"error: checkWiFiCapabilityFromPrinter, printerURI:  locationID:0x1100000"_s);
+}
+
+void PrinterCommandLogTest::warnsOfALocationOfZeroOnly()
+{
+    const LogCollector log;
+    bool awake = false;
+    WTManager::wt_wakeUpPrinter(m_bench.uri(), 0, [&](bool success, const auto &) { awake = success; });
+    QVERIFY(m_bench.runUntil([&] { return awake; }));
+    QCOMPARE(log.lines().constFirst(), u"warning: invalid locationID!"_s);
+}
+
+void PrinterCommandLogTest::sendsNoConfigurationThatDoesNotFit()
+{
+    const LogCollector log;
+    const int framesBefore = m_bench.bed.record().count(0xFF80);
+    const QString longPassword = networkPassword + networkPassword;
+    Answer nameless;
+    Answer tooLong;
+    WTManager::wifiConfigForPrinter(m_bench.uri(), 1, u" \n"_s, networkPassword,
+                                    [&](int status, quint16 result) { nameless.give(status, result); });
+    WTManager::wifiConfigForPrinter(m_bench.uri(), 1, networkName, longPassword,
+                                    [&](int status, quint16 result) { tooLong.give(status, result); });
+    QVERIFY(m_bench.runUntil([&] { return tooLong.calls() > 0; }));
+
+    QCOMPARE(tooLong.text(), u"1, 0x0"_s);
+    QVERIFY(!tooLong.wasGivenOn(thread()));
+    QCOMPARE(nameless.calls(), 0);
+    QCOMPARE(m_bench.bed.record().count(0xFF80), framesBefore);
+    const QStringList lines = log.lines();
+    QCOMPARE(lines.size(), 2);
+    QCOMPARE(lines.first(), u"error: dirty data👉🏻ssid: \n"_s);
+    QVERIFY(lines.last().startsWith("error: "_L1));
+    QVERIFY(!tellsSecret(lines));
+}
+
+QTEST_GUILESS_MAIN(PrinterCommandLogTest)
+#include "PrinterCommandLogTest.moc"

@@ -1,0 +1,106 @@
+#include "PrinterOperation.h"
+
+#include "WTManager.h"
+
+#include <QThread>
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+quint16 commandOf(Operation operation)
+{
+    switch (operation) {
+    case Operation::WakeUp:
+        return 0xFF21;
+    case Operation::Capability:
+        return 0xFF81;
+    case Operation::Configuration:
+        return 0xFF80;
+    case Operation::Address:
+        return 0xFF0F;
+    case Operation::InformationPage:
+        return 0xFF84;
+    }
+    return 0;
+}
+
+void Answer::give(const QString &text)
+{
+    const std::lock_guard lock{m_mutex};
+    ++m_calls;
+    m_text = text;
+    m_thread = QThread::currentThread();
+}
+
+void Answer::give(int status, const QString &text)
+{
+    give(u"%1, %2"_s.arg(status).arg(text));
+}
+
+void Answer::give(int status, quint16 result)
+{
+    give(status, u"0x%1"_s.arg(result, 0, 16));
+}
+
+int Answer::calls() const
+{
+    const std::lock_guard lock{m_mutex};
+    return m_calls;
+}
+
+QString Answer::text() const
+{
+    const std::lock_guard lock{m_mutex};
+    return m_text;
+}
+
+bool Answer::wasGivenOn(const QThread *thread) const
+{
+    const std::lock_guard lock{m_mutex};
+    return m_thread == thread;
+}
+
+bool tellsSecret(const QStringList &lines)
+{
+    const QString part = networkPassword.sliced(4, 4);
+    const QString bytes = QString::fromLatin1(part.toUtf8().toHex());
+    return std::ranges::any_of(
+        lines, [&](const QString &line) { return line.contains(part) || line.contains(bytes, Qt::CaseInsensitive); });
+}
+
+std::shared_ptr<Answer> start(Operation operation, const QString &uri)
+{
+    constexpr quint32 location = 0x01100000;
+    const auto answer = std::make_shared<Answer>();
+    const auto status = [answer](int code, quint16 result) { answer->give(code, result); };
+    switch (operation) {
+    case Operation::WakeUp:
+        WTManager::wt_wakeUpPrinter(uri, location, [answer](bool success, const std::optional<QString> &message) {
+            answer->give(success ? 1 : 0, message.value_or(u"no message"_s));
+        });
+        break;
+    case Operation::Capability:
+        WTManager::checkWiFiCapabilityFromPrinter(uri, location, status);
+        break;
+    case Operation::Configuration:
+        WTManager::wifiConfigForPrinter(uri, location, networkName, networkPassword, status);
+        break;
+    case Operation::Address:
+        WTManager::getIPAddressFromPrinter(uri, location,
+                                           [answer](int code, const QString &text) { answer->give(code, text); });
+        break;
+    case Operation::InformationPage:
+        WTManager::printingWiFiInfoFromPrinter(uri, location, u"QZ100"_s, status);
+        break;
+    }
+    return answer;
+}
+
+PrinterScript scriptWith(Operation operation, PrinterFault fault)
+{
+    PrinterScript script;
+    fault.command = commandOf(operation);
+    script.joinedFromStart = true;
+    script.faults.push_back(fault);
+    return script;
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "PrinterScript.h"
+
+#include <QString>
+#include <QStringList>
+#include <memory>
+#include <mutex>
+
+class QThread;
+
+enum class Operation { WakeUp, Capability, Configuration, Address, InformationPage };
+
+quint16 commandOf(Operation operation);
+
+/// What an operation's callback was given, as one text, and how it was called. Written on any thread.
+class Answer
+{
+public:
+    void give(const QString &text);
+    void give(int status, const QString &text);
+    void give(int status, quint16 result);
+
+    int calls() const;
+    QString text() const;
+    bool wasGivenOn(const QThread *thread) const;
+
+private:
+    mutable std::mutex m_mutex;
+    int m_calls = 0;
+    QString m_text;
+    QThread *m_thread = nullptr;
+};
+
+/// What the configurations of these tests tell the printer.
+inline const QString networkName = QStringLiteral("Harbour guests, second floor");
+inline const QString networkPassword = QStringLiteral("correct horse battery staple");
+
+/// Whether a line shows a part of the network's password, as text or as bytes.
+bool tellsSecret(const QStringList &lines);
+
+/// Begins the operation; its answer fills when it calls back.
+std::shared_ptr<Answer> start(Operation operation, const QString &uri);
+
+/// `fault`, with one more field of it set.
+template <typename Field, typename Value>
+PrinterFault with(Field PrinterFault::*field, const Value &value, PrinterFault fault = {})
+{
+    fault.*field = value;
+    return fault;
+}
+
+/// A printer that has joined its network and does this to the operation's command.
+PrinterScript scriptWith(Operation operation, PrinterFault fault);
