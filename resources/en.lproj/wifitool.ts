@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>上一步</source>
-        <translation>Back</translation>
+        <translation>&amp;Back</translation>
     </message>
     <message>
         <source>打印无线网络信息页</source>
@@ -162,10 +162,6 @@
     <message>
         <source>已将无线网络信息页发送给打印机</source>
         <translation>The Wi-Fi information page has been sent to the printer.</translation>
-    </message>
-    <message>
-        <source>返回</source>
-        <translation>&amp;Back</translation>
     </message>
     <message>
         <source>完成并退出</source>

@@ -66,7 +66,7 @@ QByteArray describe(const std::vector<VisibleNetwork> &networks)
 
 } // namespace
 
-class tst_NetworkManagerWiFi : public QObject
+class NetworkManagerWiFiTest : public QObject
 {
     Q_OBJECT
 
@@ -93,7 +93,7 @@ private:
     SystemTime m_time;
 };
 
-void tst_NetworkManagerWiFi::state_data()
+void NetworkManagerWiFiTest::state_data()
 {
     QTest::addColumn<Operations>("host");
     QTest::addColumn<QString>("interfaceName");
@@ -119,7 +119,7 @@ void tst_NetworkManagerWiFi::state_data()
     QTest::newRow("the primary of two") << twoDevices << u"wlan1"_s << true << u"Caf\u00e9"_s << -85 << 2 << 0LL;
 }
 
-void tst_NetworkManagerWiFi::state()
+void NetworkManagerWiFiTest::state()
 {
     QFETCH(Operations, host);
     QFETCH(QString, interfaceName);
@@ -139,7 +139,7 @@ void tst_NetworkManagerWiFi::state()
     QVERIFY(wifi.state() == expected);
 }
 
-void tst_NetworkManagerWiFi::followsTheHost()
+void NetworkManagerWiFiTest::followsTheHost()
 {
     NetworkManagerWiFi wifi(m_time);
     QVERIFY(wifi.state().interfaceName.isEmpty());
@@ -158,7 +158,7 @@ void tst_NetworkManagerWiFi::followsTheHost()
     QTRY_COMPARE(wifi.state().ssid.value_or(QString()), u"Office"_s);
 }
 
-void tst_NetworkManagerWiFi::networks_data()
+void NetworkManagerWiFiTest::networks_data()
 {
     QTest::addColumn<Operations>("seen");
     QTest::addColumn<QByteArray>("expected");
@@ -182,7 +182,7 @@ void tst_NetworkManagerWiFi::networks_data()
     QTest::newRow("none") << Operations{} << QByteArray();
 }
 
-void tst_NetworkManagerWiFi::networks()
+void NetworkManagerWiFiTest::networks()
 {
     QFETCH(Operations, seen);
     QFETCH(QByteArray, expected);
@@ -197,7 +197,7 @@ void tst_NetworkManagerWiFi::networks()
     }
 }
 
-void tst_NetworkManagerWiFi::scanWithoutNewerAnswerEnds()
+void NetworkManagerWiFiTest::scanWithoutNewerAnswerEnds()
 {
     m_mock.tell({{u"start"_s}, {u"device"_s, u"wlan0"_s, u"silent"_s}, {u"ap"_s, u"wlan0"_s, u"a"_s, hex("Old"), 10}});
     NetworkManagerWiFi wifi(m_time);
@@ -207,7 +207,7 @@ void tst_NetworkManagerWiFi::scanWithoutNewerAnswerEnds()
     QCOMPARE(describe(networks.value()), QByteArray("Old/7/10"));
 }
 
-void tst_NetworkManagerWiFi::secrets_data()
+void NetworkManagerWiFiTest::secrets_data()
 {
     QTest::addColumn<QJsonArray>("profile");
     QTest::addColumn<int>("status");
@@ -236,7 +236,7 @@ void tst_NetworkManagerWiFi::secrets_data()
                                     << int(SecretStatus::Unavailable) << QString();
 }
 
-void tst_NetworkManagerWiFi::secrets()
+void NetworkManagerWiFiTest::secrets()
 {
     QFETCH(QJsonArray, profile);
     QFETCH(int, status);
@@ -249,7 +249,7 @@ void tst_NetworkManagerWiFi::secrets()
     QCOMPARE(answer.second, password);
 }
 
-void tst_NetworkManagerWiFi::permission_data()
+void NetworkManagerWiFiTest::permission_data()
 {
     QTest::addColumn<Operations>("host");
     QTest::addColumn<int>("permission");
@@ -259,7 +259,7 @@ void tst_NetworkManagerWiFi::permission_data()
     QTest::newRow("NetworkManager absent") << Operations{} << 4;
 }
 
-void tst_NetworkManagerWiFi::permission()
+void NetworkManagerWiFiTest::permission()
 {
     QFETCH(Operations, host);
     QFETCH(int, permission);
@@ -270,7 +270,7 @@ void tst_NetworkManagerWiFi::permission()
     QTRY_COMPARE(told->load(), permission);
 }
 
-void tst_NetworkManagerWiFi::permissionChangesAreTold()
+void NetworkManagerWiFiTest::permissionChangesAreTold()
 {
     m_mock.tell(QJsonArray{u"start"_s, true, u"no"_s});
     NetworkManagerWiFi wifi(m_time);
@@ -285,7 +285,7 @@ void tst_NetworkManagerWiFi::permissionChangesAreTold()
     QTRY_COMPARE(second->load(), 3);
 }
 
-void tst_NetworkManagerWiFi::endsWhileAScanIsUnderWay()
+void NetworkManagerWiFiTest::endsWhileAScanIsUnderWay()
 {
     m_mock.tell({{u"start"_s}, {u"device"_s, u"wlan0"_s, u"silent"_s}, {u"ap"_s, u"wlan0"_s, u"a"_s, hex("Old"), 10}});
     auto answered = std::make_shared<std::atomic<bool>>(false);
@@ -299,7 +299,7 @@ void tst_NetworkManagerWiFi::endsWhileAScanIsUnderWay()
     QVERIFY(answered->load());
 }
 
-void tst_NetworkManagerWiFi::security_data()
+void NetworkManagerWiFiTest::security_data()
 {
     QTest::addColumn<quint32>("flags");
     QTest::addColumn<quint32>("wpa");
@@ -329,7 +329,7 @@ void tst_NetworkManagerWiFi::security_data()
     row("ciphers without a known key management", 1, 0, 0x8, 0, largest);
 }
 
-void tst_NetworkManagerWiFi::security()
+void NetworkManagerWiFiTest::security()
 {
     QFETCH(quint32, flags);
     QFETCH(quint32, wpa);
@@ -339,5 +339,5 @@ void tst_NetworkManagerWiFi::security()
     QCOMPARE(accessPointSecurity(flags, wpa, rsn), (AccessPointSecurity{library, platform}));
 }
 
-QTEST_GUILESS_MAIN(tst_NetworkManagerWiFi)
-#include "tst_NetworkManagerWiFi.moc"
+QTEST_GUILESS_MAIN(NetworkManagerWiFiTest)
+#include "NetworkManagerWiFiTest.moc"

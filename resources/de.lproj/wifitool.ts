@@ -1,0 +1,535 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="zh_CN">
+<context>
+    <name>wifitool</name>
+    <message>
+        <source>温馨提示：</source>
+        <translation>Bitte beachten:</translation>
+    </message>
+    <message>
+        <source>是否退出Wi-Fi配置工具?</source>
+        <translation>Wi-Fi-Einrichtung beenden?</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Sonstige</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Offen</translation>
+    </message>
+    <message>
+        <source>WEP</source>
+        <translation>WEP</translation>
+    </message>
+    <message>
+        <source>WPA-Personal</source>
+        <translation>WPA-Personal</translation>
+    </message>
+    <message>
+        <source>WPA-Enterprise</source>
+        <translation>WPA-Enterprise</translation>
+    </message>
+    <message>
+        <source>WPA/WPA2-Personal</source>
+        <translation>WPA/WPA2-Personal</translation>
+    </message>
+    <message>
+        <source>WPA/WPA2-Enterprise</source>
+        <translation>WPA/WPA2-Enterprise</translation>
+    </message>
+    <message>
+        <source>WPA2-Personal</source>
+        <translation>WPA2-Personal</translation>
+    </message>
+    <message>
+        <source>WPA2-Enterprise</source>
+        <translation>WPA2-Enterprise</translation>
+    </message>
+    <message>
+        <source>WPA2/WPA3-Personal</source>
+        <translation>WPA2/WPA3-Personal</translation>
+    </message>
+    <message>
+        <source>WPA2/WPA3-Enterprise</source>
+        <translation>WPA2/WPA3-Enterprise</translation>
+    </message>
+    <message>
+        <source>WPA3-Personal</source>
+        <translation>WPA3-Personal</translation>
+    </message>
+    <message>
+        <source>WPA3-Enterprise</source>
+        <translation>WPA3-Enterprise</translation>
+    </message>
+    <message>
+        <source>OWE</source>
+        <translation>Enhanced Open (OWE)</translation>
+    </message>
+    <message>
+        <source>正在唤醒打印机…</source>
+        <translation>Der Drucker wird geweckt…</translation>
+    </message>
+    <message>
+        <source>正在检查打印机能否配置无线网络…</source>
+        <translation>Es wird geprüft, ob sich der Drucker für WLAN einrichten lässt…</translation>
+    </message>
+    <message>
+        <source>正在发送网络名称和密码，打印机正在加入网络…</source>
+        <translation>Name und Passwort werden gesendet; der Drucker tritt dem Netzwerk bei…</translation>
+    </message>
+    <message>
+        <source>正在等待打印机的网络地址（第 %d 次，共 %d 次）…</source>
+        <translation>Warten auf die Adresse des Druckers (%d von %d)…</translation>
+    </message>
+    <message>
+        <source>打印机没有应答，您现在可以关闭此窗口。</source>
+        <translation>Der Drucker hat nicht geantwortet. Sie können dieses Fenster jetzt schließen.</translation>
+    </message>
+    <message>
+        <source>正在配置打印机</source>
+        <translation>Der Drucker wird eingerichtet</translation>
+    </message>
+    <message>
+        <source>这可能需要几分钟。请保持打印机开机，不要拔下 USB 数据线。</source>
+        <translation>Das kann einige Minuten dauern. Lassen Sie den Drucker eingeschaltet und das USB-Kabel stecken.</translation>
+    </message>
+    <message>
+        <source>配置进度</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>打印机最多接受 %d 个字节的密码，请为网络设置较短的密码。</source>
+        <translation>Der Drucker nimmt Passwörter mit höchstens %d Byte an. Geben Sie dem Netzwerk ein kürzeres.</translation>
+    </message>
+    <message>
+        <source>网络名称</source>
+        <translation>Netzwerkname</translation>
+    </message>
+    <message>
+        <source>网络密码</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>与路由器上显示的名称完全一致，区分大小写。</source>
+        <translation>Genau wie am Router angezeigt; Groß- und Kleinschreibung zählt.</translation>
+    </message>
+    <message>
+        <source>没有密码的网络请留空。</source>
+        <translation>Für ein Netzwerk ohne Passwort leer lassen.</translation>
+    </message>
+    <message>
+        <source>显示密码</source>
+        <translation>Passwort anzeigen</translation>
+    </message>
+    <message>
+        <source>下一步</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>上一步</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>打印无线网络信息页</source>
+        <translation>WLAN-Infoseite drucken</translation>
+    </message>
+    <message>
+        <source>输入无线网络</source>
+        <translation>WLAN-Netzwerk eingeben</translation>
+    </message>
+    <message>
+        <source>此电脑的无线网络已关闭，无法列出附近的网络。请输入打印机要连接的网络。</source>
+        <translation>Das WLAN dieses Computers ist aus, deshalb kann er keine Netzwerke auflisten. Geben Sie das Netzwerk ein, dem der Drucker beitreten soll.</translation>
+    </message>
+    <message>
+        <source>名称太长：最多 32 个字节。</source>
+        <translation>Dieser Name ist zu lang: höchstens 32 Byte.</translation>
+    </message>
+    <message>
+        <source>打印端口被占用，无法打印无线网络信息页。</source>
+        <translation>Der Druckeranschluss ist belegt, die WLAN-Infoseite kann nicht gedruckt werden.</translation>
+    </message>
+    <message>
+        <source>已将无线网络信息页发送给打印机</source>
+        <translation>Die WLAN-Infoseite wurde an den Drucker gesendet.</translation>
+    </message>
+    <message>
+        <source>完成并退出</source>
+        <translation>&amp;Fertigstellen und beenden</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>连接</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>网络</source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <source>配置</source>
+        <translation>Einrichten</translation>
+    </message>
+    <message>
+        <source>完成</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>第%d步，共%d步：%@</source>
+        <translation>Schritt %d von %d: %@</translation>
+    </message>
+    <message>
+        <source>第%d步</source>
+        <translation>Schritt %d</translation>
+    </message>
+    <message>
+        <source>Wi-Fi配置工具</source>
+        <translation>Wi-Fi Tool</translation>
+    </message>
+    <message>
+        <source>让打印机连上无线网络</source>
+        <translation>Den Drucker ins WLAN bringen</translation>
+    </message>
+    <message>
+        <source>请打开打印机电源，然后选择配置方式。</source>
+        <translation>Schalten Sie den Drucker ein und wählen Sie dann, wie Sie ihn einrichten möchten.</translation>
+    </message>
+    <message>
+        <source>USB数据线</source>
+        <translation>USB-Kabel</translation>
+    </message>
+    <message>
+        <source>用数据线连接打印机和电脑。适合第一次使用。</source>
+        <translation>Den Drucker per Kabel mit diesem Computer verbinden. Am besten beim ersten Mal.</translation>
+    </message>
+    <message>
+        <source>WPS一键配网</source>
+        <translation>WPS</translation>
+    </message>
+    <message>
+        <source>路由器有WPS按钮时可用，不需要数据线和密码。</source>
+        <translation>Für Router mit WPS-Taste. Braucht weder Kabel noch Passwort.</translation>
+    </message>
+    <message>
+        <source>打印机的Wi-Fi按钮</source>
+        <translation>WLAN-Taste</translation>
+    </message>
+    <message>
+        <source>打印机没有显示屏时使用。</source>
+        <translation>Für Drucker ohne Display.</translation>
+    </message>
+    <message>
+        <source>打印机的菜单</source>
+        <translation>Druckermenü</translation>
+    </message>
+    <message>
+        <source>打印机有显示屏和菜单时使用。</source>
+        <translation>Für Drucker mit Display und Menü.</translation>
+    </message>
+    <message>
+        <source>从哪里启动WPS？</source>
+        <translation>Wo möchten Sie WPS starten?</translation>
+    </message>
+    <message>
+        <source>看一看您的打印机：它有显示屏和菜单，还是只有Wi-Fi按钮？</source>
+        <translation>Sehen Sie sich den Drucker an: Hat er ein Display mit Menü oder nur eine WLAN-Taste?</translation>
+    </message>
+    <message>
+        <source>按钮方式（PBC）</source>
+        <translation>Tastendruck (PBC)</translation>
+    </message>
+    <message>
+        <source>按一下路由器上的WPS按钮即可。</source>
+        <translation>Sie drücken nur die WPS-Taste am Router.</translation>
+    </message>
+    <message>
+        <source>PIN码方式</source>
+        <translation>PIN</translation>
+    </message>
+    <message>
+        <source>路由器没有WPS按钮时，在它的设置页面输入PIN码。</source>
+        <translation>Für Router ohne WPS-Taste: Sie geben die PIN auf der Einstellungsseite des Routers ein.</translation>
+    </message>
+    <message>
+        <source>选择WPS的方式</source>
+        <translation>Art von WPS wählen</translation>
+    </message>
+    <message>
+        <source>两种方式都在打印机的菜单里。路由器上有WPS按钮时，按钮方式最简单。</source>
+        <translation>Beide stehen im Menü des Druckers. Hat der Router eine WPS-Taste, ist der Tastendruck am einfachsten.</translation>
+    </message>
+    <message>
+        <source>用按钮连接</source>
+        <translation>Mit den Tasten verbinden</translation>
+    </message>
+    <message>
+        <source>请在两分钟内完成前两步。</source>
+        <translation>Führen Sie die ersten beiden Schritte innerhalb von zwei Minuten aus.</translation>
+    </message>
+    <message>
+        <source>按住打印机上的Wi-Fi按钮约3秒，直到指示灯开始闪烁。</source>
+        <translation>Halten Sie die WLAN-Taste am Drucker etwa 3 Sekunden gedrückt, bis die Leuchte blinkt.</translation>
+    </message>
+    <message>
+        <source>按一下路由器上的WPS按钮。</source>
+        <translation>Drücken Sie die WPS-Taste am Router.</translation>
+    </message>
+    <message>
+        <source>等待最多两分钟。指示灯不再闪烁时，点击“下一步”。</source>
+        <translation>Warten Sie bis zu zwei Minuten. Wenn die Leuchte nicht mehr blinkt, drücken Sie „Weiter“.</translation>
+    </message>
+    <message>
+        <source>在打印机菜单中使用按钮方式</source>
+        <translation>Tastendruck über das Druckermenü</translation>
+    </message>
+    <message>
+        <source>在打印机的显示屏上依次选择“菜单”“网络”“WPS”“PBC”，按“OK”确认。</source>
+        <translation>Wählen Sie am Display des Druckers Menü, Netzwerk, WPS, PBC und bestätigen Sie mit OK.</translation>
+    </message>
+    <message>
+        <source>等待最多两分钟。显示屏显示结果后，点击“下一步”。</source>
+        <translation>Warten Sie bis zu zwei Minuten. Wenn das Display das Ergebnis zeigt, drücken Sie „Weiter“.</translation>
+    </message>
+    <message>
+        <source>在打印机菜单中使用PIN码</source>
+        <translation>PIN über das Druckermenü</translation>
+    </message>
+    <message>
+        <source>PIN码几分钟后失效，请先准备好路由器的设置页面。</source>
+        <translation>Die PIN läuft nach einigen Minuten ab. Öffnen Sie deshalb zuerst die Einstellungsseite des Routers.</translation>
+    </message>
+    <message>
+        <source>在打印机的显示屏上依次选择“菜单”“网络”“WPS”“PIN”，显示屏会显示一个8位数字。</source>
+        <translation>Wählen Sie am Display des Druckers Menü, Netzwerk, WPS, PIN. Es zeigt dann eine achtstellige Zahl.</translation>
+    </message>
+    <message>
+        <source>在路由器设置页面的WPS栏输入这个PIN码，然后开始连接。</source>
+        <translation>Geben Sie diese PIN im WPS-Bereich der Einstellungsseite des Routers ein und starten Sie dort die Verbindung.</translation>
+    </message>
+    <message>
+        <source>打印机的显示屏显示什么？</source>
+        <translation>Was zeigt das Display des Druckers?</translation>
+    </message>
+    <message>
+        <source>请看打印机的显示屏，选择您看到的结果。</source>
+        <translation>Sehen Sie auf das Display des Druckers und wählen Sie, was Sie sehen.</translation>
+    </message>
+    <message>
+        <source>连接成功</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>显示屏显示“连接成功”或IP地址。</source>
+        <translation>Das Display meldet die Verbindung oder zeigt eine IP-Adresse.</translation>
+    </message>
+    <message>
+        <source>连接失败</source>
+        <translation>Nicht verbunden</translation>
+    </message>
+    <message>
+        <source>显示屏显示“连接失败”或“超时”。请返回，再试一次。</source>
+        <translation>Das Display meldet einen Fehler oder eine Zeitüberschreitung. Gehen Sie zurück und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>打印机的Wi-Fi指示灯怎么样？</source>
+        <translation>Was macht die WLAN-Leuchte des Druckers?</translation>
+    </message>
+    <message>
+        <source>请看打印机的Wi-Fi指示灯，选择您看到的样子。</source>
+        <translation>Sehen Sie auf die WLAN-Leuchte am Drucker und wählen Sie, was Sie sehen.</translation>
+    </message>
+    <message>
+        <source>指示灯常亮</source>
+        <translation>Leuchtet dauerhaft</translation>
+    </message>
+    <message>
+        <source>打印机已经连上无线网络。</source>
+        <translation>Der Drucker ist im WLAN.</translation>
+    </message>
+    <message>
+        <source>指示灯闪烁或熄灭</source>
+        <translation>Blinkt oder ist aus</translation>
+    </message>
+    <message>
+        <source>没有连上。请返回，再试一次。</source>
+        <translation>Keine Verbindung. Gehen Sie zurück und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>打开系统的添加打印机窗口</source>
+        <translation>Fenster „Drucker hinzufügen“ des Systems öffnen</translation>
+    </message>
+    <message>
+        <source>恭喜，您完成了无线网络配置！</source>
+        <translation>Glückwunsch, Sie haben das WLAN eingerichtet!</translation>
+    </message>
+    <message>
+        <source>现在可以拔掉USB数据线了。要在这台电脑上打印，请把打印机添加到系统：勾选下面的选项，然后点击“完成并退出”。</source>
+        <translation>Sie können das USB-Kabel jetzt abziehen. Um von diesem Computer zu drucken, fügen Sie den Drucker dem System hinzu: Kästchen unten ankreuzen und „Fertigstellen und beenden“ drücken.</translation>
+    </message>
+    <message>
+        <source>打印机已连上无线网络</source>
+        <translation>Der Drucker ist im WLAN</translation>
+    </message>
+    <message>
+        <source>打印机没有连上无线网络</source>
+        <translation>Der Drucker ist nicht im WLAN</translation>
+    </message>
+    <message>
+        <source>打印机配置失败，当前打印机网络未开启，无法进行配网。</source>
+        <translation>Die Einrichtung ist fehlgeschlagen: Das Netzwerk des Druckers ist ausgeschaltet, er lässt sich so nicht einrichten.</translation>
+    </message>
+    <message>
+        <source>配网失败</source>
+        <translation>Die Netzwerkeinrichtung ist fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>打印机配置失败，当前打印机Wi-Fi模块未装配，无法进行配网。</source>
+        <translation>Die Einrichtung ist fehlgeschlagen: Der Drucker hat kein WLAN-Modul.</translation>
+    </message>
+    <message>
+        <source>Wi-Fi故障，打印机配置失败。</source>
+        <translation>Die Einrichtung ist fehlgeschlagen: Das WLAN des Druckers ist gestört.</translation>
+    </message>
+    <message>
+        <source>打印机配置失败，系统升级过程中，不允许配置网络。</source>
+        <translation>Die Einrichtung ist fehlgeschlagen: Der Drucker aktualisiert sich und nimmt solange keine Netzwerkeinrichtung an.</translation>
+    </message>
+    <message>
+        <source>请检查打印机是否已开机、数据线是否插好、网络名称和密码是否正确，然后重新打开本工具再试一次。</source>
+        <translation>Prüfen Sie, ob der Drucker eingeschaltet ist, das Kabel fest steckt und Netzwerkname und Passwort stimmen. Starten Sie dann dieses Programm noch einmal.</translation>
+    </message>
+    <message>
+        <source>这台打印机没有安装Wi-Fi模块。请继续使用USB数据线打印，或向经销商咨询Wi-Fi模块。</source>
+        <translation>Drucken Sie weiter über das USB-Kabel oder fragen Sie Ihren Händler nach einem WLAN-Modul.</translation>
+    </message>
+    <message>
+        <source>请关闭打印机，等待10秒后重新打开，再试一次。如果问题依旧，请联系售后服务。</source>
+        <translation>Schalten Sie den Drucker aus, warten Sie 10 Sekunden, schalten Sie ihn ein und versuchen Sie es noch einmal. Hilft das nicht, wenden Sie sich bitte an den Kundendienst.</translation>
+    </message>
+    <message>
+        <source>请等待打印机升级完成，期间不要关闭电源，然后再试一次。</source>
+        <translation>Warten Sie, bis der Drucker seine Aktualisierung beendet hat, ohne ihn auszuschalten, und versuchen Sie es dann noch einmal.</translation>
+    </message>
+    <message>
+        <source>请在打印机上打开Wi-Fi功能，重新启动打印机，然后再试一次。</source>
+        <translation>Schalten Sie das WLAN am Drucker ein, starten Sie den Drucker neu und versuchen Sie es dann noch einmal.</translation>
+    </message>
+    <message>
+        <source>您可以这样做</source>
+        <translation>Was Sie tun können</translation>
+    </message>
+    <message>
+        <source>运行日志：%@</source>
+        <translation>Protokolldateien: %@</translation>
+    </message>
+    <message>
+        <source>配置没有成功</source>
+        <translation>Die Einrichtung ist nicht gelungen</translation>
+    </message>
+    <message>
+        <source>打印机没有接受这次配置。</source>
+        <translation>Der Drucker hat die Einrichtung nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>请检查网络名称和密码（注意大小写），并确认打印机已开机、数据线已插好、离路由器不太远。然后返回，再试一次。</source>
+        <translation>Prüfen Sie Netzwerkname und Passwort (Groß- und Kleinschreibung zählt) und ob der Drucker eingeschaltet, angeschlossen und nicht zu weit vom Router entfernt ist. Gehen Sie dann zurück und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>没有连接打印机</source>
+        <translation>Kein Drucker ist angeschlossen</translation>
+    </message>
+    <message>
+        <source>没有找到支持无线网络的打印机。</source>
+        <translation>Es wurde kein Drucker gefunden, der WLAN unterstützt.</translation>
+    </message>
+    <message>
+        <source>请打开打印机电源，用USB数据线把它直接连到这台电脑（不要经过集线器），等待几秒。然后返回，再试一次。</source>
+        <translation>Schalten Sie den Drucker ein, verbinden Sie ihn per USB-Kabel mit diesem Computer (direkt, ohne Hub) und warten Sie einige Sekunden. Gehen Sie dann zurück und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>隐藏密码</source>
+        <translation>Passwort verbergen</translation>
+    </message>
+    <message>
+        <source>大写锁定已打开</source>
+        <translation>Feststelltaste ist aktiv</translation>
+    </message>
+    <message>
+        <source>too common</source>
+        <translation>Zu gebräuchlich</translation>
+    </message>
+    <message>
+        <source>too short</source>
+        <translation>Zu kurz</translation>
+    </message>
+    <message>
+        <source>insecure</source>
+        <translation>Unsicher</translation>
+    </message>
+    <message>
+        <source>weak</source>
+        <translation>Schwach</translation>
+    </message>
+    <message>
+        <source>fair</source>
+        <translation>Ausreichend</translation>
+    </message>
+    <message>
+        <source>strong</source>
+        <translation>Stark</translation>
+    </message>
+    <message>
+        <source>选择无线网络</source>
+        <translation>WLAN-Netzwerk wählen</translation>
+    </message>
+    <message>
+        <source>请选择打印机要连接的网络，并输入它的密码。</source>
+        <translation>Wählen Sie das Netzwerk, dem der Drucker beitreten soll, und geben Sie sein Passwort ein.</translation>
+    </message>
+    <message>
+        <source>附近的无线网络</source>
+        <translation>Netzwerke in der Nähe</translation>
+    </message>
+    <message>
+        <source>正在查找无线网络…</source>
+        <translation>Netzwerke werden gesucht…</translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation>&amp;Aktualisieren</translation>
+    </message>
+    <message>
+        <source>此电脑</source>
+        <translation>dieser Computer</translation>
+    </message>
+    <message>
+        <source>前往设置</source>
+        <translation>Einstellungen öffnen</translation>
+    </message>
+    <message>
+        <source>请打开定位服务，步骤：系统设置-&gt;隐私与安全性-&gt;隐私-&gt;定位服务。</source>
+        <translation>Dieses Programm darf keine WLAN-Netzwerke suchen. Erlauben Sie es in den Systemeinstellungen unter Datenschutz oder WLAN.</translation>
+    </message>
+    <message>
+        <source>打印端口被占用，无法配置打印机</source>
+        <translation>Der Drucker ist durch einen anderen Auftrag belegt und kann jetzt nicht eingerichtet werden. Warten Sie, bis er fertig ist.</translation>
+    </message>
+    <message>
+        <source>请从列表中选择，或在此输入名称。</source>
+        <translation>Wählen Sie aus der Liste oder geben Sie den Namen hier ein.</translation>
+    </message>
+</context>
+</TS>
