@@ -1,6 +1,7 @@
 #include "ButtonSchemes.h"
 
 #include "Palette.h"
+#include "TextStyle.h"
 #include "WTButton.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -15,6 +16,7 @@ const auto uncheckedPicture = u"Rectangle 394"_s;
 
 void ButtonSchemes::applyRed(WTButton &button)
 {
+    button.setFont(TextStyle::font(TextStyle::Size::Body, QFont::DemiBold));
     button.textOffColor = Palette::white;
     button.offBlackColor = Palette::red;
     button.hoverColor = button.hoverBorderColor = Palette::redHover;

@@ -5,8 +5,8 @@
 #include "TextStyle.h"
 #include "WTView.h"
 
-#include <QAbstractButton>
 #include <QKeyEvent>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace
@@ -97,12 +97,21 @@ void ScreenFrame::setBackButton(QAbstractButton *button)
 {
     m_back = button;
     m_bar->insertWidget(0, button);
+    orderButtons();
 }
 
 void ScreenFrame::setMainButton(QAbstractButton *button)
 {
     m_main = button;
     m_bar->addWidget(button);
+    orderButtons();
+}
+
+void ScreenFrame::orderButtons()
+{
+    // The way on before the way back, so that a screen of buttons only starts on its main action.
+    if (m_main && m_back)
+        setTabOrder(m_main, m_back);
 }
 
 void ScreenFrame::addToBar(QWidget *widget)
@@ -116,9 +125,15 @@ void ScreenFrame::keyPressEvent(QKeyEvent *event)
     if (event->key() == Qt::Key_Escape)
         target = m_back;
     else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        target = m_main;
+        target = buttonForEnter();
     if (target && target->isEnabled())
         target->click();
     else
         QWidget::keyPressEvent(event);
+}
+
+QAbstractButton *ScreenFrame::buttonForEnter() const
+{
+    auto *focused = qobject_cast<QPushButton *>(focusWidget());
+    return focused && focused->hasFocus() && !focused->isCheckable() ? focused : m_main;
 }

@@ -11,7 +11,8 @@ class WTView;
 enum class WizardStep { Connect, Network, SetUp, Done };
 
 /// What every screen has: step marks, heading, instruction, a content area, and the bar with the way back on the left
-/// and the main action on the right. It fills its screen. Enter is the main action, Escape the way back.
+/// and the main action on the right. It fills its screen. Enter is the main action unless another
+/// push button has the keyboard, Escape the way back.
 ///
 ///     auto *frame = new ScreenFrame(this, WizardStep::Network);
 ///     frame->setHeading(localized(u"..."_s));
@@ -47,6 +48,10 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    void orderButtons();
+    /// The push button with the keyboard, else the main action.
+    QAbstractButton *buttonForEnter() const;
+
     WTView *m_screen;
     QLabel *m_heading;
     QLabel *m_instruction;

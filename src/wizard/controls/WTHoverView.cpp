@@ -21,6 +21,7 @@ constexpr qreal cornerRadius = 8;
 constexpr int padding = 20;
 constexpr int spacing = 8;
 constexpr int radioSize = 24;
+constexpr int pictureHeight = 104; ///< Less where the texts need the room, so that titles of a pair stand level.
 
 void strokeRounded(QPainter &painter, const QRectF &area, qreal radius, const QColor &color, qreal width)
 {
@@ -165,10 +166,12 @@ void WTHoverView::paintEvent(QPaintEvent *)
     const int titleHeight =
         qMax(radioSize, QFontMetrics(titleFont).boundingRect(titleArea, Qt::TextWordWrap, text()).height());
     const int helpHeight = QFontMetrics(helpFont).boundingRect(inner, Qt::TextWordWrap, m_help).height();
-    const int helpTop = inner.bottom() + 1 - helpHeight;
-    const int titleTop = helpTop - spacing / 2 - titleHeight;
+    const int textHeight = titleHeight + spacing / 2 + helpHeight;
+    const int pictureRoom = qMin(pictureHeight, inner.height() - spacing - textHeight);
+    const int titleTop = inner.top() + pictureRoom + spacing;
+    const int helpTop = titleTop + titleHeight + spacing / 2;
 
-    m_picture.paint(painter, QRectF(inner.left(), inner.top(), inner.width(), titleTop - spacing - inner.top()));
+    m_picture.paint(painter, QRectF(inner.left(), inner.top(), inner.width(), pictureRoom));
     painter.setFont(titleFont);
     painter.setPen(Palette::heading);
     painter.drawText(QRect(inner.left(), titleTop, titleArea.width(), titleHeight), Qt::TextWordWrap | Qt::AlignVCenter,

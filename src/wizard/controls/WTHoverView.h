@@ -12,10 +12,8 @@ class WTHoverView;
 class WTHoverViewDelegate
 {
 public:
+    virtual ~WTHoverViewDelegate() = default;
     virtual void selectDone(WTHoverView *item) = 0;
-
-protected:
-    ~WTHoverViewDelegate() = default;
 };
 
 /// A selectable tile: a picture, a title, a line of help and a radio mark. To a screen reader it is a radio button.

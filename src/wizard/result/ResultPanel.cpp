@@ -20,6 +20,7 @@ namespace
 constexpr QSize markSize{96, 96};
 constexpr int markGap = 32;
 constexpr int widestText = 560;
+constexpr int checkBoxInset = 6; ///< From the edge of a check box to its mark, which stands level with the texts.
 
 QString folderLink(const QString &logPath)
 {
@@ -36,6 +37,7 @@ ResultPanel::ResultPanel(const QString &markName, QWidget *parent)
     , m_message(TextStyle::makeLabel({}, TextStyle::Size::Large, Palette::heading))
     , m_advice(TextStyle::makeLabel({}, TextStyle::Size::Body, Palette::label))
     , m_log(TextStyle::makeLabel({}, TextStyle::Size::Small, Palette::label))
+    , m_texts(new QVBoxLayout)
 {
     m_message->setObjectName(u"message"_s);
     m_message->setFont(TextStyle::font(TextStyle::Size::Large, QFont::DemiBold));
@@ -45,30 +47,25 @@ ResultPanel::ResultPanel(const QString &markName, QWidget *parent)
     m_log->setTextFormat(Qt::RichText);
     m_log->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     m_log->setOpenExternalLinks(true);
-    QPalette colors = m_log->palette();
-    colors.setColor(QPalette::Link, Palette::link);
-    m_log->setPalette(colors);
 
-    auto *texts = new QVBoxLayout;
-    texts->setSpacing(0);
-    texts->addWidget(m_message);
-    texts->addSpacing(24);
-    texts->addWidget(adviceTitle);
-    texts->addSpacing(8);
-    texts->addWidget(m_advice);
-    texts->addSpacing(24);
-    texts->addWidget(m_log);
-    texts->addStretch(1);
     auto *column = new QWidget;
     column->setMaximumWidth(widestText);
-    column->setLayout(texts);
-    texts->setContentsMargins(0, 0, 0, 0);
+    m_texts->setContentsMargins(0, 0, 0, 0);
+    m_texts->setSpacing(0);
+    column->setLayout(m_texts);
+    m_texts->addWidget(m_message);
+    m_texts->addSpacing(24);
+    m_texts->addWidget(adviceTitle);
+    m_texts->addSpacing(8);
+    m_texts->addWidget(m_advice);
+    m_texts->addSpacing(24);
+    m_texts->addWidget(m_log);
 
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 16, 0, 0);
     layout->setSpacing(markGap);
     layout->addWidget(new PictureView(markName, markSize), 0, Qt::AlignTop);
-    layout->addWidget(column, 1);
+    layout->addWidget(column, 1, Qt::AlignTop);
     layout->addStretch(0);
 }
 
@@ -85,6 +82,15 @@ QString ResultPanel::message() const
 void ResultPanel::setAdvice(const QString &text)
 {
     m_advice->setText(text);
+}
+
+void ResultPanel::addCheckBox(QWidget *checkBox)
+{
+    auto *row = new QHBoxLayout;
+    row->setContentsMargins(-checkBoxInset, 0, 0, 0);
+    row->addWidget(checkBox);
+    row->addStretch(1);
+    m_texts->insertLayout(m_texts->indexOf(m_log), row);
 }
 
 void ResultPanel::showEvent(QShowEvent *)

@@ -17,6 +17,8 @@ public:
     void setMessage(const QString &text);
     QString message() const;
     void setAdvice(const QString &text);
+    /// A choice of the screen, below the advice.
+    void addCheckBox(QWidget *checkBox);
     /// Names the folder of the log as a link, where there is a log.
     void setShowsLogFolder(bool shows) { m_showsLogFolder = shows; }
 
@@ -27,5 +29,6 @@ private:
     QLabel *m_message;
     QLabel *m_advice;
     QLabel *m_log;
+    QVBoxLayout *m_texts;
     bool m_showsLogFolder = true;
 };

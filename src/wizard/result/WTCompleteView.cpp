@@ -27,13 +27,14 @@ WTCompleteView::WTCompleteView(QWidget *parent)
 
     m_title->setAdvice(localized(
         u"现在可以拔掉USB数据线了。要在这台电脑上打印，请把打印机添加到系统：勾选下面的选项，然后点击“完成并退出”。"_s));
+    m_title->addCheckBox(m_addPrinter);
     m_title->setShowsLogFolder(false);
     auto *frame = new ScreenFrame(this, WizardStep::Done);
     frame->setHeading(localized(u"打印机已连上无线网络"_s));
     frame->content()->addWidget(m_title);
-    frame->content()->addWidget(m_addPrinter);
     frame->content()->addStretch(1);
     frame->setMainButton(m_complateBtn);
+    m_complateBtn->setFocus();
 }
 
 void WTCompleteView::awakeFromNib()

@@ -15,7 +15,7 @@ WTConfigFailedView::WTConfigFailedView(QWidget *parent)
     , m_previous(new WTButton)
 {
     m_previous->setObjectName(u"previous"_s);
-    m_previous->setTitle(localized(u"返回"_s));
+    m_previous->setTitle(localized(u"上一步"_s));
     connect(m_previous, &QAbstractButton::clicked, this, &WTConfigFailedView::backAction);
 
     auto *panel = new ResultPanel(u"failure"_s);
@@ -27,6 +27,7 @@ WTConfigFailedView::WTConfigFailedView(QWidget *parent)
     frame->content()->addWidget(panel);
     frame->content()->addStretch(1);
     frame->setBackButton(m_previous);
+    m_previous->setFocus();
 }
 
 void WTConfigFailedView::awakeFromNib()

@@ -13,7 +13,7 @@ WTUnconnectView::WTUnconnectView(QWidget *parent)
     , m_previous(new WTButton)
 {
     m_previous->setObjectName(u"previous"_s);
-    m_previous->setTitle(localized(u"返回"_s));
+    m_previous->setTitle(localized(u"上一步"_s));
     connect(m_previous, &QAbstractButton::clicked, this, &WTUnconnectView::back);
 
     auto *panel = new ResultPanel(u"note"_s);
@@ -25,6 +25,7 @@ WTUnconnectView::WTUnconnectView(QWidget *parent)
     frame->content()->addWidget(panel);
     frame->content()->addStretch(1);
     frame->setBackButton(m_previous);
+    m_previous->setFocus();
 }
 
 void WTUnconnectView::awakeFromNib()

@@ -21,7 +21,7 @@ MethodChoiceView::MethodChoiceView(WTHoverView *first, WTHoverView *second, QWid
     m_nextBtn->setObjectName(u"nextBtn"_s);
     m_nextBtn->setTitle(localized(u"下一步"_s));
     m_previous->setObjectName(u"previous"_s);
-    m_previous->setTitle(localized(u"返回"_s));
+    m_previous->setTitle(localized(u"上一步"_s));
     m_frame->setCenteredContent(m_tiles);
     m_frame->setBackButton(m_previous);
     m_frame->setMainButton(m_nextBtn);

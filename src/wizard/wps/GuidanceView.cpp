@@ -16,7 +16,7 @@ GuidanceView::GuidanceView(const Texts &texts, QWidget *parent)
     m_next->setObjectName(texts.nextName);
     m_next->setTitle(localized(u"下一步"_s));
     m_previous->setObjectName(u"previous"_s);
-    m_previous->setTitle(localized(u"返回"_s));
+    m_previous->setTitle(localized(u"上一步"_s));
 
     auto *frame = new ScreenFrame(this, WizardStep::SetUp);
     frame->setHeading(texts.heading);

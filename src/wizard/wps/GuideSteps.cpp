@@ -13,7 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 
-constexpr QSize pictureSize{176, 120};
+constexpr QSize pictureSize{211, 144};
 constexpr int columnGap = 32;
 
 QVBoxLayout *makeColumn(int number, const GuideStep &step)
@@ -39,7 +39,7 @@ GuideSteps::GuideSteps(const QList<GuideStep> &steps, QWidget *parent)
     : QWidget(parent)
 {
     auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 16, 0, 0);
+    layout->setContentsMargins(0, 24, 0, 0);
     layout->setSpacing(columnGap);
     for (int index = 0; index < steps.size(); ++index)
         layout->addLayout(makeColumn(index + 1, steps[index]), 1);

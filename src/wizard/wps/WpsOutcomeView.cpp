@@ -31,7 +31,7 @@ WpsOutcomeView::WpsOutcomeView(WTHoverView *success, WTHoverView *failure, const
     m_finish->setObjectName(texts.finishName);
     m_finish->setTitle(localized(u"完成并退出"_s));
     m_previous->setObjectName(u"previous"_s);
-    m_previous->setTitle(localized(u"返回"_s));
+    m_previous->setTitle(localized(u"上一步"_s));
     m_addPrinter->setObjectName(u"addPrinter"_s);
     m_addPrinter->setTitle(localized(u"打开系统的添加打印机窗口"_s));
     connect(m_previous, &QAbstractButton::clicked, this, &WpsOutcomeView::backAction);

@@ -1,0 +1,183 @@
+#include "LogCollector.h"
+#include "WTButton.h"
+#include "WTCompleteView.h"
+#include "WTConfigStateInfoView.h"
+#include "WTFailedView.h"
+#include "WTHoverView.h"
+#include "WTManager.h"
+#include "WTWpsLinkStateView.h"
+#include "WizardBed.h"
+
+#include <QAccessible>
+#include <QLabel>
+#include <QTest>
+#include <QTimer>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+/// The two WPS outcome screens by the names of their widgets.
+struct OutcomeScreen {
+    const char *className;
+    const char *success;
+    const char *failure;
+    const char *finish;
+    bool logs;
+};
+
+constexpr OutcomeScreen panelScreen{"WTWpsLinkStateView", "wpsSuccessView", "wpsFailedView", "finishBtn", true};
+constexpr OutcomeScreen lightScreen{"WTConfigStateInfoView", "lightSuccessView", "lightFailView", "stateFinishBtn",
+                                    false};
+
+WTView *open(WizardBed &bed, const OutcomeScreen &screen)
+{
+    for (WTView *view : bed.window().findChildren<WTView *>()) {
+        if (qstrcmp(view->metaObject()->className(), screen.className) == 0) {
+            bed.window().setContentView(view);
+            return view;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(OutcomeScreen)
+
+/// The screens a person ends on.
+class OutcomeTests : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void wpsOutcome_data();
+    void wpsOutcome();
+    void failureAfterSuccessTakesTheFinishBack();
+    void panelOutcomeLogs();
+    void completionOpensThePanelOnlyWhenTicked_data();
+    void completionOpensThePanelOnlyWhenTicked();
+    void failureScreenSaysWhatHappened();
+};
+
+void OutcomeTests::wpsOutcome_data()
+{
+    QTest::addColumn<OutcomeScreen>("screen");
+    QTest::addColumn<bool>("success");
+    QTest::addColumn<int>("ticks");
+    QTest::addColumn<bool>("opensPanel");
+
+    for (const OutcomeScreen &screen : {panelScreen, lightScreen}) {
+        QTest::addRow("%s success", screen.className) << screen << true << 0 << false;
+        QTest::addRow("%s success, panel", screen.className) << screen << true << 1 << true;
+        QTest::addRow("%s success, ticked twice", screen.className) << screen << true << 2 << false;
+        QTest::addRow("%s failure, panel", screen.className) << screen << false << 1 << true;
+    }
+}
+
+void OutcomeTests::wpsOutcome()
+{
+    QFETCH(OutcomeScreen, screen);
+    QFETCH(bool, success);
+    QFETCH(int, ticks);
+    QFETCH(bool, opensPanel);
+    WizardBed bed;
+    WTView *view = open(bed, screen);
+    QVERIFY(!bed.widget(screen.finish)->isEnabled());
+    bed.click(success ? screen.success : screen.failure);
+    QCOMPARE(bed.widget(screen.finish)->isEnabled(), success);
+    for (int tick = 0; tick < ticks; ++tick)
+        bed.click("addPrinter");
+    auto *box = qobject_cast<WTButton *>(bed.widget("addPrinter"));
+    QCOMPARE(box->imageName(), ticks % 2 == 1 ? u"icon_selected 1"_s : u"Rectangle 394"_s);
+    QCOMPARE(QAccessible::queryAccessibleInterface(box)->role(), QAccessible::CheckBox);
+    QCOMPARE(bool(QAccessible::queryAccessibleInterface(box)->state().checked), ticks % 2 == 1);
+
+    LogCollector log;
+    if (auto *panel = qobject_cast<WTWpsLinkStateView *>(view))
+        panel->finish();
+    else
+        qobject_cast<WTConfigStateInfoView *>(view)->finishAction();
+    // "Done" is written before the call returns, since the process may end right after.
+    QCOMPARE(log.writtenSoFar().contains(u"error: Done"_s), screen.logs);
+    QCOMPARE(log.lines().contains(u"info: Open System Add Printer Tab"_s), screen.logs && opensPanel);
+    QCOMPARE(bed.desktop.panelWasOpened(), opensPanel);
+    QCOMPARE(bed.processEnds, success ? 1 : 0);
+}
+
+void OutcomeTests::failureAfterSuccessTakesTheFinishBack()
+{
+    WizardBed bed;
+    open(bed, lightScreen);
+    LogCollector log;
+    bed.click("lightSuccessView");
+    bed.click("lightFailView");
+    QVERIFY(!bed.widget("stateFinishBtn")->isEnabled());
+    QVERIFY(!qobject_cast<WTHoverView *>(bed.widget("lightSuccessView"))->isSelect());
+    QTest::keyClick(bed.window().windowHandle(), Qt::Key_Return);
+    QCOMPARE(bed.processEnds, 0);
+    QCOMPARE(log.lines(), QStringList());
+}
+
+void OutcomeTests::panelOutcomeLogs()
+{
+    WizardBed bed;
+    open(bed, panelScreen);
+    LogCollector log;
+    bed.click("wpsFailedView");
+    bed.click("wpsSuccessView");
+    bed.click("addPrinter");
+    bed.click("addPrinter");
+    QCOMPARE(log.lines(), (QStringList{u"info: Selected Connect Failure"_s, u"info: Selected Connect Success"_s,
+                                       u"info: Add Printer ? YES"_s, u"info: Add Printer ? NO"_s}));
+}
+
+void OutcomeTests::completionOpensThePanelOnlyWhenTicked_data()
+{
+    QTest::addColumn<int>("ticks");
+    QTest::newRow("not ticked") << 0;
+    QTest::newRow("ticked") << 1;
+    QTest::newRow("ticked twice") << 2;
+}
+
+void OutcomeTests::completionOpensThePanelOnlyWhenTicked()
+{
+    QFETCH(int, ticks);
+    WizardBed bed;
+    bed.window().setContentView(bed.screen<WTCompleteView>());
+    QCOMPARE(bed.widget("title")->findChild<QLabel *>(u"message"_s)->text(), u"恭喜，您完成了无线网络配置！"_s);
+    for (int tick = 0; tick < ticks; ++tick)
+        bed.click("addPrinter");
+    LogCollector log;
+    int status = -1;
+    QTimer::singleShot(0, &bed.window(), [&bed] { bed.click("complateBtn"); });
+    status = QCoreApplication::exec();
+    QCOMPARE(status, 0);
+    QCOMPARE(bed.desktop.panelWasOpened(), ticks == 1);
+    QCOMPARE(log.lines().first(), u"info: 🏷"_s);
+}
+
+void OutcomeTests::failureScreenSaysWhatHappened()
+{
+    WizardBed bed;
+    WTManager::shared().setLogPath(u"/var/log/tool/WTCore.log"_s);
+    auto *failed = bed.screen<WTFailedView>();
+    failed->setShowWiFiCapabilityError(true);
+    failed->setWifiCapabilityError(1);
+    bed.window().setContentView(failed);
+    const auto *message = bed.widget("errorMessage")->findChild<QLabel *>(u"message"_s);
+    QCOMPARE(message->text(), u"Wi-Fi故障，打印机配置失败。"_s);
+    QVERIFY(bed.widget("logFolder")->isVisible());
+    QVERIFY(qobject_cast<QLabel *>(bed.widget("logFolder"))->text().contains(u"file:///var/log/tool\""_s));
+
+    // Another reason is shown when the screen appears again.
+    failed->setShowWiFiCapabilityError(false);
+    bed.window().setContentView(failed);
+    QCOMPARE(message->text(), u"配网失败"_s);
+    QTimer::singleShot(0, &bed.window(), [&bed] { bed.click("complateBtn"); });
+    QCOMPARE(QCoreApplication::exec(), 0);
+}
+
+QTEST_MAIN(OutcomeTests)
+#include "OutcomeTests.moc"
