@@ -5,12 +5,35 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace
+{
+
+/// Message and informative text are the message box's own labels, known by these names.
+const auto sheetStyle = uR"(
+    QMessageBox { background: white; }
+    QLabel { color: #222222; background: transparent; }
+    QLabel#qt_msgbox_label { font-size: 16px; font-weight: 600; min-width: 400px; padding: 8px 8px 0 0; }
+    QLabel#qt_msgbox_informativelabel { font-size: 14px; min-width: 400px; padding: 4px 8px 12px 0; }
+    QPushButton {
+        min-width: 96px; min-height: 32px; padding: 0 16px; border-radius: 4px; font-size: 14px;
+        color: #222222; background: white; border: 1px solid #d3d3d3;
+    }
+    QPushButton:default { color: white; background: #d2212b; border-color: #d2212b; font-weight: 600; }
+    QPushButton:hover { border-color: #ff5862; }
+    QPushButton:default:hover { background: #ff5862; }
+    QPushButton:focus { border: 2px solid #69a2ee; }
+    QPushButton:pressed, QPushButton:default:pressed { background: #ae1b23; color: white; border-color: #ae1b23; }
+)"_s;
+
+} // namespace
+
 void showAlert(QWidget *window, const Alert &alert, std::function<void(int response)> answered)
 {
     auto *box =
         new QMessageBox(QMessageBox::NoIcon, window->windowTitle(), alert.messageText, QMessageBox::NoButton, window);
     box->setObjectName(u"alert"_s);
     box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setStyleSheet(sheetStyle);
     box->setWindowModality(Qt::WindowModal);
     box->setTextFormat(Qt::PlainText);
     box->setInformativeText(alert.informativeText);

@@ -2,6 +2,7 @@
 
 #include "Localized.h"
 #include "Palette.h"
+#include "PictureView.h"
 #include "ScreenFrame.h"
 #include "TextFormat.h"
 #include "TextStyle.h"
@@ -16,6 +17,13 @@
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+constexpr QSize pictureSize{248, 112};
+
+} // namespace
 
 WTInstallingView::WTInstallingView(QWidget *parent)
     : WTView(parent)
@@ -44,6 +52,8 @@ void WTInstallingView::layOut()
 
     QVBoxLayout *content = frame->content();
     content->addStretch(2);
+    content->addWidget(new PictureView(u"setting_up"_s, pictureSize), 0, Qt::AlignHCenter);
+    content->addSpacing(32);
     content->addWidget(m_network);
     content->addSpacing(16);
     content->addWidget(m_progressView);

@@ -5,6 +5,7 @@
 #include "Palette.h"
 #include "RunBed.h"
 #include "VirtualTime.h"
+#include "WTApp.h"
 #include "WTButton.h"
 #include "WTDefaultStyleBtn.h"
 #include "WTNetworkWithManualAddition.h"
@@ -71,6 +72,7 @@ private:
 void ManualAdditionTests::initTestCase()
 {
     InfoList::setResourceFolder(QStringLiteral(WT_RESOURCE_FOLDER));
+    WTApp::shared().setAppLanguage(u"zh-Hans"_s);
 }
 
 void ManualAdditionTests::init()
@@ -212,7 +214,7 @@ void ManualAdditionTests::enterStartsTheRun()
     QCOMPARE(m_bed->installing().printer(), m_screen->printer());
     QCOMPARE(m_bed->installing().wifi()->security, 0);
     QCOMPARE(m_bed->run().progress(), 0);
-    QVERIFY(m_bed->waitForScreen(&m_bed->complete()));
+    QCOMPARE(m_bed->screenAtEnd(), &m_bed->complete());
     QCOMPARE(m_bed->bus().record().networkName, "Home");
     QCOMPARE(m_bed->bus().record().password, "secret pass");
     QVERIFY(m_log->lines().filter(u"secret pass"_s).isEmpty());

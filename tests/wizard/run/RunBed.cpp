@@ -61,9 +61,9 @@ void RunBed::push(const WTPrinterPtr &printer, const QString &name, const QStrin
     m_entry->pushView(m_installing);
 }
 
-bool RunBed::waitForScreen(WTView *view)
+WTView *RunBed::screenAtEnd()
 {
-    return waitFor([&] { return screen() == view; });
+    return waitFor([this] { return screen() != m_installing; }) ? screen() : nullptr;
 }
 
 WTConfigurationRun &RunBed::run()

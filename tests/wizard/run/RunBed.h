@@ -40,7 +40,8 @@ public:
     void push(const WTPrinterPtr &printer, const QString &name, const QString &password);
     /// The screen that is showing; the run's own while it lasts.
     WTView *screen() const { return m_window.contentView(); }
-    bool waitForScreen(WTView *view);
+    /// Waits for the run's end and answers where it ended; null when it does not end.
+    WTView *screenAtEnd();
 
     UsbfsBed &bus() { return m_bus; }
     ScriptedSpooler &spooler() { return m_spooler; }

@@ -26,7 +26,7 @@ void RunInRealTimeTests::fromWakeUpToAddress()
     const WTPrinterPtr printer = bed.findPrinter();
     QVERIFY(printer);
     bed.push(printer, u"Home"_s, u"secret pass"_s);
-    QVERIFY(bed.waitForScreen(&bed.complete()));
+    QCOMPARE(bed.screenAtEnd(), &bed.complete());
     QCOMPARE(printer->ip, u"192.168.1.77"_s);
     QCOMPARE(bed.bus().record().commands(), (std::vector<quint16>{0xFF21, 0xFF81, 0xFF80, 0xFF0F, 0xFF0F}));
     QVERIFY(bed.bus().record().allSound());
