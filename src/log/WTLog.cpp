@@ -241,15 +241,22 @@ void WTLog::lt_exchange(Registrations changed)
 void WTLog::lt_log(const WTLogMessage &message)
 {
     const auto loggers = registrations();
+    const auto deliver = [&message](const WTLoggerNode &node) {
+        return [&logger = *node.logger, &message] { logger.logMessage(message); };
+    };
+    // This thread waits in any case, so it works for the last logger itself, as a visitor of its queue.
+    const WTLoggerNode *last = nullptr;
     for (const WTLoggerNode &node : *loggers) {
         if (!admits(node, message))
             continue;
-        const auto deliver = [&logger = *node.logger, &message] { logger.logMessage(message); };
-        if (hasOneProcessor())
-            node.loggerQueue->sync(deliver);
-        else
-            node.loggerQueue->async(loggingGroup(), deliver);
+        if (last && hasOneProcessor())
+            last->loggerQueue->visit(deliver(*last));
+        else if (last)
+            last->loggerQueue->async(loggingGroup(), deliver(*last));
+        last = &node;
     }
+    if (last)
+        last->loggerQueue->visit(deliver(*last));
     loggingGroup().wait();
 }
 

@@ -28,6 +28,7 @@ public:
     struct Caller {
         /// The system's thread id as a decimal number, "N/A" when it cannot be read.
         QString threadID;
+        /// As it was when the thread first logged.
         QString threadName;
         /// The label of the serial queue the thread runs, "main" on the main thread.
         QString queueLabel;

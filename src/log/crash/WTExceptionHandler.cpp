@@ -102,7 +102,7 @@ QString reasonOfCurrentException()
 /// The main thread's; a handler can then run although the stack itself is what ran out.
 void useAlternateStack()
 {
-    constexpr size_t stackSize = 64 * 1024;
+    constexpr size_t stackSize = 65536;
     alignas(16) static std::array<std::byte, stackSize> memory;
     stack_t stack{};
     stack.ss_sp = memory.data();

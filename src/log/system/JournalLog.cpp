@@ -40,6 +40,7 @@ void JournalLog::send(OSLogType type, const QString &text)
     if (m_category)
         fields.push_back("CATEGORY=" + m_category->toUtf8());
     std::vector<iovec> vectors;
+    vectors.reserve(fields.size());
     for (QByteArray &field : fields)
         vectors.push_back({field.data(), static_cast<size_t>(field.size())});
     sd_journal_sendv(vectors.data(), static_cast<int>(vectors.size()));
