@@ -1,32 +1,32 @@
 #include "SerialQueue.h"
 
-#include <atomic>
+#include <QScopeGuard>
+#include <condition_variable>
+#include <deque>
+#include <mutex>
 #include <pthread.h>
 #include <thread>
 #include <unistd.h>
 #include <utility>
-#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 
 void DispatchGroup::enter()
 {
-    const std::lock_guard lock(m_mutex);
-    ++m_count;
+    m_count.fetch_add(1, std::memory_order_relaxed);
 }
 
 void DispatchGroup::leave()
 {
-    // Told under the lock: the waiter may destroy the group as soon as it has the lock again.
-    const std::lock_guard lock(m_mutex);
-    if (--m_count == 0)
-        m_idle.notify_all();
+    // The waiter may destroy the group from here on: waking goes by the counter's address alone.
+    if (m_count.fetch_sub(1, std::memory_order_release) == 1)
+        m_count.notify_all();
 }
 
 void DispatchGroup::wait()
 {
-    std::unique_lock lock(m_mutex);
-    m_idle.wait(lock, [this] { return m_count == 0; });
+    while (const int count = m_count.load(std::memory_order_acquire))
+        m_count.wait(count, std::memory_order_acquire);
 }
 
 /// Shared by the queue and its thread, so that the thread can outlive a queue that was destroyed on itself.
@@ -35,6 +35,8 @@ struct SerialQueue::State {
         Job job;
         DispatchGroup *group;
     };
+    /// Grows without moving what it holds: a caller never pays for the length of the queue.
+    using Batch = std::deque<Entry>;
 
     explicit State(const QString &name)
         : label(name)
@@ -43,24 +45,41 @@ struct SerialQueue::State {
 
     void submit(Entry entry);
     void run();
-    bool takeBatch(std::vector<Entry> &batch);
+    bool takeBatch(Batch &batch);
+    bool beginVisit();
+    void endVisit();
+    void runVisit(const Job &job);
 
     const QString label;
     std::thread thread;
-    std::atomic<qint64> systemThread = 0;
+    std::atomic<qint64> ownThread = 0;
+    /// The thread that runs a job of the queue instead of the queue's own; 0: none.
+    std::atomic<qint64> visitor = 0;
     std::mutex mutex;
     std::condition_variable wake;
-    std::vector<Entry> waiting;
-    bool asleep = false;
-    bool ending = false;
+    Batch waiting;
+    /// The queue's thread waits on `wake` and was not woken yet.
+    bool isAsleep = false;
+    bool isRunning = false;
+    bool isEnding = false;
 };
 
 namespace
 {
 
-/// The queue whose thread this is.
-thread_local const void *currentQueue = nullptr;
-thread_local const QString *currentQueueLabel = nullptr;
+/// Which queue's job this thread runs.
+struct Current {
+    const void *queue = nullptr;
+    const QString *label = nullptr;
+};
+
+thread_local Current current;
+
+qint64 currentSystemThread()
+{
+    thread_local const qint64 identifier = gettid();
+    return identifier;
+}
 
 void nameThread(const QString &label)
 {
@@ -73,36 +92,72 @@ void nameThread(const QString &label)
 
 void SerialQueue::State::submit(Entry entry)
 {
-    bool wasAsleep = false;
+    bool isToBeWoken = false;
     {
         const std::lock_guard lock(mutex);
         waiting.push_back(std::move(entry));
-        wasAsleep = std::exchange(asleep, false);
+        isToBeWoken = !isRunning && std::exchange(isAsleep, false);
     }
-    if (wasAsleep)
+    if (isToBeWoken)
         wake.notify_one();
 }
 
 /// Exchanges the empty `batch` with what waits. False when nothing waits and the queue ends.
-bool SerialQueue::State::takeBatch(std::vector<Entry> &batch)
+bool SerialQueue::State::takeBatch(Batch &batch)
 {
     std::unique_lock lock(mutex);
-    while (waiting.empty() && !ending) {
-        asleep = true;
+    if (visitor == 0)
+        isRunning = false;
+    while (isRunning || (waiting.empty() && !isEnding)) {
+        isAsleep = true;
         wake.wait(lock);
     }
-    asleep = false;
+    isAsleep = false;
+    isRunning = true;
     waiting.swap(batch);
     return !batch.empty();
 }
 
+/// Makes the calling thread the one that runs the queue's jobs, if there is none to run before its own.
+bool SerialQueue::State::beginVisit()
+{
+    const std::lock_guard lock(mutex);
+    if (isRunning || !waiting.empty())
+        return false;
+    isRunning = true;
+    visitor = currentSystemThread();
+    return true;
+}
+
+void SerialQueue::State::endVisit()
+{
+    bool isToBeWoken = false;
+    {
+        const std::lock_guard lock(mutex);
+        isRunning = false;
+        visitor = 0;
+        isToBeWoken = (!waiting.empty() || isEnding) && std::exchange(isAsleep, false);
+    }
+    if (isToBeWoken)
+        wake.notify_one();
+}
+
+void SerialQueue::State::runVisit(const Job &job)
+{
+    const Current before = std::exchange(current, {this, &label});
+    const auto leave = qScopeGuard([&] {
+        current = before;
+        endVisit();
+    });
+    job();
+}
+
 void SerialQueue::State::run()
 {
-    currentQueue = this;
-    currentQueueLabel = &label;
-    systemThread = gettid();
+    current = {this, &label};
+    ownThread = currentSystemThread();
     nameThread(label);
-    std::vector<Entry> batch;
+    Batch batch;
     while (takeBatch(batch)) {
         for (Entry &entry : batch) {
             entry.job();
@@ -124,7 +179,7 @@ SerialQueue::~SerialQueue()
 {
     {
         const std::lock_guard lock(m_state->mutex);
-        m_state->ending = true;
+        m_state->isEnding = true;
     }
     m_state->wake.notify_one();
     if (isCurrent())
@@ -157,20 +212,30 @@ void SerialQueue::sync(const Job &job)
     done.wait();
 }
 
+void SerialQueue::visit(const Job &job)
+{
+    // The job may destroy this queue.
+    const std::shared_ptr<State> state = m_state;
+    if (state->beginVisit())
+        state->runVisit(job);
+    else
+        sync(job);
+}
+
 bool SerialQueue::isCurrent() const
 {
-    return currentQueue == m_state.get();
+    return current.queue == m_state.get();
 }
 
 bool SerialQueue::runsOnThread(qint64 systemThread) const
 {
-    return m_state->systemThread == systemThread;
+    return m_state->ownThread == systemThread || m_state->visitor == systemThread;
 }
 
 QString SerialQueue::currentLabel()
 {
     static thread_local const bool isMainThread = gettid() == getpid();
-    if (currentQueueLabel)
-        return *currentQueueLabel;
+    if (current.label)
+        return *current.label;
     return isMainThread ? u"main"_s : QString();
 }

@@ -1,11 +1,9 @@
 #pragma once
 
 #include <QString>
-#include <condition_variable>
-#include <cstddef>
+#include <atomic>
 #include <functional>
 #include <memory>
-#include <mutex>
 
 /// Counts work that is under way somewhere, so that one thread can wait for all of it.
 class DispatchGroup
@@ -17,14 +15,13 @@ public:
     void wait();
 
 private:
-    std::mutex m_mutex;
-    std::condition_variable m_idle;
-    std::size_t m_count = 0;
+    std::atomic<int> m_count = 0;
 };
 
-/// Runs jobs one after the other, in the order they were given, on a thread of its own. All operations may be called on
-/// any thread. The destructor runs what is still queued and then ends the thread; a queue may be destroyed on itself,
-/// it then ends behind the running job.
+/// Runs jobs one after the other, in the order they were given: on a thread of its own, or, where someone waits for a
+/// job and nothing is ahead of it, on the thread that waits. All operations may be called on any thread. The destructor
+/// runs what is still queued and then ends the thread; a queue may be destroyed on itself, it then ends behind the
+/// running job.
 class SerialQueue
 {
 public:
@@ -41,10 +38,13 @@ public:
     void async(DispatchGroup &group, Job job);
     /// Blocks until `job` has run. Must not be called on the queue itself.
     void sync(const Job &job);
+    /// The same, but an idle queue lends itself to the calling thread, which then runs the job without a change of
+    /// threads.
+    void visit(const Job &job);
     bool isCurrent() const;
-    /// Whether the queue's thread is the one with this system thread identifier (gettid).
+    /// Whether the thread with this system identifier (gettid) is the queue's own, or runs a job of the queue.
     bool runsOnThread(qint64 systemThread) const;
-    /// The label of the queue the caller runs on, "main" on the main thread of the application, else empty.
+    /// The label of the queue whose job the caller runs, "main" on the main thread of the application, else empty.
     static QString currentLabel();
 
 private:
