@@ -14,6 +14,24 @@ LibusbPrinter::LibusbPrinter()
     m_context.reset(context);
 }
 
+bool LibusbPrinter::waitForArrival()
+{
+    int arrived = 0;
+    const auto noteArrival = [](libusb_context *, libusb_device *, libusb_hotplug_event, void *flag) {
+        *static_cast<int *>(flag) = 1;
+        return 1; // No further calls.
+    };
+    libusb_hotplug_register_callback(m_context.get(), LIBUSB_HOTPLUG_EVENT_DEVICE_ARRIVED, LIBUSB_HOTPLUG_ENUMERATE,
+                                     vendorID, LIBUSB_HOTPLUG_MATCH_ANY, LIBUSB_HOTPLUG_MATCH_ANY, noteArrival,
+                                     &arrived, nullptr);
+    timeval patience{10, 0};
+    while (!arrived && libusb_handle_events_timeout_completed(m_context.get(), &patience, &arrived) == 0) {
+        if (!arrived)
+            break;
+    }
+    return arrived;
+}
+
 int LibusbPrinter::open()
 {
     libusb_device **list = nullptr;

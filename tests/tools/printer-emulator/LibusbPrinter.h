@@ -15,6 +15,8 @@ class LibusbPrinter
 public:
     LibusbPrinter();
 
+    /// Whether the printer is on the bus, or comes within ten seconds.
+    bool waitForArrival();
     /// The libusb error of opening it; 0 when it is open.
     int open();
     void close() { m_handle.reset(); }

@@ -1,0 +1,92 @@
+#include "ChildProgram.h"
+#include "EmulatorOptions.h"
+#include "SystemTime.h"
+#include "UsbfsBed.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <exception>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+/// As other programs that run programs have them.
+enum ExitStatus { EmulatorFailed = 125, NotExecutable = 126, NotFound = 127 };
+
+void complain(const QString &text)
+{
+    std::fprintf(stderr, "printer-emulator: %s\n", qPrintable(text));
+}
+
+/// Sound or not, a frame is kept; what is wrong with it is told.
+void keep(QFile &file, const ReceivedFrame &frame)
+{
+    if (file.isOpen()) {
+        file.write(frame.bytes.toHex().toUpper() + '\n');
+        file.flush();
+    }
+    if (!frame.isSound())
+        complain(u"frame %1 is wrong: %2"_s.arg(frame.command, 4, 16, QLatin1Char('0')).arg(frame.verdict()));
+}
+
+/// The variables that bring the emulated bus into a program. The guard stands in front of umockdev's own library.
+/// Address sanitizer's runtime, should the program have one, insists on being first unless told otherwise.
+std::vector<QByteArray> childVariables()
+{
+    const QByteArray guard =
+        QFile::encodeName(QCoreApplication::applicationDirPath()) + "/libprinter-emulator-guard.so";
+    const auto extended = [](const char *name, const QByteArray &value) {
+        const QByteArray present = qgetenv(name);
+        return QByteArray(name) + '=' + value + (present.isEmpty() ? present : ':' + present);
+    };
+    return {extended("LD_PRELOAD", guard + ":libumockdev-preload.so.0"),
+            extended("ASAN_OPTIONS", "verify_asan_link_order=0")};
+}
+
+int run(const EmulatorOptions &options)
+{
+    QFile frames(options.framesFile);
+    if (!options.framesFile.isEmpty()) {
+        // The frames hold the network's password.
+        if (!frames.open(QFile::Append, QFile::ReadOwner | QFile::WriteOwner)) {
+            complain(frames.fileName() + u": "_s + frames.errorString());
+            return EmulatorFailed;
+        }
+    }
+    SystemTime time;
+    UsbfsBed bed(time);
+    bed.onFrame([&frames](int, const ReceivedFrame &frame) { keep(frames, frame); });
+    bed.addPrinter(PrinterModel(options.identity, options.script));
+    if (options.script.plugged)
+        bed.plug();
+
+    std::optional<ChildProgram> child = ChildProgram::start(options.command, childVariables());
+    if (!child) {
+        const int reason = errno;
+        complain(options.command.front() + u": "_s + QString::fromLocal8Bit(std::strerror(reason)));
+        return reason == ENOENT ? NotFound : NotExecutable;
+    }
+    return child->wait();
+}
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    ChildProgram::holdSignals();
+    const QCoreApplication application(argc, argv);
+    const auto parsed = EmulatorOptions::parse(QCoreApplication::arguments());
+    if (const auto *message = std::get_if<EmulatorOptions::Message>(&parsed)) {
+        std::fputs(qPrintable(message->text + u'\n'), message->isError ? stderr : stdout);
+        return message->isError ? EmulatorFailed : 0;
+    }
+    try {
+        return run(std::get<EmulatorOptions>(parsed));
+    } catch (const std::exception &failure) {
+        complain(QString::fromLocal8Bit(failure.what()));
+        return EmulatorFailed;
+    }
+}
