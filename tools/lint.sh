@@ -40,7 +40,7 @@ tidy() {
   # The generated sources (moc) and the full compile commands have to exist.
   ./dev build debug >build/lint-build.log 2>&1 || { tail -20 build/lint-build.log; return 1; }
   printf '%s\n' "${changed[@]}" |
-    xargs -P "$(nproc)" -n 1 clang-tidy -p build/debug --quiet 2>build/lint-tidy.log || { tail -20 build/lint-tidy.log; return 1; }
+    xargs -P "$(nproc)" -n 1 clang-tidy-16 -p build/debug --quiet --extra-arg=-Wno-unknown-warning-option 2>build/lint-tidy.log || { tail -20 build/lint-tidy.log; return 1; }
 }
 
 mkdir -p build
