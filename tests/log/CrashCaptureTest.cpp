@@ -1,5 +1,7 @@
+#include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QTest>
 #include <csignal>
 
@@ -44,17 +46,19 @@ class CrashCaptureTest : public QObject
 private Q_SLOTS:
     void reports_data();
     void reports();
+    void leavesTheReportInTheLogFile_data();
+    void leavesTheReportInTheLogFile();
     void flushesAtTheEnd_data();
     void flushesAtTheEnd();
 
 private:
-    End run(const QString &crash, const QString &state);
+    End run(const QString &crash, const QString &state, const QString &folder = {});
 
     QString m_output;
     qint64 m_process = 0;
 };
 
-End CrashCaptureTest::run(const QString &crash, const QString &state)
+End CrashCaptureTest::run(const QString &crash, const QString &state, const QString &folder)
 {
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -62,7 +66,8 @@ End CrashCaptureTest::run(const QString &crash, const QString &state)
     environment.insert(u"TSAN_OPTIONS"_s, u"allow_user_segv_handler=1"_s);
     program.setProcessEnvironment(environment);
     program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    program.start(QStringLiteral(CRASHING_PROGRAM), {crash, state});
+    program.start(QStringLiteral(CRASHING_PROGRAM),
+                  QStringList{crash, state} + (folder.isEmpty() ? QStringList() : QStringList(folder)));
     program.waitForStarted();
     m_process = program.processId();
     if (!program.waitForFinished(patience))
@@ -141,6 +146,28 @@ void CrashCaptureTest::reports()
     QVERIFY2(m_output.contains(u"\n\nReason: "_s + reason + u"\n\nProcess: "_s), qPrintable(m_output));
     if (state == u"main")
         QVERIFY2(m_output.contains(u" TID:%1] ❌"_s.arg(m_process, 6)), "the report names the thread that crashed");
+}
+
+void CrashCaptureTest::leavesTheReportInTheLogFile_data()
+{
+    QTest::addColumn<QString>("state");
+
+    QTest::newRow("any thread") << u"main"_s;
+    QTest::newRow("the thread that writes the file") << u"file-logger-queue"_s;
+}
+
+void CrashCaptureTest::leavesTheReportInTheLogFile()
+{
+    QFETCH(QString, state);
+    const QTemporaryDir folder;
+    QCOMPARE(run(u"SEGV"_s, state, folder.path()), endsWell);
+    const QStringList files = QDir(folder.path()).entryList(QDir::Files);
+    QCOMPARE(files.size(), 1);
+    QFile file(folder.filePath(files.constFirst()));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString written = QString::fromUtf8(file.readAll());
+    QVERIFY2(written.contains(u" start\n"_s), qPrintable(written));
+    QVERIFY2(written.endsWith(u"[ Fe Symbols End ]\n\n"_s), qPrintable(written));
 }
 
 void CrashCaptureTest::flushesAtTheEnd_data()

@@ -1,8 +1,11 @@
-// A program that crashes on command, for the tests of the crash capture: crashing-program CRASH STATE
-// Every line of its log goes to standard output. A program that outlives its crash says so and ends with status 7.
+// A program that crashes on command, for the tests of the crash capture: crashing-program CRASH STATE [FOLDER]
+// Every line of its log goes to standard output, and to a log file in FOLDER. A program that outlives its crash says so
+// and ends with status 7.
 
 #include "Log.h"
 #include "WTAbstractLogger.h"
+#include "WTFileLogger.h"
+#include "WTLogFileManagerDefault.h"
 #include "WTLogFormatter.h"
 
 #include <QCoreApplication>
@@ -105,7 +108,7 @@ const std::map<std::string, std::function<void()>> crashes{
 
 int main(int argc, char *argv[])
 {
-    if (argc != 3)
+    if (argc < 3)
         return 2;
     const auto crash = crashes.at(argv[1]);
     const std::string state = argv[2];
@@ -114,6 +117,13 @@ int main(int argc, char *argv[])
         application.emplace(argc, argv);
     const auto logger = std::make_shared<PrintingLogger>();
     WTLog::addLogger(logger);
+    std::shared_ptr<WTFileLogger> fileLogger;
+    if (argc > 3) {
+        const auto manager = std::make_shared<WTLogFileManagerDefault>(QString::fromLocal8Bit(argv[3]));
+        fileLogger = std::make_shared<WTFileLogger>(manager);
+        fileLogger->setLogFormatter(std::make_shared<WTLogFormatter>());
+        WTLog::addLogger(fileLogger);
+    }
     WTLog::log(false, WTLogLevelAll, WTLogFlagInfo, 0, "CrashingProgram.cpp", "main", 0, {}, "start");
 
     if (state == "main") {
@@ -131,6 +141,8 @@ int main(int argc, char *argv[])
         WTLog::loggingQueue().sync(crash);
     } else if (state == "logger-queue") {
         logger->loggerQueue()->sync(crash);
+    } else if (state == "file-logger-queue") {
+        fileLogger->loggerQueue()->sync(crash);
     } else if (state == "inside-another-logger") {
         const auto other = std::make_shared<PrintingLogger>();
         other->duringMessage = crash;

@@ -22,7 +22,7 @@ WTLogMessage messageWith(quint64 flag, const QString &text, const QString &file 
                          std::chrono::system_clock::time_point date = winterMorning)
 {
     return WTLogMessage::initWithMessage(text, WTLogLevelAll, flag, 0, {file, u"void f()"_s, 12}, {}, 0, date)
-        .spokenBy({u"42"_s, {}, {}});
+        .spokenBy({42, {}, {}});
 }
 
 struct Sent {
