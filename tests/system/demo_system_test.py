@@ -1,0 +1,46 @@
+#!/usr/bin/python3
+"""Lets the demo walk every story by itself; each must end as told, with a picture of every screen.
+
+usage: demo_system_test.py WIFITOOL-DEMO
+"""
+
+import os
+import pathlib
+import subprocess
+import sys
+import tempfile
+
+from cases import Cases
+
+PNG_MAGIC = b"\x89PNG"
+
+
+def walk(demo, story):
+    with tempfile.TemporaryDirectory() as folder:
+        pictures = pathlib.Path(folder, "pictures")
+        environment = dict(os.environ, XDG_STATE_HOME=folder)
+        subprocess.run([demo, "--story", story, "--autopilot", pictures], env=environment, check=True, timeout=100)
+        names = sorted(picture.name for picture in pictures.iterdir())
+        assert names and names[0] == "01-WTStartView.png", names
+        assert all(picture.read_bytes().startswith(PNG_MAGIC) for picture in pictures.iterdir()), names
+
+
+def refuse(demo, *arguments):
+    status = subprocess.run([demo, *arguments], stderr=subprocess.DEVNULL, timeout=10).returncode
+    assert status == 2, status
+
+
+def main():
+    demo = sys.argv[1]
+    listed = subprocess.run([demo, "--list-stories"], capture_output=True, text=True, check=True).stdout
+    cases = Cases()
+    for line in listed.splitlines():
+        story = line.split()[0]
+        cases.run(story, walk, demo, story)
+    cases.run("an unknown story", refuse, demo, "--story", "nobody-told-it")
+    cases.run("an unknown option", refuse, demo, "--fly")
+    cases.leave()
+
+
+if __name__ == "__main__":
+    main()

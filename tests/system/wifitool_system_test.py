@@ -1,0 +1,133 @@
+#!/usr/bin/python3
+"""Drives the real program, in its real window, with an emulated printer on its USB bus, and compares every frame that
+the printer received. Needs an X display and a session bus of its own.
+
+usage: wifitool_system_test.py PRINTER-EMULATOR WIFITOOL TEXT-TABLE
+"""
+
+import os
+import pathlib
+import subprocess
+import sys
+import tempfile
+
+import printer_frames as frames
+from cases import Cases
+from wizard_window import WizardWindow, read_texts, wait_for
+
+ACCESSIBILITY_BUS = "/usr/libexec/at-spi-bus-launcher"
+NETWORK = "Quill House 2.4"
+PASSWORD = "seven-grey-geese"
+RUN_TIME = 60
+
+
+class Session:
+    """One run of the program, with a home and a printer of its own."""
+
+    def __init__(self, emulator, program, texts, model):
+        self._folder = tempfile.TemporaryDirectory()
+        self._frames = pathlib.Path(self._folder.name, "frames")
+        environment = dict(
+            os.environ,
+            QT_QPA_PLATFORM="xcb",
+            QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
+            HOME=self._folder.name,
+            XDG_STATE_HOME=self._folder.name,
+            CUPS_SERVER=f"{self._folder.name}/no-spooler",
+            DBUS_SYSTEM_BUS_ADDRESS=f"unix:path={self._folder.name}/no-bus",
+        )
+        command = [emulator, "--usbfs", "--model", model, "--frames", self._frames, "--", program]
+        self._process = subprocess.Popen(command, env=environment)
+        self.window = WizardWindow(texts)
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        if self._process.poll() is None:
+            self._process.terminate()
+            self._process.wait()
+        self._folder.cleanup()
+
+    def log(self):
+        files = pathlib.Path(self._folder.name, "Logs", "wifitool").glob("com.*.log")
+        return "".join(file.read_text() for file in files)
+
+    def frames(self):
+        return [bytes.fromhex(line) for line in self._frames.read_text().split()] if self._frames.exists() else []
+
+    def enter_network(self):
+        wait_for(lambda: "USB Printers count:1" in self.log(), "the printer in the list")
+        self.window.press("下一步")
+        self.window.type("网络名称", NETWORK)
+        self.window.type("网络密码", PASSWORD)
+
+    def finish(self):
+        self.window.press("下一步")
+        self.window.wait_for_text("打印机已连上无线网络", RUN_TIME)
+        self.window.press("完成并退出")
+        status = self._process.wait(10)
+        assert status == 0, f"exit status {status}"
+        assert PASSWORD not in self.log(), "the password is in the log"
+
+
+def expect(received, *expected):
+    assert received == list(expected), "\n".join(
+        ["received:"] + [frame.hex() for frame in received] + ["expected:"] + [frame.hex() for frame in expected]
+    )
+
+
+def run_with_known_support(start):
+    with start("QZ100") as session:
+        session.enter_network()
+        session.finish()
+        expect(
+            session.frames(), frames.wake_up(), frames.configuration(NETWORK, PASSWORD), frames.address_query()
+        )
+
+
+def run_with_unknown_support(start):
+    with start("QZ200") as session:
+        session.enter_network()
+        session.finish()
+        expect(
+            session.frames(),
+            frames.wake_up(),
+            frames.capability_query(),
+            frames.configuration(NETWORK, PASSWORD),
+            frames.address_query(),
+        )
+
+
+def information_page(start, model, page):
+    with start(model) as session:
+        session.enter_network()
+        session.window.press("打印无线网络信息页")
+        session.window.wait_for_text("已将无线网络信息页发送给打印机")
+        expect(session.frames(), frames.wake_up(), page)
+        session.window.press("确定")
+
+
+def main():
+    emulator, program, table = sys.argv[1:]
+    texts = read_texts(table)
+    accessibility_bus = subprocess.Popen([ACCESSIBILITY_BUS, "--launch-immediately"])
+    cases = Cases()
+
+    def start(model):
+        return Session(emulator, program, texts, model)
+
+    try:
+        cases.run("run: Wi-Fi support known", run_with_known_support, start)
+        cases.run("run: Wi-Fi support unknown", run_with_unknown_support, start)
+        cases.run("information page: plain dialect", information_page, start, "QZ100", frames.information_page())
+        cases.run(
+            "information page: old dialect", information_page, start, "QZ110", frames.information_page_in_old_dialect()
+        )
+    finally:
+        accessibility_bus.terminate()
+    cases.leave()
+
+
+if __name__ == "__main__":
+    main()
