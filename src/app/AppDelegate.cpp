@@ -1,6 +1,6 @@
 #include "AppDelegate.h"
 
-#include "Alert.h"
+#include "AppWindow.h"
 #include "Localized.h"
 #include "WTApp.h"
 #include "WTManager.h"
@@ -9,9 +9,7 @@ using namespace Qt::Literals::StringLiterals;
 
 void AppDelegate::applicationDidFinishLaunching()
 {
-    if (!WTApp::shared().capabilities().activatesCooperatively)
-        m_window->raise();
-    m_window->activateWindow();
+    m_window->comeForward(!WTApp::shared().capabilities().activatesCooperatively);
     WTManager::shared().setCloseEnable(WTManager::CloseAsks);
 }
 
@@ -29,7 +27,7 @@ void AppDelegate::askToQuit()
     const Alert question{localized(u"温馨提示："_s),
                          localized(u"是否退出Wi-Fi配置工具?"_s),
                          {localized(u"确定"_s), localized(u"取消"_s)}};
-    showAlert(m_window, question, [](int response) {
+    m_window->presentAlert(question, [](int response) {
         if (response == alertFirstButtonReturn)
             WTApp::wt_exitApp();
     });

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QObject>
-#include <QPointer>
-#include <QWidget>
+
+class AppWindow;
 
 /// Answers the application's life: brings the main window forward and decides what its close button does. Main thread.
 class AppDelegate : public QObject
@@ -10,8 +10,9 @@ class AppDelegate : public QObject
     Q_OBJECT
 
 public:
-    QWidget *window() const { return m_window; }
-    void setWindow(QWidget *window) { m_window = window; }
+    /// The window lives longer than its delegate.
+    AppWindow *window() const { return m_window; }
+    void setWindow(AppWindow *window) { m_window = window; }
 
     /// The window shows: brings it forward and lets its close button ask.
     void applicationDidFinishLaunching();
@@ -24,5 +25,5 @@ public:
 private:
     void askToQuit();
 
-    QPointer<QWidget> m_window;
+    AppWindow *m_window = nullptr;
 };

@@ -1,6 +1,7 @@
 #include "WTWindow.h"
 
 #include "WTView.h"
+#include "showAlert.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -36,6 +37,18 @@ void WTWindow::setContentView(WTView *view)
     m_contentView = view;
     m_screens->setCurrentWidget(view);
     view->viewDidMoveToWindow();
+}
+
+void WTWindow::comeForward(bool byForce)
+{
+    if (byForce)
+        raise();
+    activateWindow();
+}
+
+void WTWindow::presentAlert(const Alert &alert, std::function<void(int response)> answered)
+{
+    showAlert(this, alert, std::move(answered));
 }
 
 void WTWindow::setReleasedWhenClosed(bool) {}

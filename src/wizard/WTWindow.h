@@ -1,12 +1,14 @@
 #pragma once
 
+#include "AppWindow.h"
+
 #include <QMainWindow>
 
 class QStackedWidget;
 class WTView;
 
 /// The wizard's one window; its content is exactly one screen.
-class WTWindow : public QMainWindow
+class WTWindow : public QMainWindow, public AppWindow
 {
     Q_OBJECT
 
@@ -19,6 +21,9 @@ public:
     WTView *contentView() const { return m_contentView; }
     /// `viewWillMoveToSuperview`, the swap, `viewDidMoveToWindow`, in this order and before it returns.
     void setContentView(WTView *view);
+
+    void comeForward(bool byForce) override;
+    void presentAlert(const Alert &alert, std::function<void(int response)> answered) override;
 
     /// Ignored: closing never releases the main window.
     void setReleasedWhenClosed(bool released);

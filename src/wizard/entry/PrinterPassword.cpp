@@ -1,6 +1,6 @@
 #include "PrinterPassword.h"
 
-#include "Alert.h"
+#include "showAlert.h"
 #include "Localized.h"
 #include "Log.h"
 

@@ -1,6 +1,6 @@
 #include "WTNetworkWithManualAddition.h"
 
-#include "Alert.h"
+#include "showAlert.h"
 #include "ButtonSchemes.h"
 #include "FieldFrame.h"
 #include "KSPasswordField.h"

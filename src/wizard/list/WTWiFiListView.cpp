@@ -1,6 +1,6 @@
 #include "WTWiFiListView.h"
 
-#include "Alert.h"
+#include "showAlert.h"
 #include "ButtonSchemes.h"
 #include "DesktopPort.h"
 #include "FieldFrame.h"

@@ -1,4 +1,4 @@
-#include "Alert.h"
+#include "showAlert.h"
 
 #include <QMessageBox>
 #include <QPushButton>
