@@ -15,7 +15,7 @@ QString valueOf(const QString &text, std::initializer_list<QLatin1StringView> ke
             const qsizetype colon = entry.indexOf(u':');
             if (colon < 0 || entry.first(colon).trimmed().compare(key, Qt::CaseInsensitive) != 0)
                 continue;
-            const QString value = entry.sliced(colon + 1).trimmed().toString();
+            QString value = entry.sliced(colon + 1).trimmed().toString();
             if (!value.isEmpty())
                 return value;
         }

@@ -13,7 +13,7 @@ public:
     enum Level { Error = 1, Warning = 2, Info = 4, Debug = 8 };
 
     /// Bytes.
-    static constexpr qint64 sizeLimit = 1024 * 1024;
+    static constexpr qint64 sizeLimit = 1 << 20;
 
     /// @param path empty: no file. @param levelMask the levels that are written.
     void configure(const QString &path, int levelMask);

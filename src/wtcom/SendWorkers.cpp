@@ -28,7 +28,7 @@ SendWorkers::SendWorkers()
     std::atexit([] { shared().endAll(); });
 }
 
-void SendWorkers::start(std::shared_ptr<AclExchange> exchange)
+void SendWorkers::start(const std::shared_ptr<AclExchange> &exchange)
 {
     {
         const std::lock_guard lock(m_mutex);

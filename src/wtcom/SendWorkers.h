@@ -15,7 +15,7 @@ public:
     static SendWorkers &shared();
 
     /// Runs the exchange on a thread of its own; if none can be had, refuses it on the calling thread.
-    void start(std::shared_ptr<AclExchange> exchange);
+    void start(const std::shared_ptr<AclExchange> &exchange);
 
     /// No send is running: nothing uses the ports any more.
     bool isIdle();

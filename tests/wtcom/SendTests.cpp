@@ -1,9 +1,9 @@
-#include "FrameLayout.h"
 #include "PrinterCommand.h"
 #include "RecordedSend.h"
 #include "SendWorkers.h"
 #include "UsbTestBench.h"
 #include "WTCServer.h"
+#include "commandFrame.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -18,13 +18,6 @@ namespace
 constexpr auto wakeUp = PrinterCommand::WakeUp;
 constexpr int timeout = 6000;
 const auto printerURI = u"usb://Quillmark/QZ100?serial=QM0001"_s;
-
-QByteArray frame(quint16 command)
-{
-    QByteArray bytes = FrameLayout::universalExit.toByteArray() + FrameLayout::enterLanguage.toByteArray();
-    bytes += QByteArray::fromHex("00AC") + QByteArray(1, char(command >> 8)) + QByteArray(1, char(command));
-    return bytes + QByteArray(12, '\0') + FrameLayout::universalExit.toByteArray();
-}
 
 /// The library over an emulated bus with one printer that answers as the faults say.
 struct LibraryBench : UsbTestBench {
@@ -59,7 +52,7 @@ struct LibraryBench : UsbTestBench {
 
     RecordedSend::Record send(HeadReaction reaction = HeadReaction::ReadAnnounced)
     {
-        return finish(RecordedSend(printerURI, frame(wakeUp), timeout, reaction));
+        return finish(RecordedSend(printerURI, commandFrame(wakeUp), timeout, reaction));
     }
 };
 
@@ -212,7 +205,7 @@ void SendTests::aThrowingDataCallbackHarmsNothing()
 {
     LibraryBench bench;
     const auto record =
-        bench.finish(RecordedSend(printerURI, frame(wakeUp), timeout, HeadReaction::ReadAnnounced, true));
+        bench.finish(RecordedSend(printerURI, commandFrame(wakeUp), timeout, HeadReaction::ReadAnnounced, true));
     QCOMPARE(record.calls, QStringList({u"head"_s, u"data"_s}));
     QVERIFY(!bench.send().error);
 }
@@ -280,8 +273,8 @@ void SendTests::sendsToOnePrinterTakeTurns()
 {
     LibraryBench bench({changed(withData(4), [](PrinterFault &fault) { fault.delay = 2s; })});
     const auto start = bench.time.now();
-    const RecordedSend first(printerURI, frame(wakeUp), timeout);
-    const RecordedSend second(printerURI, frame(wakeUp), timeout);
+    const RecordedSend first(printerURI, commandFrame(wakeUp), timeout);
+    const RecordedSend second(printerURI, commandFrame(wakeUp), timeout);
     for (const RecordedSend *send : {&first, &second}) {
         const auto record = bench.finish(*send);
         QVERIFY(!record.error);
@@ -294,10 +287,10 @@ void SendTests::sendsToOnePrinterTakeTurns()
 void SendTests::waitingForATurnIsBounded()
 {
     LibraryBench bench({changed(withData(4), [](PrinterFault &fault) { fault.silent = true; })});
-    const RecordedSend first(printerURI, frame(wakeUp), 60000);
+    const RecordedSend first(printerURI, commandFrame(wakeUp), 60000);
     bench.runUntil([&] { return bench.bed.record().count(wakeUp) == 1; });
     const auto start = bench.time.now();
-    const RecordedSend second(printerURI, frame(wakeUp), 1000);
+    const RecordedSend second(printerURI, commandFrame(wakeUp), 1000);
     QCOMPARE(bench.finish(second).error->message, printerURI + u": timed out after 1000 ms"_s);
     QCOMPARE(bench.time.now() - start, TimePort::Duration(1s));
     QVERIFY(!first.hasEnded());
@@ -328,7 +321,7 @@ void SendTests::aNameGivenBeforeTheDeviceIDWasKnownStays()
     QVERIFY(name != printerURI);
     bench.bed.release();
     QCOMPARE(deviceFromUsb(list().at(0)).URI, printerURI);
-    const auto record = bench.finish(RecordedSend(name, frame(wakeUp), timeout));
+    const auto record = bench.finish(RecordedSend(name, commandFrame(wakeUp), timeout));
     QVERIFY2(!record.error, qPrintable(record.error.value_or(WTError()).message));
 }
 
@@ -337,7 +330,7 @@ void SendTests::theDriverIsBackWhenTheDataCallbackRuns()
     LibraryBench bench;
     std::promise<QString> driver;
     auto seen = driver.get_future();
-    WTCUSBPrinter::IOKit_sendACLWithURI(printerURI, frame(wakeUp), kACLHeadSize, timeout, {},
+    WTCUSBPrinter::IOKit_sendACLWithURI(printerURI, commandFrame(wakeUp), kACLHeadSize, timeout, {},
                                         [&](const auto &, const auto &) { driver.set_value(bench.bed.boundDriver()); });
     QVERIFY(bench.runUntil([&] { return seen.wait_for(0s) == std::future_status::ready; }));
     QCOMPARE(seen.get(), u"usblp"_s);
@@ -350,7 +343,7 @@ void SendTests::theLogTellsCountsAndNoBytes()
     {
         LibraryBench bench({withData(40)}, path);
         const QByteArray secret = "correct horse battery";
-        bench.finish(RecordedSend(printerURI, frame(wakeUp) + secret, timeout));
+        bench.finish(RecordedSend(printerURI, commandFrame(wakeUp) + secret, timeout));
         bench.bed.unplug();
         bench.send();
     }

@@ -9,7 +9,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 
-constexpr qsizetype largestTransfer = 64 * 1024;
+constexpr qsizetype largestTransfer = 65536;
 constexpr TimePort::Duration discardSilence{50};
 /// A device that never falls silent is not listened to for ever.
 constexpr int mostDiscardedTransfers = 64;

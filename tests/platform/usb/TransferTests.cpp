@@ -1,0 +1,246 @@
+#include "PrinterBench.h"
+
+#include <QRandomGenerator>
+#include <QTest>
+
+using namespace std::chrono_literals;
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+/// The size of a reply's data, and the sizes of the transfers that the reply comes in.
+using SlicedReply = std::pair<int, std::vector<qsizetype>>;
+
+} // namespace
+
+Q_DECLARE_METATYPE(PrinterFault)
+
+class TransferTests : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aReplyInAnySlices_data();
+    void aReplyInAnySlices();
+    void writesOfAnySize_data();
+    void writesOfAnySize();
+    void transferFailures_data();
+    void transferFailures();
+    void aStallIsCleared();
+    void cancelEndsTheTransferAndAllLaterOnes_data();
+    void cancelEndsTheTransferAndAllLaterOnes();
+    void discardedInputIsGone();
+};
+
+void TransferTests::aReplyInAnySlices_data()
+{
+    using Slices = std::vector<qsizetype>;
+    QTest::addColumn<int>("packetSize");
+    QTest::addColumn<std::vector<SlicedReply>>("replies");
+    const auto one = [](const char *name, int packetSize, int dataSize, const Slices &slices) {
+        QTest::newRow(name) << packetSize << std::vector<SlicedReply>{{dataSize, slices}};
+    };
+    one("whole", 512, 176, {});
+    one("header apart", 512, 176, {16});
+    one("zero-length packets", 512, 4, {0, 0, 7, 0, 9, 0, 4, 0});
+    one("a byte at a time", 64, 4, Slices(20, 1));
+    one("whole packets only", 64, 112, {64});
+    one("larger than one transfer", 512, 65000, {});
+    QRandomGenerator random(20);
+    for (const int packetSize : {64, 512}) {
+        std::vector<SlicedReply> replies(20);
+        for (auto &[dataSize, slices] : replies) {
+            dataSize = random.bounded(1, 2000);
+            for (qsizetype rest = dataSize + 16; rest > 0; rest -= slices.back())
+                slices.push_back(random.bounded(0, int(std::min<qsizetype>(rest, 200)) + 1));
+        }
+        QTest::addRow("twenty at random, packets of %d", packetSize) << packetSize << replies;
+    }
+}
+
+void TransferTests::aReplyInAnySlices()
+{
+    QFETCH(int, packetSize);
+    QFETCH(std::vector<SlicedReply>, replies);
+    UsbShape shape;
+    shape.packetSize = quint16(packetSize);
+    PrinterBench bench({}, shape);
+    for (const auto &[dataSize, slices] : replies) {
+        PrinterFault fault;
+        fault.data = someData(dataSize);
+        fault.slices = slices;
+        bench.answer(fault);
+        QByteArray slicing = "slices:";
+        for (const qsizetype slice : slices)
+            slicing += ' ' + QByteArray::number(slice);
+
+        const auto connection = bench.connect();
+        QVERIFY(!bench.write(*connection));
+        QByteArray header;
+        QByteArray data;
+        const auto headerFailure = bench.read(*connection, 16, header);
+        const auto dataFailure = bench.read(*connection, dataSize, data);
+        QVERIFY2(!headerFailure && !dataFailure, slicing);
+        QVERIFY2(header.startsWith(QByteArray::fromHex("00ACFF21")), slicing);
+        QVERIFY2(data == someData(dataSize), slicing);
+    }
+}
+
+void TransferTests::writesOfAnySize_data()
+{
+    QTest::addColumn<int>("frames");
+    QTest::newRow("nothing") << 0;
+    QTest::newRow("one frame") << 1;
+    QTest::newRow("larger than one transfer") << 2000;
+}
+
+void TransferTests::writesOfAnySize()
+{
+    QFETCH(int, frames);
+    PrinterFault fault;
+    fault.silent = true;
+    PrinterBench bench(fault);
+    const auto connection = bench.connect();
+    QVERIFY(!bench.await([&] { return connection->write(commandFrame(wakeUp).repeated(frames)); }));
+    QCOMPARE(bench.bed.record().count(wakeUp), frames);
+    QVERIFY(bench.bed.record().allSound());
+}
+
+void TransferTests::transferFailures_data()
+{
+    QTest::addColumn<PrinterFault>("fault");
+    QTest::addColumn<int>("written"); // error code
+    QTest::addColumn<int>("read");    // error code
+    QTest::addColumn<int>("received");
+    QTest::addColumn<QString>("message");
+
+    const int unplugged = code(UsbErrorCode::Unplugged);
+    const int stalled = code(UsbErrorCode::Stalled);
+    PrinterFault fault;
+    fault.unplugOut = 20;
+    QTest::newRow("unplugged while it is written to")
+        << fault << unplugged << unplugged << 0 << u"writing to %1: unplugged"_s;
+    fault = {};
+    fault.unplugIn = 0;
+    QTest::newRow("unplugged before it answers") << fault << 0 << unplugged << 0 << u"reading from %1: unplugged"_s;
+    fault.unplugIn = 7;
+    QTest::newRow("unplugged in the header") << fault << 0 << unplugged << 7 << u"reading from %1: unplugged"_s;
+    fault.unplugIn = 20;
+    QTest::newRow("unplugged in the data") << fault << 0 << unplugged << 20 << u"reading from %1: unplugged"_s;
+    fault = {};
+    fault.stallOut = true;
+    QTest::newRow("takes nothing but stalls") << fault << stalled << -1 << 0 << u"writing to %1: stalled"_s;
+    fault = {};
+    fault.stallIn = true;
+    QTest::newRow("stalls in place of a reply") << fault << 0 << stalled << 0 << u"reading from %1: stalled"_s;
+    fault.cutAt = 10;
+    QTest::newRow("stalls in the header") << fault << 0 << stalled << 10 << u"reading from %1: stalled"_s;
+}
+
+void TransferTests::transferFailures()
+{
+    QFETCH(PrinterFault, fault);
+    QFETCH(int, written);
+    QFETCH(int, read);
+    QFETCH(int, received);
+    QFETCH(QString, message);
+    fault.data = someData(100);
+    PrinterBench bench(fault);
+    const auto connection = bench.connect();
+    const QString expected = message.arg(bench.bed.nodePath());
+
+    auto failure = bench.write(*connection);
+    QCOMPARE(codeOf(failure), written);
+    QByteArray reply;
+    if (read >= 0) {
+        const auto readFailure = bench.read(*connection, 116, reply);
+        QCOMPARE(codeOf(readFailure), read);
+        if (!failure)
+            failure = readFailure;
+    }
+    QCOMPARE(reply.size(), received);
+    QCOMPARE(failure->domain, QString(usbErrorDomain));
+    QCOMPARE(failure->message, expected);
+}
+
+void TransferTests::aStallIsCleared()
+{
+    PrinterFault stallOut;
+    stallOut.occurrence = 1;
+    stallOut.stallOut = true;
+    PrinterBench bench(stallOut);
+    const auto connection = bench.connect();
+    QCOMPARE(codeOf(bench.write(*connection)), code(UsbErrorCode::Stalled));
+    QVERIFY(!bench.write(*connection));
+    QByteArray reply;
+    QVERIFY(!bench.read(*connection, 16, reply));
+
+    PrinterFault stallIn;
+    stallIn.occurrence = 3;
+    stallIn.stallIn = true;
+    bench.answer(stallIn);
+    QVERIFY(!bench.write(*connection));
+    QCOMPARE(codeOf(bench.read(*connection, 32, reply)), code(UsbErrorCode::Stalled));
+    QVERIFY(!bench.write(*connection));
+    QVERIFY(!bench.read(*connection, 32, reply));
+}
+
+void TransferTests::cancelEndsTheTransferAndAllLaterOnes_data()
+{
+    QTest::addColumn<PrinterFault>("fault");
+    QTest::addColumn<int>("written"); // error code
+    QTest::addColumn<int>("received");
+    const int cancelled = code(UsbErrorCode::Cancelled);
+    PrinterFault fault;
+    fault.acceptOnly = 10;
+    QTest::newRow("while writing") << fault << cancelled << 0;
+    fault = {};
+    fault.silent = true;
+    QTest::newRow("while reading, nothing came") << fault << 0 << 0;
+    fault = {};
+    fault.cutAt = 64;
+    QTest::newRow("while reading, a whole packet came") << fault << 0 << 64;
+}
+
+void TransferTests::cancelEndsTheTransferAndAllLaterOnes()
+{
+    QFETCH(PrinterFault, fault);
+    QFETCH(int, written);
+    QFETCH(int, received);
+    fault.data = someData(100);
+    UsbShape shape;
+    shape.packetSize = 64;
+    PrinterBench bench(fault, shape);
+    const auto connection = bench.connect();
+    const auto cancel = bench.time.after(1s, [&] { connection->cancel(); });
+    QCOMPARE(codeOf(bench.write(*connection)), written);
+    QByteArray reply;
+    QCOMPARE(codeOf(bench.read(*connection, 116, reply)), code(UsbErrorCode::Cancelled));
+    QCOMPARE(reply.size(), received);
+    QCOMPARE(codeOf(bench.write(*connection)), code(UsbErrorCode::Cancelled));
+    QCOMPARE(codeOf(bench.read(*connection, 116, reply)), code(UsbErrorCode::Cancelled));
+}
+
+void TransferTests::discardedInputIsGone()
+{
+    PrinterFault fault;
+    fault.occurrence = 1;
+    fault.trailingGarbage = QByteArray(5000, 'x');
+    PrinterBench bench(fault);
+    const auto connection = bench.connect();
+    QVERIFY(!bench.write(*connection));
+    QByteArray reply;
+    QVERIFY(!bench.read(*connection, 16, reply));
+    bench.await([&] {
+        connection->discardInput();
+        return true;
+    });
+    QVERIFY(!bench.write(*connection));
+    QByteArray second;
+    QVERIFY(!bench.read(*connection, 16, second));
+    QCOMPARE(second, reply);
+}
+
+QTEST_GUILESS_MAIN(TransferTests)
+#include "TransferTests.moc"
