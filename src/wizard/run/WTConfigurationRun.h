@@ -65,6 +65,12 @@ public:
     void ff_closeTimer();
     void showErrorView(quint64 reason);
 
+    // What an answer leads to, once it has come to the main thread.
+    void classifyCapability(int status, quint16 code);
+    void classifyConfiguration(int errorCode, quint16 respCode);
+    /// @param time the attempt that is answered.
+    void classifyAddress(qint64 time, int status, const QString &text);
+
 Q_SIGNALS:
     void progressChanged(int progress);
     /// @param attempt which address query is under way, from 0.
@@ -74,9 +80,6 @@ Q_SIGNALS:
     void ended(const RunOutcome &outcome);
 
 private:
-    void classifyCapability(int status, quint16 code);
-    void classifyConfiguration(int errorCode, quint16 respCode);
-    void classifyAddress(qint64 time, int status, const QString &text);
     void retryConfiguration();
 
     void beginStep(RunStep step, int attempt = 0);

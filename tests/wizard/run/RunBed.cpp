@@ -32,7 +32,9 @@ RunBed::RunBed(TimePort &time, Wait wait, const PrinterScript &script, const Mod
 
 RunBed::~RunBed()
 {
-    // The port may only go when no send uses it any more.
+    // The port may only go when no send uses it any more; without a printer they all end.
+    if (m_bus.isPlugged())
+        m_bus.unplug();
     m_wait(m_bus, [] { return SendWorkers::shared().isIdle(); });
 }
 

@@ -76,6 +76,11 @@ PrinterScript scriptWith(Command command, Fault fault)
     return script;
 }
 
+PrinterScript silentOn(Command command)
+{
+    return scriptWith(command, Fault::Silence);
+}
+
 /// The first of `expected` that `lines` do not hold behind the one before it; empty when they hold all.
 QString firstMissing(const QStringList &lines, const QStringList &expected)
 {
@@ -107,6 +112,9 @@ private Q_SLOTS:
     void faultInStep();
     void printerSays_data();
     void printerSays();
+    void configurationAnswer_data();
+    void configurationAnswer();
+    void sendsTheConfigurationThreeTimesAtMost();
     void logsEachStepAndNoPassword();
     void asksSevenTimesTwoSecondsApart();
     void countsProgressFromTheFirstSend();
@@ -279,6 +287,77 @@ void RunTests::printerSays()
     }
 }
 
+void RunTests::configurationAnswer_data()
+{
+    QTest::addColumn<int>("errorCode");
+    QTest::addColumn<int>("respCode");
+    QTest::addColumn<Screen>("screen");
+    QTest::addColumn<bool>("interfaceError");
+    QTest::addColumn<bool>("upgrading");
+    QTest::addColumn<int>("closeState");
+    QTest::addColumn<QStringList>("lines");
+
+    using enum Screen;
+    const auto row = [](int errorCode, int respCode, Screen screen, bool interfaceError, bool upgrading,
+                        WTManager::CloseState closeState, const QStringList &lines) {
+        QTest::addRow("%d, 0x%X", errorCode, respCode)
+            << errorCode << respCode << screen << interfaceError << upgrading << int(closeState) << lines;
+    };
+    row(0, 0, ConfigFailed, false, false, WTManager::CloseAsks, {u"info: 🏷"_s, u"info: 🏷 result：4"_s});
+    row(0, 0xFFFB, Failed, true, false, WTManager::CloseAsks, {u"info: 🏷 result：6"_s});
+    row(0, 0xFFFC, Failed, false, true, WTManager::CloseQuits, {u"info: 🏷 result：7"_s});
+    row(0, 0xFFFF, Failed, true, false, WTManager::CloseAsks, {u"info: 🏷 result：6"_s});
+    row(1, 0, ConfigFailed, false, false, WTManager::CloseAsks, {u"info: 🏷 result：4"_s});
+    row(2, 31, Failed, false, false, WTManager::CloseAsks, {u"info: 🏷 result：0"_s});
+}
+
+/// Most of these answers no printer command produces, so they are given to a run whose printer keeps silent.
+void RunTests::configurationAnswer()
+{
+    QFETCH(int, errorCode);
+    QFETCH(int, respCode);
+    QFETCH(Screen, screen);
+    QFETCH(bool, upgrading);
+    QFETCH(QStringList, lines);
+
+    LogCollector log;
+    RunBed bed(m_time, virtualWait(), silentOn(Configuration));
+    bed.push(bed.findPrinter(), networkName, password);
+    QVERIFY(bed.waitFor([&] { return bed.run().progress() == 5; }));
+    bed.run().classifyConfiguration(errorCode, quint16(respCode));
+    QCOMPARE(bed.screen(), expected(bed, screen));
+    QCOMPARE(bed.run().progress(), 100);
+    QTEST(bed.failed().showInterfaceError(), "interfaceError");
+    QCOMPARE(bed.failed().showWiFiCapabilityError(), upgrading);
+    QCOMPARE(bed.failed().wifiCapabilityError(), upgrading ? 2u : 0u);
+    QTEST(int(WTManager::shared().closeEnable()), "closeState");
+    QCOMPARE(firstMissing(log.lines(), lines), QString());
+}
+
+void RunTests::sendsTheConfigurationThreeTimesAtMost()
+{
+    LogCollector log;
+    RunBed bed(m_time, virtualWait(), silentOn(Configuration));
+    bed.push(bed.findPrinter(), networkName, password);
+    QVERIFY(bed.waitFor([&] { return bed.run().step() == RunStep::Sending; }));
+    for (int retry = 1; retry <= 2; ++retry) {
+        bed.run().classifyConfiguration(3, 0);
+        QCOMPARE(bed.installing().retryTime(), retry);
+        QCOMPARE(bed.run().step(), RunStep::Sending);
+    }
+    bed.run().classifyConfiguration(3, 0);
+    QCOMPARE(bed.screen(), &bed.configFailed());
+    QCOMPARE(firstMissing(log.lines(), {u"info: retry time:0"_s, u"info: retry time:1"_s, u"info: retry time:2"_s,
+                                        u"info: did retry!"_s, u"info: 🏷 result：4"_s}),
+             QString());
+    const QString send = u"info: send ACL:0xFF80"_s;
+    QCOMPARE(log.lines().filter(send).size(), 3);
+    // A new run has its retries again.
+    bed.configFailed().backAction();
+    bed.push(bed.installing().printer(), networkName, password);
+    QCOMPARE(bed.installing().retryTime(), 0);
+}
+
 void RunTests::logsEachStepAndNoPassword()
 {
     LogCollector log;
@@ -353,9 +432,7 @@ void RunTests::countsProgressFromTheFirstSend()
 
 void RunTests::secondProgressTimerSurvivesTheEnd()
 {
-    PrinterScript script;
-    script.faults.push_back({.command = Configuration, .silent = true});
-    RunBed bed(m_time, virtualWait(), script);
+    RunBed bed(m_time, virtualWait(), silentOn(Configuration));
     bed.push(bed.findPrinter(), networkName, password);
     QVERIFY(bed.waitFor([&] { return bed.run().progress() == 10; }));
     bed.installing().confingWiFiStart();
