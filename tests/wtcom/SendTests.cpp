@@ -87,6 +87,7 @@ private Q_SLOTS:
     void aThrowingDataCallbackHarmsNothing();
     void theDeadlineCoversTheWholeExchange_data();
     void theDeadlineCoversTheWholeExchange();
+    void aDeadlineThatPassesWhileOpeningSendsNothing();
     void aLateReplyIsNotTheNextOnes_data();
     void aLateReplyIsNotTheNextOnes();
     void sendsToOnePrinterTakeTurns();
@@ -238,6 +239,17 @@ void SendTests::theDeadlineCoversTheWholeExchange()
     QCOMPARE(bench.time.now() - start, TimePort::Duration(timeout));
 }
 
+void SendTests::aDeadlineThatPassesWhileOpeningSendsNothing()
+{
+    LibraryBench bench;
+    bench.bed.hold();
+    const auto release = bench.time.after(700ms, [&] { bench.bed.release(); });
+    const auto record = bench.finish(RecordedSend(printerURI, commandFrame(wakeUp), 500));
+    QVERIFY(record.error);
+    QCOMPARE(record.error->message, printerURI + u": timed out after 500 ms"_s);
+    QCOMPARE(bench.bed.record().count(wakeUp), 0);
+}
+
 void SendTests::aLateReplyIsNotTheNextOnes_data()
 {
     QTest::addColumn<PrinterFault>("fault");
@@ -246,6 +258,7 @@ void SendTests::aLateReplyIsNotTheNextOnes_data()
     QTest::newRow("it came after the time-out")
         << changed(withData(3000), [](PrinterFault &fault) { fault.delay = 7s; }) << read;
     QTest::newRow("its data was not wanted") << withData(3000) << HeadReaction::Stop;
+    QTest::newRow("less was wanted than was announced") << withData(3000) << HeadReaction::ReadNone;
     QTest::newRow("the head callback threw") << withData(3000) << HeadReaction::Throw;
     QTest::newRow("its data came too late") << changed(withData(3000), [](PrinterFault &fault) {
         fault.slices = {16};
@@ -340,12 +353,14 @@ void SendTests::theLogTellsCountsAndNoBytes()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"library.log"_s);
+    // What is encoded looks like a placeholder.
+    const QString absentURI = u"usb://Quillmark/QZ100%2B?serial=QM0001"_s;
     {
         LibraryBench bench({withData(40)}, path);
         const QByteArray secret = "correct horse battery";
         bench.finish(RecordedSend(printerURI, commandFrame(wakeUp) + secret, timeout));
         bench.bed.unplug();
-        bench.send();
+        bench.finish(RecordedSend(absentURI, commandFrame(wakeUp), timeout));
     }
     WTCServer::sharedWithDelegate(nullptr, 255, {}, {}, {});
     QFile file(path);
@@ -354,7 +369,7 @@ void SendTests::theLogTellsCountsAndNoBytes()
     for (const QString &line :
          {u"info search started: 0x6A1B 0x6A1C"_s, u"info devices: 1 "_s + printerURI,
           u"info sent 80 bytes to %1, header 16 bytes, data 40 bytes, 0 ms, done"_s.arg(printerURI),
-          u"error sent 59 bytes to %1, header 0 bytes, data 0 bytes, 0 ms, "_s.arg(printerURI),
+          u"error sent 59 bytes to %1, header 0 bytes, data 0 bytes, 0 ms, %1: no such printer"_s.arg(absentURI),
           u"info search stopped"_s})
         QVERIFY2(text.contains(line), qPrintable(line + u" is not in\n"_s + text));
     for (const QString &secret : {u"horse"_s, u"dddd"_s, u"ENTER LANGUAGE"_s})
