@@ -194,7 +194,7 @@ std::optional<WTError> EmulatedBus::run(Transfer &transfer)
     std::unique_lock lock(m_lock.mutex());
     m_moved.wait(lock, [&] { return transfer.outcome != PrinterPipes::Outcome::Waiting || m_gone || m_cancelled; });
     m_transfer = nullptr;
-    if (m_gone)
+    if (m_gone && transfer.outcome == PrinterPipes::Outcome::Waiting)
         transfer.outcome = PrinterPipes::Outcome::Unplug;
     switch (transfer.outcome) {
     case PrinterPipes::Outcome::Complete:

@@ -1,0 +1,199 @@
+#include "EmulatedUsb.h"
+#include "PrinterCommand.h"
+#include "SystemTime.h"
+#include "TestFrames.h"
+#include "VirtualTime.h"
+
+#include <QTest>
+#include <future>
+#include <mutex>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace TestFrames;
+using namespace std::chrono_literals;
+
+namespace
+{
+const std::vector<quint16> vendors{0x6A1B};
+const QByteArray wakeUpReply = QByteArray::fromHex("00acff21000000000000000000000000");
+
+int codeOf(const std::optional<WTError> &error)
+{
+    return error ? error->code : 0;
+}
+
+/// One exchange as text: the reply in hexadecimal, or the step that failed and its code.
+QString exchange(EmulatedUsb &usb, const QByteArray &frame)
+{
+    const UsbDeviceList devices = usb.devices(vendors);
+    if (devices.empty())
+        return u"absent"_s;
+    auto connection = usb.open(devices.front());
+    if (!connection)
+        return u"open %1"_s.arg(connection.error().code);
+    if (const auto failed = connection.value()->write(frame))
+        return u"write %1"_s.arg(failed->code);
+    const auto reply = connection.value()->read(512);
+    return reply ? QString::fromLatin1(reply.value().toHex()) : u"read %1"_s.arg(reply.error().code);
+}
+} // namespace
+
+class EmulatedUsbTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void misbehaves_data();
+    void misbehaves();
+    void takesItsTime();
+    void endsAWaitThatIsCancelled();
+    void forgetsWhatIsDiscarded();
+    void reportsEveryChange();
+    void standsConcurrentUse();
+};
+
+void EmulatedUsbTest::misbehaves_data()
+{
+    QTest::addColumn<PrinterScript>("script");
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("second");
+
+    const QString sound = QString::fromLatin1(wakeUpReply.toHex());
+    const auto fault = [](auto change) {
+        PrinterScript script;
+        PrinterFault &made = script.faults.emplace_back();
+        made.command = PrinterCommand::WakeUp;
+        made.occurrence = 1;
+        change(made);
+        return script;
+    };
+    const auto after = [](BusEvent::Action action) {
+        PrinterScript script;
+        script.events = {{action, BusEvent::Cause{PrinterCommand::WakeUp, 1}, 0ms}};
+        return script;
+    };
+    const auto failed = [](const QString &step, UsbErrorCode code) { return u"%1 %2"_s.arg(step).arg(int(code)); };
+    using enum UsbErrorCode;
+
+    QTest::newRow("nothing") << PrinterScript() << sound << sound;
+    QTest::newRow("absent") << PrinterScript{.plugged = false} << u"absent"_s << u"absent"_s;
+    QTest::newRow("stall out") << fault([](auto &made) { made.stallOut = true; }) << failed(u"write"_s, Stalled)
+                               << sound;
+    QTest::newRow("stall in") << fault([](auto &made) { made.stallIn = true; }) << failed(u"read"_s, Stalled) << sound;
+    QTest::newRow("unplug out") << fault([](auto &made) { made.unplugOut = 9; }) << failed(u"write"_s, Unplugged)
+                                << u"absent"_s;
+    QTest::newRow("unplug in") << fault([](auto &made) { made.unplugIn = 0; }) << failed(u"read"_s, Unplugged)
+                               << u"absent"_s;
+    QTest::newRow("cut") << fault([](auto &made) { made.cutAt = 3; }) << u"00acff"_s << sound;
+    QTest::newRow("held after") << after(BusEvent::Action::Hold) << sound << failed(u"open"_s, Busy);
+    QTest::newRow("denied after") << after(BusEvent::Action::Deny) << sound << failed(u"open"_s, PermissionDenied);
+}
+
+void EmulatedUsbTest::misbehaves()
+{
+    QFETCH(const PrinterScript, script);
+    SystemTime time;
+    EmulatedUsb usb(time, PrinterModel({}, script));
+    QTEST(exchange(usb, shortFrame(0xFF21)), "first");
+    QTEST(exchange(usb, shortFrame(0xFF21)), "second");
+}
+
+void EmulatedUsbTest::takesItsTime()
+{
+    VirtualTime time;
+    PrinterScript script;
+    script.joinTime = 2min;
+    script.events = {{BusEvent::Action::Unplug, BusEvent::Cause{PrinterCommand::Configuration, 1}, 3min}};
+    EmulatedUsb usb(time, PrinterModel({}, script));
+    const auto begin = time.now();
+    auto reply = std::async(std::launch::async, [&] { return exchange(usb, configuration("Office", "secret-1")); });
+    QVERIFY(time.runUntil([&] { return reply.wait_for(0s) == std::future_status::ready; }, {}));
+    QCOMPARE(reply.get(), u"00acff80000100000000000000000000"_s);
+    QCOMPARE(time.now() - begin, TimePort::Instant::duration(2min));
+    QCOMPARE(usb.record().networkName, QByteArray("Office"));
+    time.advance(1min);
+    QVERIFY(usb.devices(vendors).empty());
+}
+
+void EmulatedUsbTest::endsAWaitThatIsCancelled()
+{
+    SystemTime time;
+    EmulatedUsb usb(time, PrinterModel());
+    auto connection = usb.open(usb.devices(vendors).front());
+    QVERIFY(connection);
+    QCOMPARE(usb.open(usb.devices(vendors).front()).error().code, int(UsbErrorCode::Busy));
+    auto reply = std::async(std::launch::async, [&] { return connection.value()->read(512); });
+    connection.value()->cancel();
+    QCOMPARE(reply.get().error().code, int(UsbErrorCode::Cancelled));
+    QCOMPARE(codeOf(connection.value()->write(shortFrame(0xFF21))), int(UsbErrorCode::Cancelled));
+    connection.value().reset();
+    QCOMPARE(exchange(usb, shortFrame(0xFF21)).toLatin1(), wakeUpReply.toHex());
+}
+
+void EmulatedUsbTest::forgetsWhatIsDiscarded()
+{
+    SystemTime time;
+    PrinterScript script;
+    script.faults = {{.command = PrinterCommand::Capability, .data = QByteArray(2000, 'd')}};
+    EmulatedUsb usb(time, PrinterModel({}, script));
+    auto connection = usb.open(usb.devices(vendors).front());
+    QVERIFY(connection);
+    QCOMPARE(codeOf(connection.value()->write(shortFrame(0xFF81))), 0);
+    QCOMPARE(connection.value()->read(512).value().size(), 512);
+    connection.value()->discardInput();
+    QCOMPARE(codeOf(connection.value()->write(shortFrame(0xFF21))), 0);
+    QCOMPARE(connection.value()->read(512).value(), wakeUpReply);
+}
+
+void EmulatedUsbTest::reportsEveryChange()
+{
+    SystemTime time;
+    EmulatedUsb usb(time, PrinterModel());
+    std::mutex mutex;
+    std::vector<std::size_t> sizes;
+    const auto seen = [&] {
+        const std::lock_guard lock(mutex);
+        return sizes;
+    };
+    usb.watch(vendors, [&](const UsbDeviceList &list) {
+        const std::lock_guard lock(mutex);
+        sizes.push_back(list.size());
+    });
+    QTRY_COMPARE(seen(), (std::vector<std::size_t>{1}));
+    usb.unplug();
+    QTRY_COMPARE(seen(), (std::vector<std::size_t>{1, 0}));
+    usb.plug();
+    QTRY_COMPARE(seen(), (std::vector<std::size_t>{1, 0, 1}));
+    usb.stopWatching();
+    usb.unplug();
+    usb.watch({0x1234}, [&](const UsbDeviceList &) { usb.stopWatching(); });
+    usb.plug();
+    usb.stopWatching();
+    QCOMPARE(seen().size(), 3U);
+}
+
+void EmulatedUsbTest::standsConcurrentUse()
+{
+    SystemTime time;
+    PrinterScript script;
+    script.faults = {{.command = PrinterCommand::WakeUp, .delay = 1ms, .sliceSeed = 3, .sliceDelay = 1ms}};
+    EmulatedUsb usb(time, PrinterModel({}, script));
+    auto user = std::async(std::launch::async, [&] {
+        for (int round = 0; round < 100; ++round)
+            exchange(usb, shortFrame(0xFF21));
+    });
+    for (int round = 0; round < 100; ++round) {
+        usb.watch(vendors, [](const UsbDeviceList &) {});
+        usb.unplug();
+        usb.plug();
+        usb.stopWatching();
+    }
+    user.get();
+    usb.setScript({});
+    QTRY_COMPARE(exchange(usb, shortFrame(0xFF21)).toLatin1(), wakeUpReply.toHex());
+}
+
+Q_DECLARE_METATYPE(PrinterScript)
+
+QTEST_GUILESS_MAIN(EmulatedUsbTest)
+#include "EmulatedUsbTest.moc"
