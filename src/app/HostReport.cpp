@@ -1,14 +1,13 @@
 #include "HostReport.h"
 
 #include <QStringList>
-#include <ranges>
 
 QMap<QString, QString> parseHostReport(const QString &report)
 {
     QMap<QString, QString> entries;
     const QStringList lines = report.split(u'\n');
-    for (const QString &line : lines | std::views::reverse) {
-        const QStringList parts = line.split(u':');
+    for (auto line = lines.crbegin(); line != lines.crend(); ++line) {
+        const QStringList parts = line->split(u':');
         if (parts.size() == 2 && !parts[1].isEmpty())
             entries.insert(parts[0].trimmed(), parts[1].trimmed());
     }

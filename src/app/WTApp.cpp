@@ -142,7 +142,7 @@ QString WTApp::currentLocale() const
         return fallbackLanguage;
     }
 
-    const QString language = *code == "zh"_L1 ? chineseLanguage(BundleEx::getCurrentLanguage()) : *code;
+    QString language = *code == "zh"_L1 ? chineseLanguage(BundleEx::getCurrentLanguage()) : *code;
     const QStringList entries = QDir(InfoList::resourceFolder()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
     if (std::ranges::any_of(entries, [&](const QString &entry) { return entry.startsWith(language); })) {
         logInfo("App Language:%@", language);

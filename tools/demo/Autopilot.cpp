@@ -70,7 +70,7 @@ QString Autopilot::visit(const Visit &visit)
     for (const Act &act : visit.acts) {
         if (&act == &visit.acts.back())
             savePicture(m_window, visit.screen);
-        const QString problem = perform(act);
+        QString problem = perform(act);
         if (!problem.isEmpty())
             return problem;
     }
@@ -85,7 +85,7 @@ QString Autopilot::perform(const Act &act)
     case Act::Kind::Click:
         return click(act.widget);
     case Act::Kind::Type: {
-        const QString problem = click(act.widget);
+        QString problem = click(act.widget);
         if (problem.isEmpty())
             QTest::keyClicks(visibleWidget(act.widget), act.text);
         return problem;
