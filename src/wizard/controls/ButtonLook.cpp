@@ -15,6 +15,7 @@ constexpr int shapeWidth = 128; ///< At least.
 constexpr int padding = 24;
 constexpr int imageSize = 20;
 constexpr int imageGap = 8;
+constexpr qreal imageInset = 2.5; ///< Empty edge of a check box's picture.
 
 int titleWidth(const QAbstractButton &button)
 {
@@ -42,7 +43,7 @@ void ButtonLook::paint(QPainter &painter, const QAbstractButton &button) const
 
     const int imageRoom = image.isNull() ? 0 : imageSize + imageGap;
     const int width = titleWidth(button);
-    const qreal left = leading ? shape.left() : shape.center().x() - (imageRoom + width) / 2.0;
+    const qreal left = leading ? shape.left() - imageInset : shape.center().x() - (imageRoom + width) / 2.0;
     image.paint(painter, QRectF(left, shape.center().y() - imageSize / 2.0, imageSize, imageSize));
     painter.setPen(text.isValid() ? text : Palette::heading);
     painter.drawText(QRectF(left + imageRoom, shape.top(), width + 1, shape.height()),

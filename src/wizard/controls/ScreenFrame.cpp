@@ -42,7 +42,7 @@ ScreenFrame::ScreenFrame(WTView *screen, WizardStep step)
     whole->addWidget(this);
 
     auto *page = new QVBoxLayout;
-    page->setContentsMargins(pageMargin, 8, pageMargin, 16);
+    page->setContentsMargins(pageMargin, 8, pageMargin, 8);
     page->setSpacing(0);
     page->addWidget(m_heading);
     page->addSpacing(8);
@@ -97,26 +97,23 @@ void ScreenFrame::setBackButton(QAbstractButton *button)
 {
     m_back = button;
     m_bar->insertWidget(0, button);
-    orderButtons();
 }
 
 void ScreenFrame::setMainButton(QAbstractButton *button)
 {
     m_main = button;
     m_bar->addWidget(button);
-    orderButtons();
-}
-
-void ScreenFrame::orderButtons()
-{
-    // The way on before the way back, so that a screen of buttons only starts on its main action.
-    if (m_main && m_back)
-        setTabOrder(m_main, m_back);
 }
 
 void ScreenFrame::addToBar(QWidget *widget)
 {
     m_bar->insertWidget(m_main ? m_bar->indexOf(m_main) : m_bar->count(), widget);
+}
+
+void ScreenFrame::showEvent(QShowEvent *)
+{
+    if (m_firstFocus && !m_screen->focusWidget())
+        m_firstFocus->setFocus();
 }
 
 void ScreenFrame::keyPressEvent(QKeyEvent *event)

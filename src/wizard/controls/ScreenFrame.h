@@ -43,12 +43,14 @@ public:
     void setMainButton(QAbstractButton *button);
     /// A second, quieter widget of the bar, left of the main button (a check box, a side action).
     void addToBar(QWidget *widget);
+    /// Who gets the keyboard when the screen shows for the first time; else the first that takes it.
+    void setFirstFocus(QWidget *widget) { m_firstFocus = widget; }
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
-    void orderButtons();
     /// The push button with the keyboard, else the main action.
     QAbstractButton *buttonForEnter() const;
 
@@ -59,4 +61,5 @@ private:
     QHBoxLayout *m_bar;
     QAbstractButton *m_back = nullptr;
     QAbstractButton *m_main = nullptr;
+    QWidget *m_firstFocus = nullptr;
 };

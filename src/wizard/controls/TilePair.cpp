@@ -16,6 +16,9 @@ TilePair::TilePair(WTHoverView *first, WTHoverView *second, QWidget *parent)
     , m_first(first)
     , m_second(second)
 {
+    const int pictureHeight = qMin(first->roomForPicture(), second->roomForPicture());
+    first->setPictureHeight(pictureHeight);
+    second->setPictureHeight(pictureHeight);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(gap);

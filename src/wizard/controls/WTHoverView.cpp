@@ -21,7 +21,17 @@ constexpr qreal cornerRadius = 8;
 constexpr int padding = 20;
 constexpr int spacing = 8;
 constexpr int radioSize = 24;
-constexpr int pictureHeight = 104; ///< Less where the texts need the room, so that titles of a pair stand level.
+constexpr int tallestPicture = 104;
+
+QFont titleFont()
+{
+    return TextStyle::font(TextStyle::Size::Large, QFont::DemiBold);
+}
+
+QFont helpFont()
+{
+    return TextStyle::font(TextStyle::Size::Small);
+}
 
 void strokeRounded(QPainter &painter, const QRectF &area, qreal radius, const QColor &color, qreal width)
 {
@@ -49,11 +59,35 @@ WTHoverView::WTHoverView(const QString &pictureName, const QString &title, const
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    m_pictureHeight = roomForPicture();
 }
 
 QSize WTHoverView::sizeHint() const
 {
     return tileSize + QSize(2 * ringRoom, 2 * ringRoom);
+}
+
+WTHoverView::Texts WTHoverView::measureTexts() const
+{
+    const int width = tileSize.width() - 2 * padding;
+    const auto heightOf = [](const QFont &font, int room, const QString &text) {
+        return QFontMetrics(font).boundingRect(0, 0, room, 0, Qt::TextWordWrap, text).height();
+    };
+    return {qMax(radioSize, heightOf(titleFont(), width - radioSize - spacing, text())),
+            heightOf(helpFont(), width, m_help)};
+}
+
+int WTHoverView::roomForPicture() const
+{
+    const Texts texts = measureTexts();
+    const int taken = 2 * padding + texts.titleHeight + texts.helpHeight + spacing + spacing / 2;
+    return qMin(tallestPicture, tileSize.height() - taken);
+}
+
+void WTHoverView::setPictureHeight(int height)
+{
+    m_pictureHeight = height;
+    update();
 }
 
 QString WTHoverView::radioImageName() const
@@ -160,25 +194,18 @@ void WTHoverView::paintEvent(QPaintEvent *)
     strokeRounded(painter, cLayer, cornerRadius - 2 * borderWidth, m_cLayer, borderWidth);
 
     const QRect inner = m_area.adjusted(padding, padding, -padding, -padding);
-    const QFont titleFont = TextStyle::font(TextStyle::Size::Large, QFont::DemiBold);
-    const QFont helpFont = TextStyle::font(TextStyle::Size::Small);
-    const QRect titleArea = inner.adjusted(0, 0, -(radioSize + spacing), 0);
-    const int titleHeight =
-        qMax(radioSize, QFontMetrics(titleFont).boundingRect(titleArea, Qt::TextWordWrap, text()).height());
-    const int helpHeight = QFontMetrics(helpFont).boundingRect(inner, Qt::TextWordWrap, m_help).height();
-    const int textHeight = titleHeight + spacing / 2 + helpHeight;
-    const int pictureRoom = qMin(pictureHeight, inner.height() - spacing - textHeight);
-    const int titleTop = inner.top() + pictureRoom + spacing;
-    const int helpTop = titleTop + titleHeight + spacing / 2;
+    const Texts texts = measureTexts();
+    const int titleTop = inner.top() + m_pictureHeight + spacing;
+    const int helpTop = titleTop + texts.titleHeight + spacing / 2;
 
-    m_picture.paint(painter, QRectF(inner.left(), inner.top(), inner.width(), pictureRoom));
-    painter.setFont(titleFont);
+    m_picture.paint(painter, QRectF(inner.left(), inner.top(), inner.width(), m_pictureHeight));
+    painter.setFont(titleFont());
     painter.setPen(Palette::heading);
-    painter.drawText(QRect(inner.left(), titleTop, titleArea.width(), titleHeight), Qt::TextWordWrap | Qt::AlignVCenter,
-                     text());
-    painter.setFont(helpFont);
+    painter.drawText(QRect(inner.left(), titleTop, inner.width() - radioSize - spacing, texts.titleHeight),
+                     Qt::TextWordWrap | Qt::AlignVCenter, text());
+    painter.setFont(helpFont());
     painter.setPen(Palette::label);
-    painter.drawText(QRect(inner.left(), helpTop, inner.width(), helpHeight), Qt::TextWordWrap, m_help);
+    painter.drawText(QRect(inner.left(), helpTop, inner.width(), texts.helpHeight), Qt::TextWordWrap, m_help);
     if (m_radioImage)
-        m_radioImage->move(inner.right() + 1 - radioSize, titleTop + (titleHeight - radioSize) / 2);
+        m_radioImage->move(inner.right() + 1 - radioSize, titleTop + (texts.titleHeight - radioSize) / 2);
 }

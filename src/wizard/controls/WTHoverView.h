@@ -41,6 +41,11 @@ public:
     QString radioImageName() const;
     QString help() const { return m_help; }
 
+    /// What the texts leave for the picture. Tiles side by side share the smaller height, so that their titles are
+    /// level.
+    int roomForPicture() const;
+    void setPictureHeight(int height);
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -55,6 +60,12 @@ protected:
 private:
     friend class WTHoverViewAccessible;
 
+    struct Texts {
+        int titleHeight;
+        int helpHeight;
+    };
+
+    Texts measureTexts() const;
     void choose();
     void setHover(bool hover);
     void updateBorders();
@@ -67,6 +78,7 @@ private:
     WTHoverViewDelegate *m_delegate = nullptr;
     QPointer<PictureView> m_radioImage;
     QRect m_area;
+    int m_pictureHeight = 0;
     QColor m_border;
     QColor m_bLayer;
     QColor m_cLayer;

@@ -20,13 +20,13 @@ namespace
 constexpr QSize markSize{96, 96};
 constexpr int markGap = 32;
 constexpr int widestText = 560;
-constexpr int checkBoxInset = 6; ///< From the edge of a check box to its mark, which stands level with the texts.
 
 QString folderLink(const QString &logPath)
 {
     const QString folder = QFileInfo(logPath).absolutePath();
-    const QString link = u"<a href=\"%1\">%2</a>"_s.arg(QString::fromLatin1(QUrl::fromLocalFile(folder).toEncoded()),
-                                                        folder.toHtmlEscaped());
+    const QString address = QString::fromLatin1(QUrl::fromLocalFile(folder).toEncoded());
+    const QString link =
+        u"<a href=\"%1\" style=\"color: %2\">%3</a>"_s.arg(address, Palette::link.name(), folder.toHtmlEscaped());
     return formatText(localized(u"运行日志：%@"_s), {link});
 }
 
@@ -86,11 +86,7 @@ void ResultPanel::setAdvice(const QString &text)
 
 void ResultPanel::addCheckBox(QWidget *checkBox)
 {
-    auto *row = new QHBoxLayout;
-    row->setContentsMargins(-checkBoxInset, 0, 0, 0);
-    row->addWidget(checkBox);
-    row->addStretch(1);
-    m_texts->insertLayout(m_texts->indexOf(m_log), row);
+    m_texts->insertWidget(m_texts->indexOf(m_log), checkBox);
 }
 
 void ResultPanel::showEvent(QShowEvent *)

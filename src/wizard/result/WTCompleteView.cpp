@@ -34,7 +34,7 @@ WTCompleteView::WTCompleteView(QWidget *parent)
     frame->content()->addWidget(m_title);
     frame->content()->addStretch(1);
     frame->setMainButton(m_complateBtn);
-    m_complateBtn->setFocus();
+    frame->setFirstFocus(m_complateBtn);
 }
 
 void WTCompleteView::awakeFromNib()

@@ -27,7 +27,7 @@ WTConfigFailedView::WTConfigFailedView(QWidget *parent)
     frame->content()->addWidget(panel);
     frame->content()->addStretch(1);
     frame->setBackButton(m_previous);
-    m_previous->setFocus();
+    frame->setFirstFocus(m_previous);
 }
 
 void WTConfigFailedView::awakeFromNib()

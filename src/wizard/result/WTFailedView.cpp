@@ -25,7 +25,7 @@ WTFailedView::WTFailedView(QWidget *parent)
     frame->content()->addWidget(m_errorMessage);
     frame->content()->addStretch(1);
     frame->setMainButton(m_complateBtn);
-    m_complateBtn->setFocus();
+    frame->setFirstFocus(m_complateBtn);
 }
 
 void WTFailedView::awakeFromNib()

@@ -25,7 +25,7 @@ WTUnconnectView::WTUnconnectView(QWidget *parent)
     frame->content()->addWidget(panel);
     frame->content()->addStretch(1);
     frame->setBackButton(m_previous);
-    m_previous->setFocus();
+    frame->setFirstFocus(m_previous);
 }
 
 void WTUnconnectView::awakeFromNib()

@@ -24,6 +24,7 @@ GuidanceView::GuidanceView(const Texts &texts, QWidget *parent)
     frame->content()->addWidget(new GuideSteps(texts.steps));
     frame->setBackButton(m_previous);
     frame->setMainButton(m_next);
+    frame->setFirstFocus(m_next);
 }
 
 void GuidanceView::awakeFromNib()

@@ -13,7 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 
-constexpr QSize pictureSize{211, 144};
+constexpr QSize pictureSize{192, 131};
 constexpr int columnGap = 32;
 
 QVBoxLayout *makeColumn(int number, const GuideStep &step)

@@ -41,9 +41,9 @@ WpsOutcomeView::WpsOutcomeView(WTHoverView *success, WTHoverView *failure, const
     frame->setHeading(texts.heading);
     frame->setInstruction(texts.instruction);
     frame->setCenteredContent(m_tiles);
+    frame->content()->addWidget(m_addPrinter, 0, Qt::AlignHCenter);
     frame->setBackButton(m_previous);
     frame->setMainButton(m_finish);
-    frame->addToBar(m_addPrinter);
 }
 
 void WpsOutcomeView::awakeFromNib()

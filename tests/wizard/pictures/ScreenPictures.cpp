@@ -75,7 +75,7 @@ int main(int argc, char **argv)
         bed.window().setContentView(screen);
         if (qobject_cast<WTInstallingView *>(screen))
             static_cast<WTInstallingView *>(screen)->setProgress(35);
-        QCoreApplication::processEvents();
+        QTest::qWait(50);
         const QString file = directory.filePath(QString::fromLatin1(screen->metaObject()->className()) + u".png"_s);
         if (!bed.window().grab().save(file))
             return 1;
