@@ -3,6 +3,7 @@
 #include "LibraryLog.h"
 #include "WTCDevice.h"
 
+#include <QtEndian>
 #include <algorithm>
 #include <exception>
 
@@ -27,6 +28,15 @@ WTCErrorCode codeOf(UsbErrorCode code)
         break;
     }
     return WTCErrorCode::TransferFailed;
+}
+
+/// How many bytes of data the printer sends behind this header, asked for or not; big-endian.
+quint16 announcedLength(const QByteArray &header)
+{
+    constexpr qsizetype offset = 6;
+    if (header.size() < offset + static_cast<qsizetype>(sizeof(quint16)))
+        return 0;
+    return qFromBigEndian<quint16>(header.constData() + offset);
 }
 
 /// A printer's device ID may have come to be known after the search had named it by its texts.
@@ -83,14 +93,12 @@ void AclExchange::run()
         fail(WTCErrorCode::TransferFailed, QString::fromUtf8(exception.what()));
     }
     const auto duration = std::chrono::duration_cast<TimePort::Duration>(m_environment.time.now() - start);
-    m_environment.log.write(
-        m_reply.error ? LibraryLog::Error : LibraryLog::Info,
-        u"sent %1 bytes to %2, header %3 bytes, data %4 bytes, %5 ms, %6"_s.arg(m_request.frame.size())
-            .arg(m_request.URI)
-            .arg(m_reply.header.value_or(QByteArray()).size())
-            .arg(m_reply.data.value_or(QByteArray()).size())
-            .arg(duration.count())
-            .arg(m_reply.error ? m_reply.error->message : u"done"_s));
+    m_environment.log.write(m_reply.error ? LibraryLog::Error : LibraryLog::Info,
+                            u"sent %1 bytes to %2, header %3 bytes, data %4 bytes, %5 ms, %6"_s.arg(
+                                QString::number(m_request.frame.size()), m_request.URI,
+                                QString::number(m_reply.header.value_or(QByteArray()).size()),
+                                QString::number(m_reply.data.value_or(QByteArray()).size()),
+                                QString::number(duration.count()), m_reply.error ? m_reply.error->message : u"done"_s));
     makeDataCallback();
 }
 
@@ -143,7 +151,7 @@ void AclExchange::converse(UsbConnection &connection, DeviceTurns::Turn &turn)
         if (const auto error = read(connection, dataLength, *m_reply.data))
             return failOnBus(*error);
     }
-    turn.inputIsStale = false;
+    turn.inputIsStale = dataLength < announcedLength(*m_reply.header);
 }
 
 bool AclExchange::readHeader(UsbConnection &connection)
