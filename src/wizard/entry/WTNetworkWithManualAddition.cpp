@@ -64,7 +64,12 @@ void WTNetworkWithManualAddition::layOut()
 
     m_ssidView->setHelp(localized(u"与路由器上显示的名称完全一致，区分大小写。"_s));
     m_passwordView->setHelp(localized(u"没有密码的网络请留空。"_s));
-    m_passwordView->addBelow(new PasswordStrengthView(m_passwordTextField));
+    auto *below = new QWidget;
+    auto *strengthAndSwitch = new QHBoxLayout(below);
+    strengthAndSwitch->setContentsMargins(0, 0, 0, 0);
+    strengthAndSwitch->addWidget(new PasswordStrengthView(m_passwordTextField), 1);
+    strengthAndSwitch->addWidget(m_showPwdBtn);
+    m_passwordView->addBelow(below);
     m_showPwdBtn->setTitle(localized(u"显示密码"_s));
     m_nextBtn->setTitle(localized(u"下一步"_s));
     m_previousBtn->setTitle(localized(u"上一步"_s));
@@ -76,10 +81,8 @@ void WTNetworkWithManualAddition::layOut()
     auto *form = new QVBoxLayout;
     form->setSpacing(0);
     form->addWidget(m_ssidView);
-    form->addSpacing(24);
-    form->addWidget(m_passwordView);
     form->addSpacing(16);
-    form->addWidget(m_showPwdBtn, 0, Qt::AlignLeft);
+    form->addWidget(m_passwordView);
     form->addStretch(1);
     m_ssidView->setMaximumWidth(formWidth);
     m_passwordView->setMaximumWidth(formWidth);

@@ -49,6 +49,8 @@ void WTInstallingView::layOut()
     m_progressView->setObjectName(u"progressView"_s);
     m_progressView->setAccessibleName(localized(u"配置进度"_s));
     m_progressLabel->setObjectName(u"progressLabel"_s);
+    m_network->setAlignment(Qt::AlignHCenter);
+    m_progressLabel->setAlignment(Qt::AlignHCenter);
 
     QVBoxLayout *content = frame->content();
     content->addStretch(2);
