@@ -1,8 +1,8 @@
 #include "PrinterPassword.h"
 
-#include "showAlert.h"
 #include "Localized.h"
 #include "Log.h"
+#include "showAlert.h"
 
 using namespace Qt::Literals::StringLiterals;
 

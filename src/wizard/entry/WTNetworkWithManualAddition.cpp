@@ -1,6 +1,5 @@
 #include "WTNetworkWithManualAddition.h"
 
-#include "showAlert.h"
 #include "ButtonSchemes.h"
 #include "FieldFrame.h"
 #include "KSPasswordField.h"
@@ -18,6 +17,7 @@
 #include "WTInstallingView.h"
 #include "WTManager.h"
 #include "WTTextfield.h"
+#include "showAlert.h"
 
 #include <QPointer>
 #include <QVBoxLayout>
