@@ -45,7 +45,7 @@ void showAlert(QWidget *window, const Alert &alert, std::function<void(int respo
         box->setEscapeButton(button);
     }
     if (answered) {
-        QObject::connect(box, &QMessageBox::finished, window, [box, answered] {
+        QObject::connect(box, &QMessageBox::finished, window, [box, answered = std::move(answered)] {
             // No button was clicked when the window system closed the sheet: that answers like the Escape key.
             const QAbstractButton *button = box->clickedButton() ? box->clickedButton() : box->escapeButton();
             answered(alertFirstButtonReturn + int(box->buttons().indexOf(button)));
