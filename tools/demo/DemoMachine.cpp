@@ -10,8 +10,10 @@ const QString noCommand = u":"_s;
 
 } // namespace
 
-DemoMachine::DemoMachine(const PrinterScript &script)
+DemoMachine::DemoMachine(const PrinterScript &script, const DemoHost &host)
     : m_usb(m_time, PrinterModel(ModelIdentity{}, script))
+    , m_spooler(host.isPrinting)
+    , m_hostWiFi(m_time, host)
 {
 }
 
@@ -20,9 +22,9 @@ Machine DemoMachine::machine()
     return {m_usb, m_time, m_spooler, m_desktop, m_hostWiFi, HostCapabilities{.hasUnifiedLog = false}};
 }
 
-std::vector<PrintDestination> DemoMachine::IdleSpooler::destinations()
+std::vector<PrintDestination> DemoMachine::OneQueueSpooler::destinations()
 {
-    return {{.name = "Quillmark_QZ100", .printerState = "3"}};
+    return {{.name = "Quillmark_QZ100", .printerState = m_isPrinting ? "4" : "3"}};
 }
 
 QString DemoMachine::QuietDesktop::addPrinterCommandLine()

@@ -1,28 +1,35 @@
 #pragma once
 
+#include "DemoWiFi.h"
 #include "DesktopPort.h"
 #include "EmulatedUsb.h"
 #include "Machine.h"
-#include "NoHostWiFi.h"
 #include "SpoolerPort.h"
 #include "SystemTime.h"
 
-/// A computer that exists only for the demo: one emulated printer on USB, an idle spooler, no Wi-Fi of its own, and a
-/// desktop that opens nothing. Its time is real.
+/// A computer that exists only for the demo: one emulated printer on USB, the Wi-Fi and the print queue that
+/// the story says, and a desktop that opens nothing. Its time is real.
 class DemoMachine
 {
 public:
-    explicit DemoMachine(const PrinterScript &script);
+    DemoMachine(const PrinterScript &script, const DemoHost &host);
 
     Machine machine();
     /// What the printer was told so far.
     PrinterRecord printerRecord() const { return m_usb.record(); }
 
 private:
-    class IdleSpooler : public SpoolerPort
+    class OneQueueSpooler : public SpoolerPort
     {
     public:
+        explicit OneQueueSpooler(bool isPrinting)
+            : m_isPrinting(isPrinting)
+        {
+        }
         std::vector<PrintDestination> destinations() override;
+
+    private:
+        const bool m_isPrinting;
     };
 
     class QuietDesktop : public DesktopPort
@@ -36,7 +43,7 @@ private:
 
     SystemTime m_time;
     EmulatedUsb m_usb;
-    IdleSpooler m_spooler;
+    OneQueueSpooler m_spooler;
     QuietDesktop m_desktop;
-    NoHostWiFi m_hostWiFi;
+    DemoWiFi m_hostWiFi;
 };

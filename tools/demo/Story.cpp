@@ -47,6 +47,48 @@ PrinterScript refusingPrinter()
     return script;
 }
 
+/// A computer in a house with neighbours: every kind of security, a name twice, long and multi-byte names.
+DemoHost joinedComputer()
+{
+    return {.wifi = {.interfaceName = u"wlan0"_s,
+                     .poweredOn = true,
+                     .band = 2,
+                     .ssid = networkName,
+                     .rssi = -58,
+                     .security = 4},
+            .networks = {{networkName, 7, 84},
+                         {u"Neighbour with a network name of"_s, 9, 76},
+                         {networkName, 9, 71},
+                         {u"咖啡馆 ☕ Café"_s, 1, 68},
+                         {u"Office"_s, 8, 61},
+                         {u"Campus"_s, 10, 55},
+                         {u"Town hall"_s, 12, 52},
+                         {u"Library"_s, 13, 47},
+                         {u"Garden"_s, 11, 40},
+                         {u"Workshop"_s, 5, 33},
+                         {u"Cellar"_s, 3, 28},
+                         {u"Attic"_s, 4, 22},
+                         {u"Barn"_s, 6, 17},
+                         {u"Old router"_s, 2, 12},
+                         {u"Something else"_s, 0, 5}},
+            .storedPassword = password,
+            .permission = ScanPermission::Allowed};
+}
+
+DemoHost printingComputer()
+{
+    DemoHost host = joinedComputer();
+    host.isPrinting = true;
+    return host;
+}
+
+DemoHost forbiddenComputer()
+{
+    DemoHost host = joinedComputer();
+    host.permission = ScanPermission::Denied;
+    return host;
+}
+
 Visit choosingUsb(bool printerIsThere)
 {
     return {.screen = u"WTStartView"_s,
@@ -69,9 +111,37 @@ Visit watchingTheRun()
 std::vector<Story> allStories()
 {
     return {
+        {.name = u"network-list"_s,
+         .summary = u"The computer's own network is taken with its stored password, the printer joins"_s,
+         .printer = goodPrinter(),
+         .host = joinedComputer(),
+         .visits = {choosingUsb(true),
+                    {.screen = u"WTWiFiListView"_s, .acts = {click(u"btn_nextStep"_s)}},
+                    watchingTheRun(),
+                    {.screen = u"WTCompleteView"_s, .acts = {click(u"complateBtn"_s)}, .patience = 60s}},
+         .networkName = networkName.toUtf8(),
+         .password = password.toUtf8()},
+        {.name = u"busy"_s,
+         .summary = u"The printer's queue is printing, so the printer is left alone"_s,
+         .printer = goodPrinter(),
+         .host = printingComputer(),
+         .visits = {choosingUsb(true),
+                    {.screen = u"WTWiFiListView"_s, .acts = {click(u"btn_nextStep"_s), confirm, closeWindow, confirm}}},
+         .networkName = {},
+         .password = {}},
+        {.name = u"not-permitted"_s,
+         .summary = u"The program may not look for networks; the settings open and the user is back at the start"_s,
+         .printer = goodPrinter(),
+         .host = forbiddenComputer(),
+         .visits = {choosingUsb(true),
+                    {.screen = u"WTWiFiListView"_s, .acts = {confirm}},
+                    {.screen = u"WTStartView"_s, .acts = {closeWindow, confirm}}},
+         .networkName = {},
+         .password = {}},
         {.name = u"manual-entry"_s,
          .summary = u"The network is typed in, the printer joins and reports its address"_s,
          .printer = goodPrinter(),
+         .host = {},
          .visits = {choosingUsb(true),
                     enteringNetwork(),
                     watchingTheRun(),
@@ -81,6 +151,7 @@ std::vector<Story> allStories()
         {.name = u"no-printer"_s,
          .summary = u"No printer is on the bus"_s,
          .printer = absentPrinter(),
+         .host = {},
          .visits = {choosingUsb(false),
                     {.screen = u"WTUnconnectView"_s, .acts = {click(u"previous"_s)}},
                     {.screen = u"WTStartView"_s, .acts = {closeWindow, confirm}}},
@@ -89,6 +160,7 @@ std::vector<Story> allStories()
         {.name = u"refused"_s,
          .summary = u"The printer takes the network but does not join, and the user goes back"_s,
          .printer = refusingPrinter(),
+         .host = {},
          .visits = {choosingUsb(true),
                     enteringNetwork(),
                     watchingTheRun(),

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DemoHost.h"
 #include "PrinterScript.h"
 
 #include <QString>
@@ -36,6 +37,7 @@ struct Story {
     QString name;
     QString summary;
     PrinterScript printer;
+    DemoHost host;
     std::vector<Visit> visits; ///< The last act of the last one ends the program.
     /// What the printer must have been told in the end; absent: nothing.
     std::optional<QByteArray> networkName;

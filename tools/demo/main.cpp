@@ -99,7 +99,7 @@ int main(int argc, char **argv)
         return 0;
     }
     // Never destroyed: a printer command may be under way until the process ends.
-    static auto *demo = new DemoMachine(arguments.story->printer);
+    static auto *demo = new DemoMachine(arguments.story->printer, arguments.story->host);
     if (arguments.pictures.isEmpty())
         return runByHand(argc, argv, *demo);
     return runByItself(argc, argv, *demo, *arguments.story, arguments.pictures);
