@@ -8,7 +8,9 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 
+// The two kinds of network that want no password, in the library's numbering.
 constexpr qint64 openSecurity = 1;
+constexpr qint64 enhancedOpenSecurity = 13;
 
 } // namespace
 
@@ -50,7 +52,7 @@ QVariant NetworkRows::data(const QModelIndex &index, int role) const
     case SecurityRole:
         return network.authModeLabel().value_or(QString());
     case LockedRole:
-        return network.security != openSecurity;
+        return network.security != openSecurity && network.security != enhancedOpenSecurity;
     case ChosenRole:
         return index.row() == m_chosenRow;
     case ThisComputersRole:
