@@ -36,6 +36,7 @@ std::vector<QByteArray> environment(const std::vector<QByteArray> &variables)
 std::vector<char *> pointers(std::vector<QByteArray> &texts)
 {
     std::vector<char *> pointers;
+    pointers.reserve(texts.size() + 1);
     for (QByteArray &text : texts)
         pointers.push_back(text.data());
     pointers.push_back(nullptr);
@@ -52,6 +53,7 @@ void ChildProgram::holdSignals()
 std::optional<ChildProgram> ChildProgram::start(const QStringList &command, const std::vector<QByteArray> &variables)
 {
     std::vector<QByteArray> arguments;
+    arguments.reserve(std::size_t(command.size()));
     for (const QString &argument : command)
         arguments.push_back(argument.toLocal8Bit());
     std::vector<QByteArray> allVariables = environment(variables);

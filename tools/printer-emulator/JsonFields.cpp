@@ -80,7 +80,7 @@ void JsonFields::readSizes(const QString &key, std::vector<qsizetype> &target)
     const QJsonValue value = take(key);
     if (value.isUndefined())
         return;
-    for (const QJsonValue &entry : value.toArray()) {
+    for (const auto &entry : value.toArray()) {
         if (!convert(entry, target.emplace_back()))
             complain(key, u"sizes are wanted"_s);
     }
@@ -114,7 +114,7 @@ std::vector<QJsonObject> JsonFields::objects(const QString &key)
 {
     const QJsonValue value = take(key);
     std::vector<QJsonObject> objects;
-    for (const QJsonValue &entry : value.toArray()) {
+    for (const auto &entry : value.toArray()) {
         if (!entry.isObject())
             complain(key, u"objects are wanted"_s);
         objects.push_back(entry.toObject());
@@ -126,9 +126,7 @@ std::vector<QJsonObject> JsonFields::objects(const QString &key)
 
 QJsonValue JsonFields::take(const QString &key)
 {
-    const QJsonValue value = m_object.value(key);
-    m_object.remove(key);
-    return value;
+    return m_object.take(key); // Undefined when there is none.
 }
 
 void JsonFields::complain(const QString &key, const QString &what)

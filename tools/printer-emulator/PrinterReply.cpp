@@ -26,7 +26,8 @@ std::vector<qsizetype> sliceSizes(const PrinterFault &fault, qsizetype total)
     std::mt19937 random(fault.sliceSeed.value_or(0));
     while (covered < total) {
         const qsizetype rest = total - covered;
-        sizes.push_back(fault.sliceSeed ? std::min<qsizetype>(rest, 1 + random() % largestRandomSlice) : rest);
+        sizes.push_back(fault.sliceSeed ? std::min<qsizetype>(rest, 1 + qsizetype(random() % largestRandomSlice))
+                                        : rest);
         covered += sizes.back();
     }
     return sizes;

@@ -51,7 +51,7 @@ BusEvent readEvent(const QJsonObject &object, const QString &where, QStringList 
     fields.read(u"delay"_s, event.delay);
     if (const auto after = fields.object(u"after"_s)) {
         JsonFields cause(*after, where + u".after"_s, complaints);
-        event.after.emplace();
+        event.after = BusEvent::Cause{};
         cause.readCode(u"command"_s, event.after->command);
         cause.read(u"occurrence"_s, event.after->occurrence);
     }

@@ -44,7 +44,7 @@ QByteArray UsbfsSysfs::device(const ModelIdentity &identity, const UsbShape &sha
         return value.isEmpty() ? QByteArray() : "A: " + key + '=' + value + "\\n\n";
     };
     // Without an "N:" line the test bed leaves the node alone.
-    return "P: " + path().sliced(qstrlen("/sys")) + '\n' + property("SUBSYSTEM", "usb") +
+    return "P: " + path().sliced(QByteArrayView("/sys").size()) + '\n' + property("SUBSYSTEM", "usb") +
            property("DEVTYPE", "usb_device") + property("BUSNUM", "001") +
            property("DEVNUM", number.rightJustified(3, '0')) + property("DEVNAME", nodePath(deviceNumber).toUtf8()) +
            property("PRODUCT", hex(identity.vendorID, 1) + '/' + hex(identity.productID, 1) + "/100") +

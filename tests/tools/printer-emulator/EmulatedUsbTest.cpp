@@ -193,7 +193,5 @@ void EmulatedUsbTest::standsConcurrentUse()
     QTRY_COMPARE(exchange(usb, shortFrame(0xFF21)).toLatin1(), wakeUpReply.toHex());
 }
 
-Q_DECLARE_METATYPE(PrinterScript)
-
 QTEST_GUILESS_MAIN(EmulatedUsbTest)
 #include "EmulatedUsbTest.moc"

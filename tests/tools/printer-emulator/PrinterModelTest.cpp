@@ -314,8 +314,5 @@ void PrinterModelTest::reportsEventsAfterACommand()
     QCOMPARE(events.front().delay, 5ms);
 }
 
-Q_DECLARE_METATYPE(PrinterFault)
-Q_DECLARE_METATYPE(OutPlan::After)
-
 QTEST_GUILESS_MAIN(PrinterModelTest)
 #include "PrinterModelTest.moc"

@@ -420,7 +420,5 @@ void UsbfsBedTest::followsItsEvents()
     m_bed.reset();
 }
 
-Q_DECLARE_METATYPE(PrinterFault)
-
 QTEST_GUILESS_MAIN(UsbfsBedTest)
 #include "UsbfsBedTest.moc"
