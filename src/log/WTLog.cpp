@@ -1,5 +1,6 @@
 #include "WTLog.h"
 
+#include "LiteralText.h"
 #include "WTExceptionHandler.h"
 
 #include <QCoreApplication>
@@ -99,10 +100,10 @@ void WTLog::log(bool asynchronous, quint64 level, quint64 flag, qint64 context, 
 {
     if (!format)
         return;
-    const WTLogMessage::Place place{QString::fromUtf8(file), QString::fromUtf8(function), line};
-    queueLogMessage(WTLogMessage::initWithFormat(QString::fromUtf8(format), args, level, flag, context, place, tag, 0,
-                                                 std::nullopt),
-                    asynchronous);
+    const WTLogMessage::Place place{literalText(file), literalText(function), line};
+    queueLogMessage(
+        WTLogMessage::initWithFormat(literalText(format), args, level, flag, context, place, tag, 0, std::nullopt),
+        asynchronous);
 }
 
 void WTLog::log(bool asynchronous, const WTLogMessage &message)

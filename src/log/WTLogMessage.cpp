@@ -3,26 +3,85 @@
 #include "SerialQueue.h"
 
 #include <QHash>
-#include <array>
+#include <mutex>
+#include <new>
 #include <pthread.h>
 #include <unistd.h>
+#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 
-struct WTLogMessage::Fields {
+struct WTLogMessage::Fields : QSharedData {
     QString message;
     QString messageFormat;
-    quint64 level;
-    quint64 flag;
-    qint64 context;
+    quint64 level = 0;
+    quint64 flag = 0;
+    qint64 context = 0;
     Place place;
-    QString fileName;
     QVariant tag;
-    quint64 options;
+    quint64 options = 0;
     Date timestamp;
     Caller caller;
     quint32 qos = 0;
+
+    /// The last holder is gone.
+    static void operator delete(Fields *fields, std::destroying_delete_t);
 };
+
+/// Fields whose message is gone, with the memory of their text, for the next one. What the caller's thread took would
+/// otherwise be given back by the logging queue's, and each would wait in the allocator for the other. Nobody waits
+/// here: when another thread is at it, memory is taken and given back the ordinary way.
+class WTLogMessage::UnusedFields
+{
+public:
+    static UnusedFields &shared()
+    {
+        static auto *const unused = new UnusedFields;
+        return *unused;
+    }
+
+    SharedFields take()
+    {
+        const std::unique_lock lock(m_mutex, std::try_to_lock);
+        if (!lock.owns_lock() || m_fields.empty())
+            return SharedFields(new Fields);
+        Fields *const fields = m_fields.back();
+        m_fields.pop_back();
+        return SharedFields(fields);
+    }
+
+    void giveBack(Fields *fields)
+    {
+        constexpr qsizetype longestText = 512;
+        if (fields->message.capacity() > longestText)
+            fields->message = QString();
+        fields->message.resize(0);
+        fields->messageFormat = QString();
+        fields->place = {};
+        fields->tag = {};
+        fields->caller = {};
+        const std::unique_lock lock(m_mutex, std::try_to_lock);
+        if (lock.owns_lock() && m_fields.size() < most) {
+            m_fields.push_back(fields);
+            return;
+        }
+        fields->~Fields();
+        ::operator delete(fields);
+    }
+
+private:
+    static constexpr std::size_t most = 8192;
+
+    UnusedFields() { m_fields.reserve(most); }
+
+    std::mutex m_mutex;
+    std::vector<Fields *> m_fields;
+};
+
+void WTLogMessage::Fields::operator delete(Fields *fields, std::destroying_delete_t)
+{
+    UnusedFields::shared().giveBack(fields);
+}
 
 namespace
 {
@@ -48,33 +107,43 @@ WTLogMessage::Caller WTLogMessage::Caller::current()
 {
     // Asking the system costs more than all the rest of a message, and a thread has its name before it logs.
     thread_local const ThreadFacts facts;
-    const QString identifier = facts.identifier > 0 ? QString::number(facts.identifier) : u"N/A"_s;
-    return {identifier, QString::fromUtf8(facts.name.data()), SerialQueue::currentLabel()};
+    return {facts.identifier, facts.name, SerialQueue::currentLabel()};
+}
+
+WTLogMessage::SharedFields WTLogMessage::fieldsWith(const QString &format, quint64 level, quint64 flag, qint64 context,
+                                                    const Place &place, const QVariant &tag, quint64 options,
+                                                    std::optional<Date> timestamp)
+{
+    SharedFields fields = UnusedFields::shared().take();
+    fields->messageFormat = format;
+    fields->level = level;
+    fields->flag = flag;
+    fields->context = context;
+    fields->place = place;
+    fields->tag = tag;
+    fields->options = options;
+    fields->timestamp = timestamp.value_or(std::chrono::system_clock::now());
+    fields->caller = Caller::current();
+    return fields;
 }
 
 WTLogMessage WTLogMessage::initWithFormat(const QString &format, const QString &formatted, quint64 level, quint64 flag,
                                           qint64 context, const Place &place, const QVariant &tag, quint64 options,
                                           std::optional<Date> timestamp)
 {
-    return WTLogMessage(Fields{.message = formatted,
-                               .messageFormat = format,
-                               .level = level,
-                               .flag = flag,
-                               .context = context,
-                               .place = place,
-                               .fileName = fileNameOf(place.file),
-                               .tag = tag,
-                               .options = options,
-                               .timestamp = timestamp.value_or(std::chrono::system_clock::now()),
-                               .caller = Caller::current()});
+    SharedFields fields = fieldsWith(format, level, flag, context, place, tag, options, timestamp);
+    fields->message = formatted;
+    return WTLogMessage(std::move(fields));
 }
 
 WTLogMessage WTLogMessage::initWithFormat(const QString &format, std::initializer_list<FormatArgument> args,
                                           quint64 level, quint64 flag, qint64 context, const Place &place,
                                           const QVariant &tag, quint64 options, std::optional<Date> timestamp)
 {
-    return initWithFormat(format, formatText(format, args), level, flag, context, place, tag,
-                          options | WTLogMessageDontCopyMessage, timestamp);
+    SharedFields fields =
+        fieldsWith(format, level, flag, context, place, tag, options | WTLogMessageDontCopyMessage, timestamp);
+    appendFormatted(fields->message, format, args);
+    return WTLogMessage(std::move(fields));
 }
 
 WTLogMessage WTLogMessage::initWithMessage(const QString &message, quint64 level, quint64 flag, qint64 context,
@@ -84,16 +153,24 @@ WTLogMessage WTLogMessage::initWithMessage(const QString &message, quint64 level
     return initWithFormat(message, message, level, flag, context, place, tag, options, timestamp);
 }
 
-WTLogMessage::WTLogMessage(Fields fields)
-    : m_fields(std::make_shared<const Fields>(std::move(fields)))
+WTLogMessage::WTLogMessage(SharedFields fields)
+    : m_fields(std::move(fields))
 {
 }
 
+WTLogMessage::WTLogMessage(const WTLogMessage &other) = default;
+WTLogMessage::WTLogMessage(WTLogMessage &&other) noexcept = default;
+WTLogMessage &WTLogMessage::operator=(const WTLogMessage &other) = default;
+WTLogMessage &WTLogMessage::operator=(WTLogMessage &&other) noexcept = default;
+WTLogMessage::~WTLogMessage() = default;
+
 WTLogMessage WTLogMessage::spokenBy(const Caller &caller) const
 {
-    Fields fields = *m_fields;
-    fields.caller = caller;
-    return WTLogMessage(std::move(fields));
+    const Fields &ours = *m_fields;
+    WTLogMessage same = initWithFormat(ours.messageFormat, ours.message, ours.level, ours.flag, ours.context,
+                                       ours.place, ours.tag, ours.options, ours.timestamp);
+    same.m_fields->caller = caller;
+    return same;
 }
 
 const QString &WTLogMessage::message() const
@@ -126,9 +203,9 @@ const QString &WTLogMessage::file() const
     return m_fields->place.file;
 }
 
-const QString &WTLogMessage::fileName() const
+QString WTLogMessage::fileName() const
 {
-    return m_fields->fileName;
+    return fileNameOf(m_fields->place.file);
 }
 
 const QString &WTLogMessage::function() const
@@ -161,14 +238,15 @@ WTLogMessage::Date WTLogMessage::timestamp() const
     return m_fields->timestamp;
 }
 
-const QString &WTLogMessage::threadID() const
+QString WTLogMessage::threadID() const
 {
-    return m_fields->caller.threadID;
+    const qint64 identifier = m_fields->caller.systemThread;
+    return identifier > 0 ? QString::number(identifier) : u"N/A"_s;
 }
 
-const QString &WTLogMessage::threadName() const
+QString WTLogMessage::threadName() const
 {
-    return m_fields->caller.threadName;
+    return QString::fromUtf8(m_fields->caller.threadName.data());
 }
 
 const QString &WTLogMessage::queueLabel() const
@@ -188,9 +266,9 @@ bool WTLogMessage::isEqual(const WTLogMessage &other) const
     const Fields &ours = *m_fields;
     const Fields &theirs = *other.m_fields;
     return ours.message == theirs.message && ours.level == theirs.level && ours.flag == theirs.flag &&
-           ours.context == theirs.context && ours.place == theirs.place && ours.fileName == theirs.fileName &&
-           ours.tag == theirs.tag && ours.options == theirs.options && ours.timestamp == theirs.timestamp &&
-           ours.caller == theirs.caller && ours.qos == theirs.qos;
+           ours.context == theirs.context && ours.place == theirs.place && ours.tag == theirs.tag &&
+           ours.options == theirs.options && ours.timestamp == theirs.timestamp && ours.caller == theirs.caller &&
+           ours.qos == theirs.qos;
 }
 
 size_t WTLogMessage::hash() const
@@ -198,7 +276,7 @@ size_t WTLogMessage::hash() const
     const Fields &fields = *m_fields;
     const auto time = fields.timestamp.time_since_epoch().count();
     return qHash(fields.message) ^ fields.level ^ fields.flag ^ static_cast<size_t>(fields.context) ^
-           qHash(fields.place.file) ^ qHash(fields.fileName) ^ qHash(fields.place.function) ^ fields.place.line ^
-           qHash(fields.tag.toString()) ^ fields.options ^ static_cast<size_t>(time) ^ qHash(fields.caller.threadID) ^
-           qHash(fields.caller.threadName) ^ qHash(fields.caller.queueLabel) ^ fields.qos;
+           qHash(fields.place.file) ^ qHash(fields.place.function) ^ fields.place.line ^ qHash(fields.tag.toString()) ^
+           fields.options ^ static_cast<size_t>(time) ^ qHash(threadID()) ^ qHash(threadName()) ^
+           qHash(fields.caller.queueLabel) ^ fields.qos;
 }

@@ -3,10 +3,11 @@
 #include "TextFormat.h"
 #include "WTLogFlag.h"
 
+#include <QExplicitlySharedDataPointer>
 #include <QString>
 #include <QVariant>
+#include <array>
 #include <chrono>
-#include <memory>
 #include <optional>
 
 /// One line of the log, immutable once made; copies share it. Made on the thread that logs, whose facts it keeps; read
@@ -26,10 +27,10 @@ public:
 
     /// The thread that logs.
     struct Caller {
-        /// The system's thread id as a decimal number, "N/A" when it cannot be read.
-        QString threadID;
-        /// As it was when the thread first logged.
-        QString threadName;
+        /// 0 when it cannot be read.
+        qint64 systemThread = 0;
+        /// As it was when the thread first logged; UTF-8 up to the first zero byte.
+        std::array<char, 16> threadName{};
         /// The label of the serial queue the thread runs, "main" on the main thread.
         QString queueLabel;
 
@@ -61,15 +62,16 @@ public:
     qint64 context() const;
     const QString &file() const;
     /// The last path component of `file`, without its last extension.
-    const QString &fileName() const;
+    QString fileName() const;
     const QString &function() const;
     quint64 line() const;
     const QVariant &tag() const;
     const QVariant &representedObject() const;
     quint64 options() const;
     Date timestamp() const;
-    const QString &threadID() const;
-    const QString &threadName() const;
+    /// The system's thread id as a decimal number, "N/A" when it cannot be read.
+    QString threadID() const;
+    QString threadName() const;
     const QString &queueLabel() const;
     /// The caller's quality-of-service class: 0 where the system knows none.
     quint32 qos() const;
@@ -77,10 +79,21 @@ public:
     bool isEqual(const WTLogMessage &other) const;
     size_t hash() const;
 
+    WTLogMessage(const WTLogMessage &other);
+    WTLogMessage(WTLogMessage &&other) noexcept;
+    WTLogMessage &operator=(const WTLogMessage &other);
+    WTLogMessage &operator=(WTLogMessage &&other) noexcept;
+    ~WTLogMessage();
+
 private:
     struct Fields;
+    class UnusedFields;
+    using SharedFields = QExplicitlySharedDataPointer<Fields>;
 
-    explicit WTLogMessage(Fields fields);
+    explicit WTLogMessage(SharedFields fields);
+    static SharedFields fieldsWith(const QString &format, quint64 level, quint64 flag, qint64 context,
+                                   const Place &place, const QVariant &tag, quint64 options,
+                                   std::optional<Date> timestamp);
 
-    std::shared_ptr<const Fields> m_fields;
+    SharedFields m_fields;
 };

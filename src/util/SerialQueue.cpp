@@ -4,10 +4,12 @@
 #include <condition_variable>
 #include <deque>
 #include <mutex>
+#include <optional>
 #include <pthread.h>
 #include <thread>
 #include <unistd.h>
 #include <utility>
+#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -29,26 +31,64 @@ void DispatchGroup::wait()
         m_count.wait(count, std::memory_order_acquire);
 }
 
-/// Shared by the queue and its thread, so that the thread can outlive a queue that was destroyed on itself.
-struct SerialQueue::State {
+namespace
+{
+
+/// Jobs in their order. Grows by blocks and moves nothing, so that a caller never pays for the length of the queue, and
+/// keeps a block when it is emptied, so that a queue in ordinary use takes no memory.
+class Batch
+{
+public:
+    bool isEmpty() const { return m_blocks.empty() || m_blocks.front().empty(); }
+
+    void append(Job &&job, DispatchGroup *group)
+    {
+        constexpr std::size_t blockSize = 128;
+        if (m_blocks.empty() || m_blocks.back().size() == blockSize)
+            m_blocks.emplace_back().reserve(blockSize);
+        m_blocks.back().emplace_back(std::move(job), group);
+    }
+
+    void run()
+    {
+        for (Block &block : m_blocks) {
+            for (Entry &entry : block) {
+                (*entry.job)();
+                entry.job.reset();
+                if (entry.group)
+                    entry.group->leave();
+            }
+        }
+        m_blocks.resize(1);
+        m_blocks.front().clear();
+    }
+
+private:
     struct Entry {
-        Job job;
+        std::optional<Job> job;
         DispatchGroup *group;
     };
-    /// Grows without moving what it holds: a caller never pays for the length of the queue.
-    using Batch = std::deque<Entry>;
+    using Block = std::vector<Entry>;
+
+    std::deque<Block> m_blocks;
+};
+
+} // namespace
+
+/// Shared by the queue and its thread, so that the thread can outlive a queue that was destroyed on itself.
+struct SerialQueue::State {
 
     explicit State(const QString &name)
         : label(name)
     {
     }
 
-    void submit(Entry entry);
+    void submit(Job &&job, DispatchGroup *group);
     void run();
     bool takeBatch(Batch &batch);
     bool beginVisit();
     void endVisit();
-    void runVisit(const Job &job);
+    void runVisit(const std::function<void()> &job);
 
     const QString label;
     std::thread thread;
@@ -90,12 +130,12 @@ void nameThread(const QString &label)
 
 } // namespace
 
-void SerialQueue::State::submit(Entry entry)
+void SerialQueue::State::submit(Job &&job, DispatchGroup *group)
 {
     bool isToBeWoken = false;
     {
         const std::lock_guard lock(mutex);
-        waiting.push_back(std::move(entry));
+        waiting.append(std::move(job), group);
         isToBeWoken = !isRunning && std::exchange(isAsleep, false);
     }
     if (isToBeWoken)
@@ -108,21 +148,21 @@ bool SerialQueue::State::takeBatch(Batch &batch)
     std::unique_lock lock(mutex);
     if (visitor == 0)
         isRunning = false;
-    while (isRunning || (waiting.empty() && !isEnding)) {
+    while (isRunning || (waiting.isEmpty() && !isEnding)) {
         isAsleep = true;
         wake.wait(lock);
     }
     isAsleep = false;
     isRunning = true;
-    waiting.swap(batch);
-    return !batch.empty();
+    std::swap(waiting, batch);
+    return !batch.isEmpty();
 }
 
 /// Makes the calling thread the one that runs the queue's jobs, if there is none to run before its own.
 bool SerialQueue::State::beginVisit()
 {
     const std::lock_guard lock(mutex);
-    if (isRunning || !waiting.empty())
+    if (isRunning || !waiting.isEmpty())
         return false;
     isRunning = true;
     visitor = currentSystemThread();
@@ -136,13 +176,13 @@ void SerialQueue::State::endVisit()
         const std::lock_guard lock(mutex);
         isRunning = false;
         visitor = 0;
-        isToBeWoken = (!waiting.empty() || isEnding) && std::exchange(isAsleep, false);
+        isToBeWoken = (!waiting.isEmpty() || isEnding) && std::exchange(isAsleep, false);
     }
     if (isToBeWoken)
         wake.notify_one();
 }
 
-void SerialQueue::State::runVisit(const Job &job)
+void SerialQueue::State::runVisit(const std::function<void()> &job)
 {
     const Current before = std::exchange(current, {this, &label});
     const auto leave = qScopeGuard([&] {
@@ -158,15 +198,8 @@ void SerialQueue::State::run()
     ownThread = currentSystemThread();
     nameThread(label);
     Batch batch;
-    while (takeBatch(batch)) {
-        for (Entry &entry : batch) {
-            entry.job();
-            entry.job = nullptr;
-            if (entry.group)
-                entry.group->leave();
-        }
-        batch.clear();
-    }
+    while (takeBatch(batch))
+        batch.run();
 }
 
 SerialQueue::SerialQueue(const QString &label)
@@ -195,16 +228,16 @@ QString SerialQueue::label() const
 
 void SerialQueue::async(Job job)
 {
-    m_state->submit({std::move(job), nullptr});
+    m_state->submit(std::move(job), nullptr);
 }
 
 void SerialQueue::async(DispatchGroup &group, Job job)
 {
     group.enter();
-    m_state->submit({std::move(job), &group});
+    m_state->submit(std::move(job), &group);
 }
 
-void SerialQueue::sync(const Job &job)
+void SerialQueue::sync(const std::function<void()> &job)
 {
     Q_ASSERT_X(!isCurrent(), "SerialQueue::sync", "a queue cannot wait for itself");
     DispatchGroup done;
@@ -212,7 +245,7 @@ void SerialQueue::sync(const Job &job)
     done.wait();
 }
 
-void SerialQueue::visit(const Job &job)
+void SerialQueue::visit(const std::function<void()> &job)
 {
     // The job may destroy this queue.
     const std::shared_ptr<State> state = m_state;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Job.h"
+
 #include <QString>
 #include <atomic>
 #include <functional>
@@ -25,8 +27,6 @@ private:
 class SerialQueue
 {
 public:
-    using Job = std::function<void()>;
-
     explicit SerialQueue(const QString &label = {});
     ~SerialQueue();
     SerialQueue(const SerialQueue &) = delete;
@@ -37,10 +37,10 @@ public:
     /// The same, as part of a group: entered now, left when the job has run.
     void async(DispatchGroup &group, Job job);
     /// Blocks until `job` has run. Must not be called on the queue itself.
-    void sync(const Job &job);
+    void sync(const std::function<void()> &job);
     /// The same, but an idle queue lends itself to the calling thread, which then runs the job without a change of
     /// threads.
-    void visit(const Job &job);
+    void visit(const std::function<void()> &job);
     bool isCurrent() const;
     /// Whether the thread with this system identifier (gettid) is the queue's own, or runs a job of the queue.
     bool runsOnThread(qint64 systemThread) const;

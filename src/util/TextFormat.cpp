@@ -1,5 +1,10 @@
 #include "TextFormat.h"
 
+#include <QVarLengthArray>
+#include <algorithm>
+#include <array>
+#include <charconv>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace
@@ -30,6 +35,22 @@ Placeholder readPlaceholder(QStringView format, qsizetype &position)
     return found;
 }
 
+bool isConversion(char16_t letter)
+{
+    switch (letter) {
+    case u'@':
+    case u's':
+    case u'd':
+    case u'i':
+    case u'u':
+    case u'x':
+    case u'X':
+        return true;
+    default:
+        return false;
+    }
+}
+
 /// A negative number in an unsigned conversion shows the bits of the width that the length modifier names.
 quint64 unsignedBits(const Placeholder &placeholder, qint64 number)
 {
@@ -38,20 +59,49 @@ quint64 unsignedBits(const Placeholder &placeholder, qint64 number)
     return placeholder.shorts > 0 ? static_cast<quint16>(number) : static_cast<quint32>(number);
 }
 
-QString convert(const Placeholder &placeholder, const FormatArgument &argument)
+using Line = QVarLengthArray<QChar, 256>;
+
+void appendPadded(Line &line, const Placeholder &placeholder, QStringView text)
 {
-    if (!argument.isNumber())
-        return argument.text();
+    for (qsizetype length = text.size(); length < placeholder.width; ++length)
+        line.append(placeholder.zeroFilled ? u'0' : u' ');
+    line.append(text.data(), text.size());
+}
+
+void appendNumber(Line &line, const Placeholder &placeholder, const FormatArgument &argument)
+{
+    constexpr std::size_t longestNumber = 20;
+    std::array<char, longestNumber> latin;
+    char *const first = latin.data();
+    char *const last = first + latin.size();
+    const quint64 bits = unsignedBits(placeholder, argument.number());
+    char *end = first;
     switch (placeholder.conversion) {
     case u'u':
-        return QString::number(unsignedBits(placeholder, argument.number()));
+        end = std::to_chars(first, last, bits).ptr;
+        break;
     case u'x':
-        return QString::number(unsignedBits(placeholder, argument.number()), 16);
     case u'X':
-        return QString::number(unsignedBits(placeholder, argument.number()), 16).toUpper();
+        end = std::to_chars(first, last, bits, 16).ptr;
+        break;
     default:
-        return argument.text();
+        end = argument.isNegative() ? std::to_chars(first, last, argument.number()).ptr
+                                    : std::to_chars(first, last, static_cast<quint64>(argument.number())).ptr;
     }
+    std::array<char16_t, longestNumber> digits;
+    const bool isUpperCase = placeholder.conversion == u'X';
+    char16_t *const lastDigit = std::transform(first, end, digits.data(), [&](char digit) {
+        return static_cast<char16_t>(isUpperCase && digit >= 'a' ? digit - 'a' + 'A' : digit);
+    });
+    appendPadded(line, placeholder, QStringView(digits.data(), lastDigit));
+}
+
+void appendArgument(Line &line, const Placeholder &placeholder, const FormatArgument &argument)
+{
+    if (argument.isNumber())
+        appendNumber(line, placeholder, argument);
+    else
+        appendPadded(line, placeholder, argument.view());
 }
 
 } // namespace
@@ -90,6 +140,19 @@ QString FormatArgument::text() const
     return u"(null)"_s;
 }
 
+QStringView FormatArgument::view() const
+{
+    if (const auto *text = std::get_if<QString>(&m_value))
+        return *text;
+    return isNumber() ? QStringView() : QStringView(u"(null)");
+}
+
+bool FormatArgument::isNegative() const
+{
+    const auto *number = std::get_if<qint64>(&m_value);
+    return number && *number < 0;
+}
+
 bool FormatArgument::isNumber() const
 {
     return std::holds_alternative<qint64>(m_value) || std::holds_alternative<quint64>(m_value);
@@ -106,35 +169,34 @@ qint64 FormatArgument::number() const
 
 QString formatText(QStringView format, std::initializer_list<FormatArgument> arguments)
 {
-    QString result;
-    result.reserve(format.size() + 64);
+    QString text;
+    appendFormatted(text, format, arguments);
+    return text;
+}
+
+void appendFormatted(QString &text, QStringView format, std::initializer_list<FormatArgument> arguments)
+{
+    static const FormatArgument absent(std::nullopt);
+    Line line;
     const FormatArgument *argument = arguments.begin();
-    qsizetype position = 0;
-    while (position < format.size()) {
-        const qsizetype percent = format.indexOf(u'%', position);
-        if (percent < 0)
+    for (qsizetype position = 0; position < format.size();) {
+        const auto *const start = format.begin() + position;
+        const auto *const percent = std::find(start, format.end(), u'%');
+        line.append(start, percent - start);
+        position = percent - format.begin();
+        if (percent == format.end())
             break;
-        result += format.sliced(position, percent - position);
-        position = percent + 1;
-        const Placeholder placeholder = readPlaceholder(format, position);
+        const Placeholder placeholder = readPlaceholder(format, ++position);
         if (placeholder.conversion == u'%') {
-            result += u'%';
-            continue;
-        }
-        if (QStringView(u"@sdiuxX").indexOf(QChar(placeholder.conversion)) < 0) {
+            line.append(u'%');
+        } else if (isConversion(placeholder.conversion)) {
+            appendArgument(line, placeholder, argument == arguments.end() ? absent : *argument++);
+        } else {
             position = qMin(position, format.size());
-            result += format.sliced(percent, position - percent);
-            continue;
+            line.append(percent, format.begin() + position - percent);
         }
-        const QString text =
-            argument == arguments.end() ? FormatArgument(std::nullopt).text() : convert(placeholder, *argument++);
-        for (qsizetype length = text.size(); length < placeholder.width; ++length)
-            result += placeholder.zeroFilled ? u'0' : u' ';
-        result += text;
     }
-    if (position < format.size())
-        result += format.sliced(position);
-    return result;
+    text.append(line.constData(), line.size());
 }
 
 QString describeBytes(const QByteArray &bytes)

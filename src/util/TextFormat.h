@@ -31,7 +31,10 @@ public:
     }
 
     QString text() const;
+    /// The text, "(null)" when it is absent; empty for a number. Refers to the argument.
+    QStringView view() const;
     bool isNumber() const;
+    bool isNegative() const;
     /// The number, an unsigned one beyond the signed range as its bits; 0 for anything else.
     qint64 number() const;
 
@@ -45,6 +48,8 @@ private:
 /// (`%6@`); `%s` as `%@`; `%%` a per cent sign. A placeholder without an argument prints as "(null)", a text in a
 /// numeric placeholder as itself, and anything else after a per cent sign stays as it stands.
 QString formatText(QStringView format, std::initializer_list<FormatArgument> arguments);
+/// The same, at the end of `text`.
+void appendFormatted(QString &text, QStringView format, std::initializer_list<FormatArgument> arguments);
 
 template <typename... Arguments>
 QString formatText(const char *utf8Format, const Arguments &...arguments)

@@ -49,8 +49,7 @@ void writeReport(const Crash &crash)
     const WTLogMessage::Place place{u"WTExceptionHandler"_s, u"void HandleException(NSException *__strong)"_s, 141};
     const auto message = WTLogMessage::initWithFormat(u"崩溃信息：%@"_s, {report}, WTLogLevelAll, WTLogFlagError, 0,
                                                       place, {}, 0, std::nullopt);
-    const WTLogMessage::Caller caller{QString::number(crash.systemThread), QString::fromUtf8(crash.threadName.data()),
-                                      crash.queueLabel};
+    const WTLogMessage::Caller caller{crash.systemThread, crash.threadName, crash.queueLabel};
     WTLog::deliverForStoppedThread(message.spokenBy(caller), crash.systemThread);
 }
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "SerialQueue.h"
+#include "Job.h"
 
 /// Work that needs no order among itself and no thread of its own.
 namespace GlobalQueue
 {
 
 /// Queues `job` on one of a few shared threads and returns. Any thread.
-void async(SerialQueue::Job job);
+void async(Job job);
 
 } // namespace GlobalQueue

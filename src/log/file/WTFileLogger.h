@@ -79,7 +79,7 @@ private:
     void lt_maybeRollLogFileDueToAge();
     void lt_scheduleTimerToRollLogFileDueToAge();
     void lt_closeLogFile();
-    void complete(SerialQueue::Job job) const;
+    void complete(CompletionBlock job) const;
     /// An action for the logger's queue that dies with the logger.
     DescriptorSource::Action weakAction(void (WTFileLogger::*action)());
 

@@ -157,7 +157,7 @@ void WTFileLogger::lt_closeLogFile()
         LogConsole::report("WTFileLogger: Failed to close file: %@", error.description());
 }
 
-void WTFileLogger::complete(SerialQueue::Job job) const
+void WTFileLogger::complete(CompletionBlock job) const
 {
     if (m_completionQueue)
         m_completionQueue->async(std::move(job));

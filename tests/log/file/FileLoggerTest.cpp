@@ -6,8 +6,8 @@
 
 #include <QFile>
 #include <QRegularExpression>
-#include <QSemaphore>
 #include <QTest>
+#include <future>
 #include <sys/stat.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -297,14 +297,9 @@ private Q_SLOTS:
         const auto logger =
             std::make_shared<WTFileLogger>(std::make_shared<WTLogFileManagerDefault>(bed.folder()), completion);
         logTo(logger, u"one"_s);
-        QSemaphore done;
-        QString label;
-        logger->rollLogFileWithCompletionBlock([&] {
-            label = SerialQueue::currentLabel();
-            done.release();
-        });
-        QVERIFY(done.tryAcquire(1, 5000));
-        QCOMPARE(label, u"completion"_s);
+        std::promise<QString> label;
+        logger->rollLogFileWithCompletionBlock([&] { label.set_value(SerialQueue::currentLabel()); });
+        QCOMPARE(label.get_future().get(), u"completion"_s);
         QCOMPARE(bed.names().size(), 1);
         logTo(logger, u"two"_s);
         QCOMPARE(bed.names().size(), 2);

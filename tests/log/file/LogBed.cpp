@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -57,7 +58,14 @@ QStringList LogBed::lines() const
 QString LogBed::console() const
 {
     QFile file(m_home.filePath(u"console"_s));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    QString text = file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    // What an earlier bed's manager says while it prunes in the background.
+    static const QRegularExpression linesWithPath(u"^.*/Logs/test/.*\n"_s, QRegularExpression::MultilineOption);
+    for (const QRegularExpressionMatch &line : linesWithPath.globalMatch(text)) {
+        if (!line.captured().contains(home()))
+            text.remove(line.captured());
+    }
+    return text;
 }
 
 uint permissionsOf(const QString &path)
