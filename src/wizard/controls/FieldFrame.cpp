@@ -54,6 +54,9 @@ void FieldFrame::setHelp(const QString &text)
 
 void FieldFrame::setError(const QString &text)
 {
+    // Screens tell it at every keystroke; a screen reader hears it once.
+    if (m_error == text)
+        return;
     m_error = text;
     showNote();
     if (m_error.isEmpty())

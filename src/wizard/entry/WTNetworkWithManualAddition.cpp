@@ -171,7 +171,7 @@ void WTNetworkWithManualAddition::updateBtnNextStepState()
 {
     const QString name = m_ssidTextField->text();
     m_nextBtn->setDisable(!m_model.canGoNext(name));
-    m_ssidView->setError(m_model.isNameTooLong(name) ? localized(u"名称太长：最多 32 个字节。"_s) : QString());
+    m_ssidView->setError(m_model.nameError(name));
     const bool tooLong = PrinterPassword::isTooLong(m_passwordTextField->text());
     m_passwordView->setError(tooLong ? PrinterPassword::limitText() : QString());
 }

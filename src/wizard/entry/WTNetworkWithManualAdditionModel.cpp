@@ -1,5 +1,6 @@
 #include "WTNetworkWithManualAdditionModel.h"
 
+#include "Localized.h"
 #include "PrinterPassword.h"
 #include "cutText.h"
 
@@ -35,6 +36,11 @@ bool WTNetworkWithManualAdditionModel::isVailePassword(const QString &password)
 bool WTNetworkWithManualAdditionModel::isNameTooLong(const QString &name)
 {
     return name.toUtf8().size() > maximumNameBytes;
+}
+
+QString WTNetworkWithManualAdditionModel::nameError(const QString &name)
+{
+    return isNameTooLong(name) ? localized(u"名称太长：最多 32 个字节。"_s) : QString();
 }
 
 bool WTNetworkWithManualAdditionModel::canGoNext(const QString &name)

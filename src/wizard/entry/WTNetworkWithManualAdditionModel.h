@@ -26,6 +26,8 @@ public:
     static bool isVailePassword(const QString &password);
 
     static bool isNameTooLong(const QString &name);
+    /// The limit, in the interface language, where a name is over it; else empty.
+    static QString nameError(const QString &name);
     static bool canGoNext(const QString &name);
     static Next next(const QString &name, const QString &password);
     /// The network to configure; its security stays 0, whatever the real one uses.

@@ -1,6 +1,5 @@
 #include "WTWiFiListView.h"
 
-#include "showAlert.h"
 #include "ButtonSchemes.h"
 #include "DesktopPort.h"
 #include "FieldFrame.h"
@@ -21,9 +20,11 @@
 #include "WTListView.h"
 #include "WTLocationPermissionChecker.h"
 #include "WTManager.h"
+#include "WTNetworkWithManualAdditionModel.h"
 #include "WTTextfield.h"
 #include "WTWiFiListViewModel.h"
 #include "WTWindow.h"
+#include "showAlert.h"
 
 #include <QEventLoop>
 #include <QLabel>
@@ -269,8 +270,10 @@ void WTWiFiListView::updateTextfieldSSIDAndPWD()
 
 void WTWiFiListView::updateBtnNextStepState()
 {
+    const QString name = m_ssidTextField->text();
     const QString password = m_passwordTextField->text();
-    m_nextBtn->setDisable(!viewModel()->canGoNext(m_ssidTextField->text(), password));
+    m_nextBtn->setDisable(!viewModel()->canGoNext(name, password));
+    m_ssidView->setError(WTNetworkWithManualAdditionModel::nameError(name));
     m_passwordView->setError(PrinterPassword::isTooLong(password) ? PrinterPassword::limitText() : QString());
 }
 
