@@ -72,7 +72,11 @@ void WTApp::fetchWIFIPWD()
     if (selectedAuthMode == 0)
         return;
     logInfo("🏷");
-    pwdBySSID(selectedSSID, [](const QString &password) { shared().selectedPassword = password; });
+    pwdBySSID(selectedSSID, [asked = selectedSSID](const QString &password) {
+        // The host's user may have been asked first: meanwhile another network can have been selected.
+        if (shared().selectedSSID == asked)
+            shared().selectedPassword = password;
+    });
 }
 
 void WTApp::pwdBySSID(const std::optional<QString> &ssid, PasswordCallback callBack)
@@ -86,7 +90,7 @@ void WTApp::pwdBySSID(const std::optional<QString> &ssid, PasswordCallback callB
         shared().hostWiFi().storedPassword(account, [callBack, account](SecretStatus status, const QString &password) {
             onMainThread([callBack, account, status, password] {
                 logSecretFailure(status);
-                if (status == SecretStatus::Success)
+                if (status == SecretStatus::Success && shared().selectedSSID == account)
                     shared().selectedPassword = password;
                 callBack(status == SecretStatus::Success ? password : QString());
                 Q_EMIT shared().storedPasswordArrived(account);

@@ -72,7 +72,7 @@ int walkingProcess(int argc, char **argv)
     const QString way = QString::fromLocal8Bit(argv[2]);
     PrinterScript noPrinter;
     noPrinter.plugged = false;
-    static auto *demo = new DemoMachine(noPrinter);
+    static auto *demo = new DemoMachine(noPrinter, {});
     Machine machine = demo->machine();
     machine.capabilities.hasUnifiedLog = way == u"confirm"_s;
     return wt_main(argc, argv, machine, [&](WTWindow &window) {

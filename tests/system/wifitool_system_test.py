@@ -5,6 +5,7 @@ the printer received. Needs an X display and a session bus of its own.
 usage: wifitool_system_test.py PRINTER-EMULATOR WIFITOOL TEXT-TABLE
 """
 
+import base64
 import os
 import pathlib
 import subprocess
@@ -12,7 +13,9 @@ import sys
 import tempfile
 
 import printer_frames as frames
+import secret_search
 from cases import Cases
+from journal_stub import JournalStub
 from wizard_window import WizardWindow, read_texts, wait_for
 
 ACCESSIBILITY_BUS = "/usr/libexec/at-spi-bus-launcher"
@@ -24,7 +27,7 @@ RUN_TIME = 60
 class Session:
     """One run of the program, with a home and a printer of its own."""
 
-    def __init__(self, emulator, program, texts, model):
+    def __init__(self, emulator, program, texts, model, journal):
         self._folder = tempfile.TemporaryDirectory()
         self._frames = pathlib.Path(self._folder.name, "frames")
         environment = dict(
@@ -37,7 +40,10 @@ class Session:
             DBUS_SYSTEM_BUS_ADDRESS=f"unix:path={self._folder.name}/no-bus",
         )
         command = [emulator, "--usbfs", "--model", model, "--frames", self._frames, "--", program]
-        self._process = subprocess.Popen(command, env=environment)
+        self._journal = journal
+        self._errors = pathlib.Path(self._folder.name, "stderr")
+        with self._errors.open("wb") as errors:
+            self._process = subprocess.Popen(command, env=environment, stderr=errors)
         self.window = WizardWindow(texts)
 
     def __enter__(self):
@@ -52,6 +58,11 @@ class Session:
     def log(self):
         files = pathlib.Path(self._folder.name, "Logs", "wifitool").glob("com.*.log")
         return "".join(file.read_text() for file in files)
+
+    def written(self):
+        """All bytes that the program has written anywhere, but for the frames that the printer got."""
+        files = [file for file in pathlib.Path(self._folder.name).rglob("*") if file.is_file() and file != self._frames]
+        return {**{file.name: file.read_bytes() for file in files}, "journal": self._journal.received()}
 
     def frames(self):
         return [bytes.fromhex(line) for line in self._frames.read_text().split()] if self._frames.exists() else []
@@ -68,7 +79,11 @@ class Session:
         self.window.press("完成并退出")
         status = self._process.wait(10)
         assert status == 0, f"exit status {status}"
-        assert PASSWORD not in self.log(), "the password is in the log"
+        written = self.written()
+        assert b"next step" in written["journal"] or not self._journal.is_there, "the journal got nothing"
+        assert any(name.startswith("com.") for name in written) and "WTCore-WiFiTool.log" in written, sorted(written)
+        shown = secret_search.find(PASSWORD, written)
+        assert not shown, f"the password is in {shown}"
 
 
 def expect(received, *expected):
@@ -108,16 +123,23 @@ def information_page(start, model, page):
         session.window.press("确定")
 
 
+def password_search_finds():
+    for shown in (PASSWORD.encode(), PASSWORD.encode().hex().encode(), base64.b64encode(b"x" + PASSWORD.encode() + b"y")):
+        assert secret_search.find(PASSWORD, {"log": b"before " + shown + b" after", "other": b""}) == ["log"], shown
+
+
 def main():
     emulator, program, table = sys.argv[1:]
     texts = read_texts(table)
     accessibility_bus = subprocess.Popen([ACCESSIBILITY_BUS, "--launch-immediately"])
     cases = Cases()
+    journal = JournalStub()
 
     def start(model):
-        return Session(emulator, program, texts, model)
+        return Session(emulator, program, texts, model, journal)
 
     try:
+        cases.run("the search for the password finds it", password_search_finds)
         cases.run("run: Wi-Fi support known", run_with_known_support, start)
         cases.run("run: Wi-Fi support unknown", run_with_unknown_support, start)
         cases.run("information page: plain dialect", information_page, start, "QZ100", frames.information_page())

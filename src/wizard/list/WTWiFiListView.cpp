@@ -28,6 +28,7 @@
 
 #include <QEventLoop>
 #include <QLabel>
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -241,9 +242,13 @@ void WTWiFiListView::tableView(int shouldSelectRow)
 
 void WTWiFiListView::storedPasswordArrived(const QString &ssid)
 {
-    viewModel()->putJoinedNetworkFirst();
-    reloadTable();
     const auto &list = viewModel()->list_WIFI();
+    const WTWiFiPtr chosen = std::size_t(m_selectRow) < list.size() ? list[std::size_t(m_selectRow)] : nullptr;
+    viewModel()->putJoinedNetworkFirst();
+    // A chosen row stays with its network; the first row stays the first.
+    if (m_selectRow != 0 && chosen)
+        m_selectRow = int(std::find(list.begin(), list.end(), chosen) - list.begin());
+    reloadTable();
     const bool isFirst = !list.empty() && list.front()->SSID == ssid && WTApp::shared().selectedSSID == ssid;
     if (!isFirst || m_selectRow != 0 || m_editedSSID || m_passwordTyped)
         return;
