@@ -1,6 +1,6 @@
+#include "NetworkManagerWiFi.h"
 #include "AccessPointSecurity.h"
 #include "MockNetworkManager.h"
-#include "NetworkManagerWiFi.h"
 #include "SystemTime.h"
 
 #include <QJsonObject>
