@@ -4,7 +4,7 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 
-demo=build/release/bin/wifitool-demo
+demo=build/debug/bin/wifitool-demo
 if [ $# -gt 0 ] || [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
   exec "$demo" "$@"
 fi
