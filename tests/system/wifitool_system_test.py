@@ -24,7 +24,7 @@ PASSWORD = "seven-grey-geese"
 RUN_TIME = 60
 
 
-class Session:
+class ProgramRun:
     """One run of the program, with a home and a printer of its own."""
 
     def __init__(self, emulator, program, texts, model, journal):
@@ -93,20 +93,20 @@ def expect(received, *expected):
 
 
 def run_with_known_support(start):
-    with start("QZ100") as session:
-        session.enter_network()
-        session.finish()
+    with start("QZ100") as run:
+        run.enter_network()
+        run.finish()
         expect(
-            session.frames(), frames.wake_up(), frames.configuration(NETWORK, PASSWORD), frames.address_query()
+            run.frames(), frames.wake_up(), frames.configuration(NETWORK, PASSWORD), frames.address_query()
         )
 
 
 def run_with_unknown_support(start):
-    with start("QZ200") as session:
-        session.enter_network()
-        session.finish()
+    with start("QZ200") as run:
+        run.enter_network()
+        run.finish()
         expect(
-            session.frames(),
+            run.frames(),
             frames.wake_up(),
             frames.capability_query(),
             frames.configuration(NETWORK, PASSWORD),
@@ -115,12 +115,12 @@ def run_with_unknown_support(start):
 
 
 def information_page(start, model, page):
-    with start(model) as session:
-        session.enter_network()
-        session.window.press("打印无线网络信息页")
-        session.window.wait_for_text("已将无线网络信息页发送给打印机")
-        expect(session.frames(), frames.wake_up(), page)
-        session.window.press("确定")
+    with start(model) as run:
+        run.enter_network()
+        run.window.press("打印无线网络信息页")
+        run.window.wait_for_text("已将无线网络信息页发送给打印机")
+        expect(run.frames(), frames.wake_up(), page)
+        run.window.press("确定")
 
 
 def password_search_finds():
@@ -136,7 +136,7 @@ def main():
     journal = JournalStub()
 
     def start(model):
-        return Session(emulator, program, texts, model, journal)
+        return ProgramRun(emulator, program, texts, model, journal)
 
     try:
         cases.run("the search for the password finds it", password_search_finds)
