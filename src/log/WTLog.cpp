@@ -122,7 +122,7 @@ void WTLog::queueLogMessage(const WTLogMessage &message, bool asynchronously)
 {
     WTLog &log = sharedInstance();
     if (asynchronously)
-        loggingQueue().async([&log, message] { log.lt_log(message); });
+        loggingQueue().async([&log, message = message] { log.lt_log(message); });
     else if (loggingQueue().isCurrent())
         log.lt_log(message);
     else

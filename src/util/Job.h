@@ -7,7 +7,7 @@
 #include <utility>
 
 /// A function without arguments that is kept for later. Unlike `std::function` it holds what can only be moved, and the
-/// usual captures (up to four words) without taking memory.
+/// usual captures (up to three words) without taking memory.
 class Job
 {
 public:
@@ -16,7 +16,8 @@ public:
         Job(Function &&function)
     {
         using Kept = std::remove_cvref_t<Function>;
-        if constexpr (sizeof(Kept) <= room && std::is_nothrow_move_constructible_v<Kept>)
+        if constexpr (sizeof(Kept) <= room && alignof(Kept) <= alignof(void *) &&
+                      std::is_nothrow_move_constructible_v<Kept>)
             keep<Kept>(std::forward<Function>(function));
         else
             keep<OnHeap<Kept>>(OnHeap<Kept>{std::make_unique<Kept>(std::forward<Function>(function))});
@@ -33,7 +34,7 @@ public:
     void operator()() { m_operations->run(m_memory); }
 
 private:
-    static constexpr std::size_t room = 4 * sizeof(void *);
+    static constexpr std::size_t room = 3 * sizeof(void *);
 
     template <typename Function>
     struct OnHeap {
@@ -61,5 +62,5 @@ private:
     }
 
     const Operations *m_operations;
-    alignas(std::max_align_t) std::byte m_memory[room];
+    alignas(void *) std::byte m_memory[room];
 };

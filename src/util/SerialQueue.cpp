@@ -4,7 +4,6 @@
 #include <condition_variable>
 #include <deque>
 #include <mutex>
-#include <optional>
 #include <pthread.h>
 #include <thread>
 #include <unistd.h>
@@ -34,43 +33,63 @@ void DispatchGroup::wait()
 namespace
 {
 
-/// Jobs in their order. Grows by blocks and moves nothing, so that a caller never pays for the length of the queue, and
-/// keeps a block when it is emptied, so that a queue in ordinary use takes no memory.
+/// Jobs in their order. Grows by blocks and moves nothing, so that a caller never pays for the length of the queue.
+/// Blocks are used again; what is more than enough goes one block at a time, since a thread that frees many keeps the
+/// callers out of the allocator.
 class Batch
 {
 public:
-    bool isEmpty() const { return m_blocks.empty() || m_blocks.front().empty(); }
+    bool isEmpty() const { return m_used == 0; }
+
+    void swap(Batch &other)
+    {
+        m_blocks.swap(other.m_blocks);
+        std::swap(m_used, other.m_used);
+    }
 
     void append(Job &&job, DispatchGroup *group)
     {
-        constexpr std::size_t blockSize = 128;
-        if (m_blocks.empty() || m_blocks.back().size() == blockSize)
-            m_blocks.emplace_back().reserve(blockSize);
-        m_blocks.back().emplace_back(std::move(job), group);
+        if (m_used == 0 || m_blocks[m_used - 1].size() == blockSize)
+            useAnotherBlock();
+        m_blocks[m_used - 1].emplace_back(std::move(job), group);
     }
 
     void run()
     {
-        for (Block &block : m_blocks) {
-            for (Entry &entry : block) {
-                (*entry.job)();
-                entry.job.reset();
+        for (std::size_t index = 0; index < m_used; ++index) {
+            for (Entry &entry : m_blocks[index]) {
+                runToItsEnd(std::move(entry.job));
                 if (entry.group)
                     entry.group->leave();
             }
+            m_blocks[index].clear();
         }
-        m_blocks.resize(1);
-        m_blocks.front().clear();
+        const bool isLittleToDo = std::exchange(m_used, 0) == 1;
+        if (isLittleToDo && m_blocks.size() > mostUnusedBlocks)
+            m_blocks.pop_back();
     }
 
 private:
+    static constexpr std::size_t blockSize = 128, mostUnusedBlocks = 64;
+
     struct Entry {
-        std::optional<Job> job;
+        Job job;
         DispatchGroup *group;
     };
     using Block = std::vector<Entry>;
 
+    /// What the job holds is gone when this returns.
+    static void runToItsEnd(Job job) { job(); }
+
+    void useAnotherBlock()
+    {
+        if (m_used == m_blocks.size())
+            m_blocks.emplace_back().reserve(blockSize);
+        ++m_used;
+    }
+
     std::deque<Block> m_blocks;
+    std::size_t m_used = 0;
 };
 
 } // namespace
@@ -154,7 +173,7 @@ bool SerialQueue::State::takeBatch(Batch &batch)
     }
     isAsleep = false;
     isRunning = true;
-    std::swap(waiting, batch);
+    waiting.swap(batch);
     return !batch.isEmpty();
 }
 
