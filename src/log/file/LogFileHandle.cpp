@@ -32,7 +32,7 @@ FileError LogFileHandle::write(QByteArrayView bytes)
     while (!bytes.isEmpty()) {
         const ssize_t written = ::write(m_file.get(), bytes.data(), static_cast<std::size_t>(bytes.size()));
         if (written < 0 && errno != EINTR) {
-            const FileError failure = error();
+            FileError failure = error();
             // A torn line would run into the next one.
             if (ftruncate(m_file.get(), m_end) == 0)
                 lseek(m_file.get(), m_end, SEEK_SET);

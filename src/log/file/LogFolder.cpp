@@ -21,7 +21,7 @@ constexpr mode_t userOnlyFolder = 0700;
 /// The folder in an environment variable; empty unless it is an absolute path.
 QString folderFromEnvironment(const char *variable)
 {
-    const QString folder = qEnvironmentVariable(variable);
+    QString folder = qEnvironmentVariable(variable);
     return QDir::isAbsolutePath(folder) ? folder : QString();
 }
 
@@ -90,13 +90,13 @@ FileError LogFolder::create(const QString &path)
 {
     if (mkdir(QFile::encodeName(path), userOnlyFolder) == 0)
         return {};
-    const FileError error = FileError::ofLastCall(path);
+    FileError error = FileError::ofLastCall(path);
     if (error.fileExists() && QFileInfo(path).isDir())
         return {};
     const QString above = QFileInfo(path).path();
     if (!error.fileIsMissing() || above == path)
         return error;
-    if (const FileError errorAbove = create(above))
+    if (FileError errorAbove = create(above))
         return errorAbove;
     return mkdir(QFile::encodeName(path), userOnlyFolder) == 0 || errno == EEXIST ? FileError{}
                                                                                   : FileError::ofLastCall(path);

@@ -31,7 +31,7 @@ void reportException(const QString &what)
 /// The error tells that nothing was tried to be written.
 FileError append(LogFileHandle &file, const QByteArray &data)
 {
-    if (const FileError error = file.seekToEnd()) {
+    if (FileError error = file.seekToEnd()) {
         LogConsole::report("WTFileLogger: Failed to seek to end of file: %@", error.description());
         return error;
     }

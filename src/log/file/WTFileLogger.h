@@ -94,6 +94,6 @@ private:
     std::optional<LogFileWatch> m_currentLogFileVnode;
     double m_rollingFrequency = 24 * 60 * 60;
     std::optional<RollingTimer> m_rollingTimer;
-    quint64 m_maximumFileSize = 1024 * 1024;
+    quint64 m_maximumFileSize = quint64{1024} * 1024;
     bool m_isWriting = false;
 };

@@ -136,7 +136,7 @@ QList<WTLogFileInfo> WTLogFileManagerDefault::sortedLogFileInfos() const
 QDateTime WTLogFileManagerDefault::dateOf(const WTLogFileInfo &info) const
 {
     const QString last = info.fileName().section(u' ', -1).remove(u".log"_s);
-    if (const QDateTime named = LogFileNameDate::parse(last); named.isValid())
+    if (QDateTime named = LogFileNameDate::parse(last); named.isValid())
         return named;
     return info.creationDate().isValid() ? info.creationDate() : m_clock();
 }

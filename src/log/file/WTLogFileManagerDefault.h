@@ -56,7 +56,7 @@ private:
 
     const WallClock m_clock;
     std::atomic<std::size_t> m_maximumNumberOfLogFiles = 5;
-    std::atomic<quint64> m_logFilesDiskQuota = 20 * 1024 * 1024;
+    std::atomic<quint64> m_logFilesDiskQuota = quint64{20} * 1024 * 1024;
     const QString m_logsDirectory;
     mutable std::mutex m_mutex;
     std::shared_ptr<const WTFileLogMessageSerializer> m_logMessageSerializer;
