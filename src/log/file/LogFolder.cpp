@@ -27,7 +27,7 @@ QString folderFromEnvironment(const char *variable)
 
 QString stateFolder()
 {
-    if (const QString folder = folderFromEnvironment("XDG_STATE_HOME"); !folder.isEmpty())
+    if (QString folder = folderFromEnvironment("XDG_STATE_HOME"); !folder.isEmpty())
         return folder;
     if (const QString home = folderFromEnvironment("HOME"); !home.isEmpty())
         return home + u"/.local/state"_s;
