@@ -2,19 +2,16 @@
 # preset asks for them, the sanitizers.
 set(WT_SANITIZE "" CACHE STRING "Sanitizers to build with, as in -fsanitize=")
 
-add_compile_options(-Wall -Wextra -Werror -Wpedantic -Wshadow=local -Wnon-virtual-dtor
+add_compile_options(-Wall -Wextra -Werror -Wpedantic -Wnon-virtual-dtor "$<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>"
                     "-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=")
 add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_MESSAGELOGCONTEXT
                         QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 
 if(WT_SANITIZE)
-  add_compile_options(-fsanitize=${WT_SANITIZE} -fno-omit-frame-pointer)
+  add_compile_options(-fsanitize=${WT_SANITIZE} -fno-omit-frame-pointer -g1 -pthread)
   add_link_options(-fsanitize=${WT_SANITIZE})
   if(WT_SANITIZE MATCHES "undefined")
     add_compile_options(-fno-sanitize-recover=undefined)
-  endif()
-  if(WT_SANITIZE MATCHES "thread")
-    add_compile_options(-Wno-error=tsan)
   endif()
 endif()
 

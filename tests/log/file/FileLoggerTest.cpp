@@ -100,6 +100,8 @@ public:
 protected:
     void willLogMessage() override { calls.append(u"will"_s); }
     void didLogMessage() override { calls.append(u"did"_s); }
+    using HookedLogger::didLogMessage;
+    using HookedLogger::willLogMessage;
 };
 
 class ThrowingLogger : public WTFileLogger
