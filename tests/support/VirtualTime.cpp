@@ -11,8 +11,8 @@
 namespace
 {
 
-/// Between two looks at the other threads; only the speed of a test depends on it.
-constexpr std::chrono::microseconds lookInterval{500};
+/// Between two looks while others are at work; only the speed of a test depends on it.
+constexpr std::chrono::microseconds lookInterval{100};
 
 bool processMainEvents()
 {
@@ -102,15 +102,18 @@ bool VirtualTime::runUntil(const std::function<bool()> &done, const std::functio
     while (!done()) {
         if (std::chrono::steady_clock::now() > end)
             return false;
-        const bool nothingToDo = !processMainEvents() && !(busy && busy());
-        const bool slept = threads.sleptSinceLastCall();
-        if (quiet && nothingToDo && slept && !done()) {
+        const bool processed = processMainEvents();
+        const bool nothingToDo = !processed && !(busy && busy());
+        const bool slept = nothingToDo && threads.sleptSinceLastCall();
+        if (quiet && slept && !done()) {
             advanceToNext();
             quiet = false;
             continue;
         }
+        const bool waitsForOthers = quiet || (!processed && !nothingToDo);
         quiet = nothingToDo;
-        std::this_thread::sleep_for(lookInterval);
+        if (waitsForOthers)
+            std::this_thread::sleep_for(lookInterval);
     }
     return true;
 }
