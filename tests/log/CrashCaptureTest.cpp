@@ -28,7 +28,7 @@ constexpr int patience = 30'000;
 
 /// Sanitizers stop a program at its first real fault, before any signal.
 constexpr bool faultsReachTheProgram =
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#ifdef WT_SANITIZED
     false;
 #else
     true;
@@ -62,8 +62,7 @@ End CrashCaptureTest::run(const QString &crash, const QString &state, const QStr
 {
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"ASAN_OPTIONS"_s, u"allow_user_segv_handler=1:detect_leaks=0"_s);
-    environment.insert(u"TSAN_OPTIONS"_s, u"allow_user_segv_handler=1"_s);
+    environment.insert(u"ASAN_OPTIONS"_s, u"detect_leaks=0"_s);
     program.setProcessEnvironment(environment);
     program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     program.start(QStringLiteral(CRASHING_PROGRAM),

@@ -47,8 +47,8 @@ void writeReport(const Crash &crash)
     const QString report = crashReportText(crash, std::chrono::system_clock::now());
     // The place that reports of this program have always named.
     const WTLogMessage::Place place{u"WTExceptionHandler"_s, u"void HandleException(NSException *__strong)"_s, 141};
-    const auto message = WTLogMessage::initWithFormat(u"崩溃信息：%@"_s, {report}, WTLogLevelAll, WTLogFlagError, 0,
-                                                      place, {}, 0, std::nullopt);
+    const auto message = WTLogMessage::initWithFormat(u"崩溃信息：%@"_s, {FormatArgument(report)}, WTLogLevelAll,
+                                                      WTLogFlagError, 0, place, {}, 0, std::nullopt);
     const WTLogMessage::Caller caller{crash.systemThread, crash.threadName, crash.queueLabel};
     WTLog::deliverForStoppedThread(message.spokenBy(caller), crash.systemThread);
 }
