@@ -3,6 +3,8 @@
 #include "Palette.h"
 #include "TextStyle.h"
 
+#include <QScopedValueRollback>
+
 WTTextfield::WTTextfield(QWidget *parent)
     : QLineEdit(parent)
 {
@@ -12,7 +14,11 @@ WTTextfield::WTTextfield(QWidget *parent)
     colors.setColor(QPalette::Base, Palette::white);
     colors.setColor(QPalette::Text, Palette::heading);
     setPalette(colors);
-    connect(this, &QLineEdit::textEdited, this, [this] { Q_EMIT controlTextDidChange(this); });
+    // Not `textEdited`, which an accessibility client's text does not cause.
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (!m_showsText)
+            Q_EMIT controlTextDidChange(this);
+    });
     connect(this, &QLineEdit::editingFinished, this, [this] { Q_EMIT controlTextDidEndEditing(this); });
 }
 
@@ -22,11 +28,17 @@ void WTTextfield::focusInEvent(QFocusEvent *event)
     Q_EMIT controlDidBecomeFirstResponder(this);
 }
 
+void WTTextfield::showText(const QString &shown)
+{
+    const QScopedValueRollback guard(m_showsText, true);
+    setText(shown);
+}
+
 void WTTextfield::putBack(const QString &shown)
 {
     if (text() == shown)
         return;
     const int cursor = cursorPosition();
-    setText(shown);
+    showText(shown);
     setCursorPosition(cursor);
 }
