@@ -51,6 +51,8 @@ public:
     static double strengthOfPassword(const QString &password);
     /// One of "", "too common", "too short", "insecure", "weak", "fair", "strong"; the keys of their translations.
     static QString descriptionOfPassword(const QString &password);
+    /// The same as a level from 0 (nothing to rate) to 4 (strong).
+    static int levelOfPassword(const QString &password);
     /// Whether the word list "blacklist" holds the password, in whatever case.
     static bool isCommon(const QString &password);
 

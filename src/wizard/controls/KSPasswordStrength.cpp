@@ -7,6 +7,7 @@
 #include <QSet>
 #include <QTextBoundaryFinder>
 #include <QXmlStreamReader>
+#include <algorithm>
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
@@ -19,17 +20,22 @@ constexpr qsizetype longPassword = 12;
 constexpr double variedShare = 0.4;
 constexpr double bestScore = 64;
 
-/// From this strength on a password is called so.
+struct Rating {
+    QLatin1StringView description;
+    int level;
+};
+
+/// From this strength on a password is rated so.
 struct StrengthRow {
     double from;
-    QLatin1StringView description;
+    Rating rating;
 };
 
 constexpr std::array strengthRows{
-    StrengthRow{0.6, "strong"_L1},
-    StrengthRow{0.35, "fair"_L1},
-    StrengthRow{0.2, "weak"_L1},
-    StrengthRow{0.0, "insecure"_L1},
+    StrengthRow{0.6, {"strong"_L1, 4}},
+    StrengthRow{0.35, {"fair"_L1, 3}},
+    StrengthRow{0.2, {"weak"_L1, 2}},
+    StrengthRow{0.0, {"insecure"_L1, 1}},
 };
 
 int classesIn(const QString &password)
@@ -75,6 +81,19 @@ QSet<QString> readWordList()
     return words;
 }
 
+Rating ratingOf(const QString &password)
+{
+    if (password.isEmpty())
+        return {""_L1, 0};
+    if (KSPasswordField::isCommon(password))
+        return {"too common"_L1, 1};
+    if (password.size() < shortestPassword)
+        return {"too short"_L1, 1};
+    const double strength = KSPasswordField::strengthOfPassword(password);
+    return std::ranges::find_if(strengthRows, [strength](const StrengthRow &row) { return strength >= row.from; })
+        ->rating;
+}
+
 } // namespace
 
 double KSPasswordField::strengthOfPassword(const QString &password)
@@ -91,18 +110,12 @@ double KSPasswordField::strengthOfPassword(const QString &password)
 
 QString KSPasswordField::descriptionOfPassword(const QString &password)
 {
-    if (password.isEmpty())
-        return {};
-    if (isCommon(password))
-        return u"too common"_s;
-    if (password.size() < shortestPassword)
-        return u"too short"_s;
-    const double strength = strengthOfPassword(password);
-    for (const StrengthRow &row : strengthRows) {
-        if (strength >= row.from)
-            return row.description;
-    }
-    return {};
+    return ratingOf(password).description;
+}
+
+int KSPasswordField::levelOfPassword(const QString &password)
+{
+    return ratingOf(password).level;
 }
 
 bool KSPasswordField::isCommon(const QString &password)

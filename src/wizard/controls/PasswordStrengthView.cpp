@@ -43,6 +43,6 @@ void PasswordStrengthView::update()
     const QString password = m_field->text();
     const QString description = KSPasswordField::descriptionOfPassword(password);
     m_meter->setVisible(!password.isEmpty());
-    m_meter->setStrength(KSPasswordField::strengthOfPassword(password));
+    m_meter->setLevel(KSPasswordField::levelOfPassword(password));
     m_word->setText(description.isEmpty() ? QString() : localized(description));
 }

@@ -3,7 +3,6 @@
 #include "Palette.h"
 
 #include <QPainter>
-#include <cmath>
 
 namespace
 {
@@ -21,9 +20,9 @@ StrengthMeter::StrengthMeter(QWidget *parent)
     setFixedSize(barCount * barWidth + (barCount - 1) * gap, barHeight);
 }
 
-void StrengthMeter::setStrength(double strength)
+void StrengthMeter::setLevel(int level)
 {
-    m_strength = strength;
+    m_level = level;
     update();
 }
 
@@ -32,9 +31,8 @@ void StrengthMeter::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    const int filled = static_cast<int>(std::ceil(m_strength * barCount));
     for (int bar = 0; bar < barCount; ++bar) {
-        painter.setBrush(bar < filled ? Palette::focusBlue : Palette::listHover);
+        painter.setBrush(bar < m_level ? Palette::focusBlue : Palette::listHover);
         painter.drawRoundedRect(QRectF(bar * (barWidth + gap), 0, barWidth, barHeight), barHeight / 2.0,
                                 barHeight / 2.0);
     }

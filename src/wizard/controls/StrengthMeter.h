@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-/// Four short bars, as many of them filled as the strength reaches quarters.
+/// Four short bars, as many of them filled as the level says.
 class StrengthMeter : public QWidget
 {
     Q_OBJECT
@@ -10,12 +10,12 @@ class StrengthMeter : public QWidget
 public:
     explicit StrengthMeter(QWidget *parent = nullptr);
 
-    /// 0 to 1.
-    void setStrength(double strength);
+    /// 0 to 4.
+    void setLevel(int level);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    double m_strength = 0;
+    int m_level = 0;
 };

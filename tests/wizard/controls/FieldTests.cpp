@@ -81,10 +81,16 @@ void FieldTests::fieldTellsWhatHappensToIt()
     QVERIFY(QTest::qWaitForWindowActive(&field));
     field.setFocus();
     QCOMPARE(entered.count(), 1);
-    field.setText(u"set by the program"_s);
+    field.showText(u"set by the program"_s);
     QCOMPARE(changed.count(), 0);
     QTest::keyClick(&field, Qt::Key_A);
     QCOMPARE(changed.count(), 1);
+    QInputMethodEvent composed;
+    composed.setCommitString(u"好"_s);
+    QCoreApplication::sendEvent(&field, &composed);
+    QCOMPARE(changed.count(), 2);
+    QAccessible::queryAccessibleInterface(&field)->setText(QAccessible::Value, u"dictated"_s);
+    QCOMPARE(changed.count(), 3);
     QTest::keyClick(&field, Qt::Key_Return);
     QCOMPARE(ended.count(), 1);
 }
@@ -118,21 +124,23 @@ void FieldTests::description_data()
 {
     QTest::addColumn<QString>("password");
     QTest::addColumn<QString>("description");
+    QTest::addColumn<int>("level");
 
-    QTest::newRow("empty") << u""_s << u""_s;
-    QTest::newRow("in the word list, other case") << u"PassWord123"_s << u"too common"_s;
-    QTest::newRow("short and common") << u"12345"_s << u"too common"_s;
-    QTest::newRow("short") << u"aB1!xyz"_s << u"too short"_s;
-    QTest::newRow("one class") << u"mkwpqzrt"_s << u"insecure"_s;
-    QTest::newRow("two classes") << u"mkwpqz42"_s << u"weak"_s;
-    QTest::newRow("three classes") << u"Mkwpqz42"_s << u"fair"_s;
-    QTest::newRow("long and mixed") << u"Mkwpqz42-tuv"_s << u"strong"_s;
+    QTest::newRow("empty") << u""_s << u""_s << 0;
+    QTest::newRow("in the word list, other case") << u"PassWord123"_s << u"too common"_s << 1;
+    QTest::newRow("short and common") << u"12345"_s << u"too common"_s << 1;
+    QTest::newRow("short") << u"aB1!xyz"_s << u"too short"_s << 1;
+    QTest::newRow("one class") << u"mkwpqzrt"_s << u"insecure"_s << 1;
+    QTest::newRow("two classes") << u"mkwpqz42"_s << u"weak"_s << 2;
+    QTest::newRow("three classes") << u"Mkwpqz42"_s << u"fair"_s << 3;
+    QTest::newRow("long and mixed") << u"Mkwpqz42-tuv"_s << u"strong"_s << 4;
 }
 
 void FieldTests::description()
 {
     QFETCH(QString, password);
     QTEST(KSPasswordField::descriptionOfPassword(password), "description");
+    QTEST(KSPasswordField::levelOfPassword(password), "level");
 
     KSPasswordField field;
     PasswordStrengthView view(&field);
