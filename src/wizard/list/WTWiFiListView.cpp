@@ -29,6 +29,7 @@
 #include <QEventLoop>
 #include <QLabel>
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -211,7 +212,11 @@ void WTWiFiListView::startLoading()
     logInfo("start loading");
     m_enableRefresh = false;
     m_activeView->show();
+    m_returnsKeyboard = m_updateButton->hasFocus();
+    if (m_returnsKeyboard)
+        m_wifiListView->setFocus();
     m_updateButton->setTitle({});
+    m_updateButton->setAccessibleName(localized(u"刷新"_s));
     m_updateButton->setEnabled(false);
 }
 
@@ -221,6 +226,8 @@ void WTWiFiListView::stopLoading()
     m_activeView->hide();
     m_updateButton->setTitle(localized(u"刷新"_s));
     m_updateButton->setEnabled(true);
+    if (std::exchange(m_returnsKeyboard, false) && m_wifiListView->hasFocus())
+        m_updateButton->setFocus();
     m_enableRefresh = true;
 }
 
@@ -234,6 +241,7 @@ void WTWiFiListView::reloadTable()
 void WTWiFiListView::tableView(int shouldSelectRow)
 {
     m_editedSSID = false;
+    m_returnsKeyboard = false;
     m_selectRow = shouldSelectRow;
     m_rows->setChosenRow(m_selectRow);
     updateTextfieldSSIDAndPWD();
@@ -268,8 +276,10 @@ void WTWiFiListView::updateTextfieldSSIDAndPWD()
     const WTWiFiPtr choice = selectedWiFi();
     logInfo("wifi ssid:%@", choice->SSID);
     if (choice->SSID && !choice->SSID->isEmpty())
-        m_ssidTextField->setText(*choice->SSID);
-    m_passwordTextField->setText(m_selectRow == 0 ? choice->password.value_or(QString()) : QString());
+        m_ssidTextField->showText(*choice->SSID);
+    m_passwordTextField->showText(m_selectRow == 0 ? choice->password.value_or(QString()) : QString());
+    // The field may have the keyboard already; a refused edit must not bring back what it held before.
+    m_lastPwd = m_passwordTextField->text();
     m_passwordTyped = false;
 }
 
@@ -337,10 +347,13 @@ void WTWiFiListView::resetFieldFrames()
 
 void WTWiFiListView::showLocationAlert()
 {
+    if (std::exchange(m_asksForLocation, true))
+        return;
     const Alert alert{.messageText = localized(u"温馨提示："_s),
                       .informativeText = localized(u"请打开定位服务，步骤：系统设置->隐私与安全性->隐私->定位服务。"_s),
                       .buttons = {localized(u"前往设置"_s), localized(u"取消"_s)}};
     showAlert(window(), alert, [this](int response) {
+        m_asksForLocation = false;
         if (response == alertFirstButtonReturn)
             WTCommand::executeShellScript(WTApp::shared().desktop().privacySettingsCommandLine());
         back();
@@ -368,8 +381,8 @@ void WTWiFiListView::back()
 {
     m_selectRow = 0;
     m_selectedWiFi.reset();
-    m_ssidTextField->clear();
-    m_passwordTextField->clear();
+    m_ssidTextField->showText({});
+    m_passwordTextField->showText({});
     resetFieldFrames();
     backPreviousView();
 }

@@ -79,6 +79,8 @@ private:
     bool m_editedSSID = false;
     bool m_passwordTyped = false; ///< Since the fields were filled last.
     bool m_enableRefresh = true;
+    bool m_asksForLocation = false; ///< The location alert is open.
+    bool m_returnsKeyboard = false; ///< The list has the keyboard for the refresh button, which is disabled.
     QString m_lastPwd;
     std::optional<QString> m_currentSSID;
 
