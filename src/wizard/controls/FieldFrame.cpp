@@ -1,9 +1,10 @@
 #include "FieldFrame.h"
 
+#include "ButtonLook.h"
+#include "LiveLabel.h"
 #include "Palette.h"
 #include "TextStyle.h"
 
-#include <QAccessible>
 #include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -20,12 +21,13 @@ constexpr qreal cornerRadius = 4;
 FieldFrame::FieldFrame(const QString &label, QWidget *field, QWidget *parent)
     : QWidget(parent)
     , m_label(TextStyle::makeLabel(label, TextStyle::Size::Body, Palette::heading))
-    , m_note(TextStyle::makeLabel({}, TextStyle::Size::Small, Palette::label))
+    , m_help(TextStyle::makeLabel({}, TextStyle::Size::Small, Palette::label))
+    , m_error(new LiveLabel({}, TextStyle::Size::Small, Palette::red))
     , m_field(field)
     , m_borderColor(Palette::frame)
 {
     m_label->setBuddy(field);
-    field->setAccessibleName(label);
+    field->setAccessibleName(ButtonLook::spokenTitle(label));
     auto *layout = new QVBoxLayout(this);
     // The border is drawn around the field, so that it needs a line below one that has no note.
     layout->setContentsMargins(0, 0, 0, 1);
@@ -36,8 +38,9 @@ FieldFrame::FieldFrame(const QString &label, QWidget *field, QWidget *parent)
     box->setContentsMargins(boxPadding, 0, boxPadding, 0);
     box->addWidget(field);
     layout->addLayout(box);
-    layout->addWidget(m_note);
-    showNote();
+    layout->addWidget(m_help);
+    layout->addWidget(m_error);
+    showHelpOrError();
 }
 
 void FieldFrame::setBorderColor(const QColor &color)
@@ -48,21 +51,14 @@ void FieldFrame::setBorderColor(const QColor &color)
 
 void FieldFrame::setHelp(const QString &text)
 {
-    m_help = text;
-    showNote();
+    m_help->setText(text);
+    showHelpOrError();
 }
 
 void FieldFrame::setError(const QString &text)
 {
-    // Screens tell it at every keystroke; a screen reader hears it once.
-    if (m_error == text)
-        return;
-    m_error = text;
-    showNote();
-    if (m_error.isEmpty())
-        return;
-    QAccessibleEvent alert(m_note, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    m_error->setText(text);
+    showHelpOrError();
 }
 
 void FieldFrame::addBelow(QWidget *widget)
@@ -70,15 +66,12 @@ void FieldFrame::addBelow(QWidget *widget)
     layout()->addWidget(widget);
 }
 
-void FieldFrame::showNote()
+void FieldFrame::showHelpOrError()
 {
-    const bool failed = !m_error.isEmpty();
-    QPalette colors = m_note->palette();
-    colors.setColor(QPalette::WindowText, failed ? Palette::red : Palette::label);
-    m_note->setPalette(colors);
-    m_note->setText(failed ? m_error : m_help);
-    m_note->setVisible(!m_note->text().isEmpty());
-    m_field->setAccessibleDescription(m_note->text());
+    const bool failed = !m_error->text().isEmpty();
+    m_error->setVisible(failed);
+    m_help->setVisible(!failed && !m_help->text().isEmpty());
+    m_field->setAccessibleDescription(failed ? m_error->text() : m_help->text());
 }
 
 void FieldFrame::paintEvent(QPaintEvent *)

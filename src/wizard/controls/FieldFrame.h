@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QWidget>
 
+class LiveLabel;
 class QLabel;
 
 /// The frame around one text field: label above, the field in a white box with a coloured border, a line below for help
@@ -12,7 +13,7 @@ class FieldFrame : public QWidget
     Q_OBJECT
 
 public:
-    /// Takes the field over as its child and gives it the label as accessible name.
+    /// Takes the field over as its child and gives it the label as accessible name. The label's mnemonic leads to it.
     FieldFrame(const QString &label, QWidget *field, QWidget *parent = nullptr);
 
     /// `Palette::frame` at rest, `Palette::focusBlue` with the keyboard.
@@ -21,7 +22,7 @@ public:
 
     /// Quiet text below the field; empty hides it.
     void setHelp(const QString &text);
-    /// Red text in the same place, announced to screen readers; empty brings the help back.
+    /// Red text in the same place, spoken by screen readers; empty brings the help back.
     void setError(const QString &text);
     /// One more line of the caller's below the box.
     void addBelow(QWidget *widget);
@@ -30,12 +31,11 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void showNote();
+    void showHelpOrError();
 
     QLabel *m_label;
-    QLabel *m_note;
+    QLabel *m_help;
+    LiveLabel *m_error;
     QWidget *m_field;
-    QString m_help;
-    QString m_error;
     QColor m_borderColor;
 };

@@ -102,6 +102,8 @@ void ScreenFrame::setBackButton(QAbstractButton *button)
 void ScreenFrame::setMainButton(QAbstractButton *button)
 {
     m_main = button;
+    if (auto *pushButton = qobject_cast<QPushButton *>(button))
+        pushButton->setDefault(true);
     m_bar->addWidget(button);
 }
 

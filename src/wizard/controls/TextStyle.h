@@ -11,7 +11,10 @@ enum class Size { Heading = 24, Large = 16, Body = 14, Small = 12 }; ///< Device
 
 QFont font(Size size, QFont::Weight weight = QFont::Normal);
 
-/// A label that wraps its text, in one of the palette's text colours.
+/// Makes a label wrap its text and show it in one of the palette's text colours.
+void apply(QLabel &label, Size size, const QColor &color);
+
+/// A label of that style.
 QLabel *makeLabel(const QString &text, Size size, const QColor &color, QWidget *parent = nullptr);
 
 } // namespace TextStyle

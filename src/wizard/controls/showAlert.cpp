@@ -37,6 +37,8 @@ void showAlert(QWidget *window, const Alert &alert, std::function<void(int respo
     box->setWindowModality(Qt::WindowModal);
     box->setTextFormat(Qt::PlainText);
     box->setInformativeText(alert.informativeText);
+    box->setAccessibleName(alert.messageText);
+    box->setAccessibleDescription(alert.informativeText);
     for (const QString &title : alert.buttons) {
         const bool first = box->buttons().isEmpty();
         QPushButton *button = box->addButton(title, first ? QMessageBox::AcceptRole : QMessageBox::RejectRole);

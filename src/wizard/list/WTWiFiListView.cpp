@@ -4,6 +4,7 @@
 #include "DesktopPort.h"
 #include "FieldFrame.h"
 #include "KSPasswordField.h"
+#include "LiveLabel.h"
 #include "Localized.h"
 #include "Log.h"
 #include "NetworkRows.h"
@@ -27,7 +28,6 @@
 #include "showAlert.h"
 
 #include <QEventLoop>
-#include <QLabel>
 #include <algorithm>
 #include <utility>
 

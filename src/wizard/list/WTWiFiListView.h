@@ -6,8 +6,8 @@
 
 class FieldFrame;
 class KSPasswordField;
+class LiveLabel;
 class NetworkRows;
-class QLabel;
 class WTButton;
 class WTDefaultStyleBtn;
 class WTInstallingView;
@@ -87,7 +87,7 @@ private:
     NetworkRows *m_rows;
     WTListView *m_wifiListView;
     WTButton *m_updateButton;
-    QLabel *m_activeView;
+    LiveLabel *m_activeView;
     WTTextfield *m_ssidTextField;
     KSPasswordField *m_passwordTextField;
     FieldFrame *m_ssidView;

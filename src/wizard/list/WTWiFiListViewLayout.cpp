@@ -1,6 +1,7 @@
 #include "ButtonSchemes.h"
 #include "FieldFrame.h"
 #include "KSPasswordField.h"
+#include "LiveLabel.h"
 #include "Localized.h"
 #include "NetworkRows.h"
 #include "Palette.h"
@@ -12,7 +13,6 @@
 #include "WTTextfield.h"
 #include "WTWiFiListView.h"
 
-#include <QLabel>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -31,7 +31,7 @@ WTWiFiListView::WTWiFiListView(QWidget *parent)
     , m_rows(new NetworkRows(this))
     , m_wifiListView(new WTListView)
     , m_updateButton(new WTButton)
-    , m_activeView(TextStyle::makeLabel(localized(u"正在查找无线网络…"_s), TextStyle::Size::Small, Palette::label))
+    , m_activeView(new LiveLabel(localized(u"正在查找无线网络…"_s), TextStyle::Size::Small, Palette::label))
     , m_ssidTextField(new WTTextfield)
     , m_passwordTextField(new KSPasswordField)
     , m_ssidView(new FieldFrame(localized(u"网络名称"_s), m_ssidTextField))

@@ -1,5 +1,6 @@
 #include "ResultPanel.h"
 
+#include "LiveLabel.h"
 #include "Localized.h"
 #include "Palette.h"
 #include "PictureView.h"
@@ -7,7 +8,6 @@
 #include "TextStyle.h"
 #include "WTManager.h"
 
-#include <QAccessible>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QUrl>
@@ -34,7 +34,7 @@ QString folderLink(const QString &logPath)
 
 ResultPanel::ResultPanel(const QString &markName, QWidget *parent)
     : QWidget(parent)
-    , m_message(TextStyle::makeLabel({}, TextStyle::Size::Large, Palette::heading))
+    , m_message(new LiveLabel({}, TextStyle::Size::Large, Palette::heading))
     , m_advice(TextStyle::makeLabel({}, TextStyle::Size::Body, Palette::label))
     , m_log(TextStyle::makeLabel({}, TextStyle::Size::Small, Palette::label))
     , m_texts(new QVBoxLayout)
@@ -95,6 +95,4 @@ void ResultPanel::showEvent(QShowEvent *)
     m_log->setVisible(m_showsLogFolder && !logPath.isEmpty());
     if (!logPath.isEmpty())
         m_log->setText(folderLink(logPath));
-    QAccessibleEvent alert(m_message, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
 }

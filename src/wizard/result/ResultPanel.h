@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class LiveLabel;
 class QLabel;
 class QVBoxLayout;
 
@@ -13,7 +14,7 @@ class ResultPanel : public QWidget
 public:
     explicit ResultPanel(const QString &markName, QWidget *parent = nullptr);
 
-    /// What happened. Announced to screen readers when the panel shows.
+    /// What happened; spoken by screen readers when the panel shows.
     void setMessage(const QString &text);
     QString message() const;
     void setAdvice(const QString &text);
@@ -26,7 +27,7 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    QLabel *m_message;
+    LiveLabel *m_message;
     QLabel *m_advice;
     QLabel *m_log;
     QVBoxLayout *m_texts;

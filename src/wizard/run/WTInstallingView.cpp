@@ -1,5 +1,6 @@
 #include "WTInstallingView.h"
 
+#include "LiveLabel.h"
 #include "Localized.h"
 #include "Palette.h"
 #include "PictureView.h"
@@ -29,7 +30,7 @@ WTInstallingView::WTInstallingView(QWidget *parent)
     : WTView(parent)
     , m_run(new WTConfigurationRun(WTManager::shared().time(), WTApp::shared().capabilities().canPollAddress, this))
     , m_progressView(new WTProgressView)
-    , m_progressLabel(TextStyle::makeLabel({}, TextStyle::Size::Body, Palette::label))
+    , m_progressLabel(new LiveLabel({}, TextStyle::Size::Body, Palette::label))
     , m_network(TextStyle::makeLabel({}, TextStyle::Size::Large, Palette::heading))
 {
     layOut();

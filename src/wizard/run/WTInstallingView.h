@@ -8,6 +8,7 @@
 
 #include <optional>
 
+class LiveLabel;
 class QLabel;
 class WTCompleteView;
 class WTConfigFailedView;
@@ -67,7 +68,7 @@ private:
 
     WTConfigurationRun *m_run;
     WTProgressView *m_progressView;
-    QLabel *m_progressLabel;
+    LiveLabel *m_progressLabel;
     QLabel *m_network;
     WTCompleteView *m_completeView = nullptr;
     WTFailedView *m_failedView = nullptr;
