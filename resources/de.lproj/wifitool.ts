@@ -113,11 +113,11 @@
     </message>
     <message>
         <source>网络名称</source>
-        <translation>Netzwerkname</translation>
+        <translation>&amp;Netzwerkname</translation>
     </message>
     <message>
         <source>网络密码</source>
-        <translation>Passwort</translation>
+        <translation>&amp;Passwort</translation>
     </message>
     <message>
         <source>与路由器上显示的名称完全一致，区分大小写。</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>显示密码</source>
-        <translation>Passwort anzeigen</translation>
+        <translation>Passwort anz&amp;eigen</translation>
     </message>
     <message>
         <source>下一步</source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>打印无线网络信息页</source>
-        <translation>WLAN-Infoseite drucken</translation>
+        <translation>WLAN-&amp;Infoseite drucken</translation>
     </message>
     <message>
         <source>输入无线网络</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>打开系统的添加打印机窗口</source>
-        <translation>Fenster „Drucker hinzufügen“ des Systems öffnen</translation>
+        <translation>Fenster „&amp;Drucker hinzufügen“ des Systems öffnen</translation>
     </message>
     <message>
         <source>恭喜，您完成了无线网络配置！</source>

@@ -113,11 +113,11 @@
     </message>
     <message>
         <source>网络名称</source>
-        <translation>Network name</translation>
+        <translation>Network n&amp;ame</translation>
     </message>
     <message>
         <source>网络密码</source>
-        <translation>Password</translation>
+        <translation>Pass&amp;word</translation>
     </message>
     <message>
         <source>与路由器上显示的名称完全一致，区分大小写。</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>显示密码</source>
-        <translation>Show password</translation>
+        <translation>&amp;Show password</translation>
     </message>
     <message>
         <source>下一步</source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>打印无线网络信息页</source>
-        <translation>Print Wi-Fi information page</translation>
+        <translation>&amp;Print Wi-Fi information page</translation>
     </message>
     <message>
         <source>输入无线网络</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>打开系统的添加打印机窗口</source>
-        <translation>Open the system's “add printer” window</translation>
+        <translation>&amp;Open the system's “add printer” window</translation>
     </message>
     <message>
         <source>恭喜，您完成了无线网络配置！</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>刷新</source>
-        <translation>Refresh</translation>
+        <translation>&amp;Refresh</translation>
     </message>
     <message>
         <source>此电脑</source>

@@ -113,11 +113,11 @@
     </message>
     <message>
         <source>网络名称</source>
-        <translation>Nombre de la red</translation>
+        <translation>&amp;Nombre de la red</translation>
     </message>
     <message>
         <source>网络密码</source>
-        <translation>Contraseña</translation>
+        <translation>&amp;Contraseña</translation>
     </message>
     <message>
         <source>与路由器上显示的名称完全一致，区分大小写。</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>显示密码</source>
-        <translation>Mostrar la contraseña</translation>
+        <translation>&amp;Mostrar la contraseña</translation>
     </message>
     <message>
         <source>下一步</source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>打印无线网络信息页</source>
-        <translation>Imprimir la página de información Wi-Fi</translation>
+        <translation>&amp;Imprimir la página de información Wi-Fi</translation>
     </message>
     <message>
         <source>输入无线网络</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>打开系统的添加打印机窗口</source>
-        <translation>Abrir la ventana «añadir impresora» del sistema</translation>
+        <translation>A&amp;brir la ventana «añadir impresora» del sistema</translation>
     </message>
     <message>
         <source>恭喜，您完成了无线网络配置！</source>

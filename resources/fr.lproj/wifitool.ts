@@ -113,11 +113,11 @@
     </message>
     <message>
         <source>网络名称</source>
-        <translation>Nom du réseau</translation>
+        <translation>&amp;Nom du réseau</translation>
     </message>
     <message>
         <source>网络密码</source>
-        <translation>Mot de passe</translation>
+        <translation>&amp;Mot de passe</translation>
     </message>
     <message>
         <source>与路由器上显示的名称完全一致，区分大小写。</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>显示密码</source>
-        <translation>Afficher le mot de passe</translation>
+        <translation>Affic&amp;her le mot de passe</translation>
     </message>
     <message>
         <source>下一步</source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>打印无线网络信息页</source>
-        <translation>Imprimer la page d'infos Wi-Fi</translation>
+        <translation>&amp;Imprimer la page d'infos Wi-Fi</translation>
     </message>
     <message>
         <source>输入无线网络</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>打开系统的添加打印机窗口</source>
-        <translation>Ouvrir la fenêtre « ajouter une imprimante » du système</translation>
+        <translation>&amp;Ouvrir la fenêtre « ajouter une imprimante » du système</translation>
     </message>
     <message>
         <source>恭喜，您完成了无线网络配置！</source>

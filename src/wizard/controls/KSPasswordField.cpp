@@ -1,5 +1,6 @@
 #include "KSPasswordField.h"
 
+#include "ButtonLook.h"
 #include "Localized.h"
 #include "Picture.h"
 
@@ -59,8 +60,8 @@ void KSPasswordField::setShowsText(bool shows)
     else
         m_cell = std::make_unique<KSPasswordSecureTextFieldCell>();
     setEchoMode(m_cell->echoMode());
-    m_mark->setText(m_cell->markAction());
-    m_mark->setToolTip(m_cell->markAction());
+    m_mark->setText(ButtonLook::spokenTitle(m_cell->markAction()));
+    m_mark->setToolTip(m_mark->text());
     m_mark->setIcon(Picture(m_cell->markName()).pixmap({markSize, markSize}, devicePixelRatioF()));
 }
 
