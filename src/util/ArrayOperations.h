@@ -100,11 +100,24 @@ void enumerate(const QList<Element> &list, EnumerationOption option, Block &&blo
     }
 }
 
+/// The same for the places among `indexes`.
+template <typename Element, typename Block>
+void enumerateAt(const QList<Element> &list, const IndexSet &indexes, EnumerationOption option, Block &&block)
+{
+    requirePlaces(indexes, list.size());
+    enumerate(list, option, [&](const Element &object, qsizetype index, bool &stop) {
+        if (indexes.contains(index))
+            block(object, index, stop);
+    });
+}
+
 /// The places among `indexes` (all, when absent) for which `test(object, index, stop)` holds.
 template <typename Element, typename Test>
 IndexSet passing(const QList<Element> &list, const std::optional<IndexSet> &indexes, EnumerationOption option,
                  Test &&test)
 {
+    if (indexes)
+        requirePlaces(*indexes, list.size());
     IndexSet passed;
     enumerate(list, option, [&](const Element &object, qsizetype index, bool &stop) {
         if ((!indexes || indexes->contains(index)) && test(object, index, stop))
@@ -118,6 +131,8 @@ template <typename Element, typename Test>
 std::optional<qsizetype> firstPassing(const QList<Element> &list, const std::optional<IndexSet> &indexes,
                                       EnumerationOption option, Test &&test)
 {
+    if (indexes)
+        requirePlaces(*indexes, list.size());
     std::optional<qsizetype> found;
     enumerate(list, option, [&](const Element &object, qsizetype index, bool &stop) {
         if ((!indexes || indexes->contains(index)) && test(object, index, stop)) {

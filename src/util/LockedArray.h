@@ -217,10 +217,7 @@ public:
     template <typename Block>
     void enumerateObjectsAtIndexes(const IndexSet &indexes, EnumerationOption options, Block &&usingBlock) const
     {
-        enumerateObjectsWithOptions(options, [&](const Element &object, qsizetype index, bool &stop) {
-            if (indexes.contains(index))
-                usingBlock(object, index, stop);
-        });
+        read([&](const List &list) { ArrayOperations::enumerateAt(list, indexes, options, usingBlock); });
     }
     /// The test takes `(object, index, stop)`.
     template <typename Test>

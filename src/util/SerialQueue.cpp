@@ -1,5 +1,7 @@
 #include "SerialQueue.h"
 
+#include "AlternateSignalStack.h"
+
 #include <QScopeGuard>
 #include <condition_variable>
 #include <deque>
@@ -213,6 +215,7 @@ void SerialQueue::State::runVisit(const std::function<void()> &job)
 
 void SerialQueue::State::run()
 {
+    const AlternateSignalStack signalStack;
     current = {this, &label};
     ownThread = currentSystemThread();
     nameThread(label);

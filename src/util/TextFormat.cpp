@@ -63,7 +63,12 @@ using Line = QVarLengthArray<QChar, 256>;
 
 void appendPadded(Line &line, const Placeholder &placeholder, QStringView text)
 {
-    for (qsizetype length = text.size(); length < placeholder.width; ++length)
+    qsizetype length = text.size();
+    if (placeholder.zeroFilled && text.startsWith(u'-')) {
+        line.append(u'-');
+        text = text.sliced(1);
+    }
+    for (; length < placeholder.width; ++length)
         line.append(placeholder.zeroFilled ? u'0' : u' ');
     line.append(text.data(), text.size());
 }

@@ -1,6 +1,7 @@
 #include "SendWorkers.h"
 
 #include "AclExchange.h"
+#include "AlternateSignalStack.h"
 
 #include <chrono>
 #include <cstdlib>
@@ -36,6 +37,7 @@ void SendWorkers::start(const std::shared_ptr<AclExchange> &exchange)
     }
     try {
         std::thread([this, exchange] {
+            const AlternateSignalStack signalStack;
             exchange->run();
             remove(exchange);
         }).detach();

@@ -116,6 +116,8 @@ void CrashCaptureTest::reports_data()
     if (faultsReachTheProgram) {
         row("null-pointer", "main", "Signal SIGSEGV was raised!\n", 1, endsWell);
         row("stack-overflow", "main", "Signal SIGSEGV was raised!\n", 1, endsWell);
+        row("stack-overflow", "logging-queue", "Signal SIGSEGV was raised!\n", 1, endsWell);
+        row("stack-overflow", "logger-queue", "Signal SIGSEGV was raised!\n", 1, endsWell);
         row("divide-by-zero", "main", "Signal SIGFPE was raised!\n", 1, dies(SIGFPE));
         row("illegal-instruction", "thread", "Signal SIGILL was raised!\n", 1, dies(SIGILL));
         row("beyond-the-file", "main", "Signal SIGBUS was raised!\n", 1, dies(SIGBUS));
@@ -149,17 +151,24 @@ void CrashCaptureTest::reports()
 
 void CrashCaptureTest::leavesTheReportInTheLogFile_data()
 {
+    QTest::addColumn<QString>("crash");
     QTest::addColumn<QString>("state");
+    QTest::addColumn<End>("end");
 
-    QTest::newRow("any thread") << u"main"_s;
-    QTest::newRow("the thread that writes the file") << u"file-logger-queue"_s;
+    QTest::newRow("any thread") << u"SEGV"_s << u"main"_s << endsWell;
+    QTest::newRow("the thread that writes the file") << u"SEGV"_s << u"file-logger-queue"_s << endsWell;
+    QTest::newRow("carries on") << u"FPE"_s << u"main"_s << carriesOn;
+    QTest::newRow("abort") << u"abort"_s << u"main"_s << dies(SIGABRT);
+    QTest::newRow("exception") << u"exception"_s << u"main"_s << dies(SIGABRT);
 }
 
 void CrashCaptureTest::leavesTheReportInTheLogFile()
 {
+    QFETCH(QString, crash);
     QFETCH(QString, state);
+    QFETCH(End, end);
     const QTemporaryDir folder;
-    QCOMPARE(run(u"SEGV"_s, state, folder.path()), endsWell);
+    QVERIFY2(run(crash, state, folder.path()) == end, qPrintable(m_output));
     const QStringList files = QDir(folder.path()).entryList(QDir::Files);
     QCOMPARE(files.size(), 1);
     QFile file(folder.filePath(files.constFirst()));

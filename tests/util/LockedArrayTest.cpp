@@ -128,6 +128,16 @@ void LockedArrayTest::refusesPlacesBeyondTheEnd_data()
     row("exchange", [](Array &array) { array.exchangeObjectAtIndex(0, 2); });
     row("remove one of several", [](Array &array) { array.removeObjectsAtIndexes({0, 2}); });
     row("insert one of several", [](Array &array) { array.insertObjects({7, 8}, IndexSet{0, 4}); });
+    row("visit one of several", [](Array &array) {
+        array.enumerateObjectsAtIndexes({0, 2}, EnumerationOption::Forward, [](int, qsizetype, bool &) {});
+    });
+    row("test one of several", [](Array &array) {
+        array.indexesOfObjectsAtIndexes({0, 2}, EnumerationOption::Forward,
+                                        [](int, qsizetype, bool &) { return true; });
+    });
+    row("look for one of several", [](Array &array) {
+        array.indexOfObjectAtIndexes({0, 2}, EnumerationOption::Reverse, [](int, qsizetype, bool &) { return true; });
+    });
     row("too few to insert", [](Array &array) { array.insertObjects({7}, IndexSet{0, 1}); });
     row("too few to replace", [](Array &array) { array.replaceObjectsAtIndexes({0, 1}, {7}); });
     row("last of none", [](Array &array) {

@@ -38,6 +38,7 @@ void TextTest::formats_data()
     QTest::newRow("hexadecimal") << formatText("0x%X %04X %x", 0xFF21, 0x2A, 0xAB) << u"0xFF21 002A ab"_s;
     QTest::newRow("negative as bits") << formatText("%X %hu %lX", -1, -1, qint64{-1})
                                       << u"FFFFFFFF 65535 FFFFFFFFFFFFFFFF"_s;
+    QTest::newRow("zeros behind the sign") << formatText("%04d %02d %04d", -5, -123, 5) << u"-005 -123 0005"_s;
     QTest::newRow("right aligned") << formatText("TID:%6@|", u"42"_s) << u"TID:    42|"_s;
     QTest::newRow("wider than its field") << formatText("%2@", u"long"_s) << u"long"_s;
     QTest::newRow("number as object") << formatText("%@", 7) << u"7"_s;

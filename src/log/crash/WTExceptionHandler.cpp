@@ -1,5 +1,6 @@
 #include "WTExceptionHandler.h"
 
+#include "AlternateSignalStack.h"
 #include "CrashReport.h"
 #include "CrashReporter.h"
 #include "SignalReason.h"
@@ -99,15 +100,10 @@ QString reasonOfCurrentException()
     std::abort();
 }
 
-/// The main thread's; a handler can then run although the stack itself is what ran out.
-void useAlternateStack()
+/// Every other thread of the program has its own for as long as it runs.
+void giveMainThreadItsSignalStack()
 {
-    constexpr size_t stackSize = 65536;
-    alignas(16) static std::array<std::byte, stackSize> memory;
-    stack_t stack{};
-    stack.ss_sp = memory.data();
-    stack.ss_size = memory.size();
-    sigaltstack(&stack, nullptr);
+    [[maybe_unused]] static const auto *const stack = new AlternateSignalStack;
 }
 
 /// The first call of the system's backtrace loads a library, which is no work for a signal handler.
@@ -123,7 +119,7 @@ void WTExceptionHandler::uncaughtExceptionHandler()
 {
     loadBacktrace();
     CrashReporter::start();
-    useAlternateStack();
+    giveMainThreadItsSignalStack();
     std::set_terminate(&handleException);
     struct sigaction action {
     };

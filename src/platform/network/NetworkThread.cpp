@@ -2,6 +2,8 @@
 
 #include "NetworkThread.h"
 
+#include "AlternateSignalStack.h"
+
 #include <deque>
 #include <mutex>
 #include <thread>
@@ -53,6 +55,7 @@ void NetworkThread::State::wake()
 
 void NetworkThread::State::run()
 {
+    const AlternateSignalStack signalStack;
     g_main_context_push_thread_default(context.get());
     g_main_loop_run(loop.get());
     g_main_context_pop_thread_default(context.get());

@@ -1,5 +1,7 @@
 #include "SystemTime.h"
 
+#include "AlternateSignalStack.h"
+
 SystemTime::SystemTime() = default;
 
 SystemTime::~SystemTime()
@@ -38,6 +40,7 @@ std::unique_ptr<TimePort::Timer> SystemTime::after(Duration delay, std::function
 
 void SystemTime::run()
 {
+    const AlternateSignalStack signalStack;
     std::unique_lock lock(m_mutex);
     const auto wakeUp = [this] { return m_stopping || m_actionAdded; };
     while (!m_stopping) {

@@ -1,5 +1,7 @@
 #include "UsbEventThread.h"
 
+#include "AlternateSignalStack.h"
+
 #include <utility>
 
 UsbEventThread::UsbEventThread(UsbContext &context, std::function<void()> attend)
@@ -76,6 +78,7 @@ void UsbEventThread::wakeUp()
 
 void UsbEventThread::run()
 {
+    const AlternateSignalStack signalStack;
     std::unique_lock lock(m_mutex);
     while (!m_stopping) {
         if (std::exchange(m_attentionRequested, false)) {
