@@ -22,18 +22,22 @@ bool TracingDesktop::panelWasOpened() const
 }
 
 WizardBed::WizardBed(const QList<ModelIdentity> &printers, const QString &language)
-    : m_bus(m_time)
-    , m_usb(m_time)
-
+    : WizardBed(std::make_shared<UsbTestBench>(), 0, language)
 {
-    InfoList::setResourceFolder(QStringLiteral(WT_RESOURCE_FOLDER));
-    WTCServer::usePorts(m_usb, m_time);
-    WTC_WLAN::usePort(hostWiFi);
-    WTManager::usePorts(m_time, spooler);
-    WTApp::usePorts(hostWiFi, desktop, {});
-    WTApp::shared().setAppLanguage(language);
     for (const ModelIdentity &printer : printers)
         plugIn(printer);
+}
+
+WizardBed::WizardBed(std::shared_ptr<UsbTestBench> bench, qsizetype printerCount, const QString &language)
+    : m_bench(std::move(bench))
+    , m_printerCount(printerCount)
+{
+    InfoList::setResourceFolder(QStringLiteral(WT_RESOURCE_FOLDER));
+    WTCServer::usePorts(m_bench->port, m_bench->time);
+    WTC_WLAN::usePort(hostWiFi);
+    WTManager::usePorts(m_bench->time, spooler);
+    WTApp::usePorts(hostWiFi, desktop, {});
+    WTApp::shared().setAppLanguage(language);
 
     m_screens = std::make_unique<WizardScreens>([this] { ++processEnds; });
     m_screens->show();
@@ -70,7 +74,7 @@ void WizardBed::click(const char *name)
 
 void WizardBed::plugIn(const ModelIdentity &printer)
 {
-    m_bus.plug(m_bus.addPrinter(PrinterModel(printer)));
+    bus().plug(bus().addPrinter(PrinterModel(printer)));
     ++m_printerCount;
 }
 
@@ -81,5 +85,5 @@ bool WizardBed::findPrinters()
 
 bool WizardBed::waitFor(const std::function<bool()> &done)
 {
-    return m_time.runUntil(done, [this] { return m_bus.busy(); });
+    return m_bench->runUntil(done);
 }

@@ -1,10 +1,8 @@
 #pragma once
 
 #include "FakeHost.h"
-#include "LibusbPort.h"
 #include "SpoolerPort.h"
-#include "UsbfsBed.h"
-#include "VirtualTime.h"
+#include "UsbTestBench.h"
 #include "WTWindow.h"
 #include "WizardScreens.h"
 
@@ -33,13 +31,15 @@ public:
 };
 
 /// The whole wizard in its window, over real libusb with emulated printers, in virtual time. One bed at a time; the
-/// application object lives longer.
+/// application object lives longer, and so may the bus.
 class WizardBed
 {
 public:
     /// @param printers the models on the bus, in the order of their ports.
     /// @param language what the screens speak.
     explicit WizardBed(const QList<ModelIdentity> &printers = {}, const QString &language = QStringLiteral("zh-Hans"));
+    /// On a bus that has its printers plugged already.
+    WizardBed(std::shared_ptr<UsbTestBench> bench, qsizetype printerCount, const QString &language);
     ~WizardBed();
 
     template <typename Screen>
@@ -60,8 +60,8 @@ public:
     bool waitFor(const std::function<bool()> &done);
 
     WTWindow &window() { return m_screens->window(); }
-    UsbfsBed &bus() { return m_bus; }
-    VirtualTime &time() { return m_time; }
+    UsbfsBed &bus() { return m_bench->bed; }
+    VirtualTime &time() { return m_bench->time; }
 
     FakeHostWiFi hostWiFi;
     TracingDesktop desktop;
@@ -69,9 +69,7 @@ public:
     int processEnds = 0; ///< How often a screen ended the process.
 
 private:
-    VirtualTime m_time;
-    UsbfsBed m_bus;
-    LibusbPort m_usb;
+    std::shared_ptr<UsbTestBench> m_bench;
     qsizetype m_printerCount = 0;
     std::unique_ptr<WizardScreens> m_screens;
 };

@@ -42,6 +42,14 @@ void UsbfsBed::setScript(PrinterScript script, int printer)
     m_bus->setScript(printer, std::move(script));
 }
 
+void UsbfsBed::replacePrinter(PrinterModel model, int printer)
+{
+    unplug(printer);
+    release(printer);
+    permit(printer);
+    m_bus->with(printer, [&model](UsbfsDevice &device) { device.model() = std::move(model); });
+}
+
 PrinterRecord UsbfsBed::record(int printer) const
 {
     return m_bus->of<PrinterRecord>(printer, [](const UsbfsDevice &device) { return device.model().record(); });

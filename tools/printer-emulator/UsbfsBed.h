@@ -40,6 +40,9 @@ public:
     bool isPlugged(int printer = 0) const;
 
     void setScript(PrinterScript script, int printer = 0);
+    /// Puts another printer, which was told nothing yet, in the place of this one: unplugged, held by nobody,
+    /// permitted.
+    void replacePrinter(PrinterModel model, int printer = 0);
     /// What the printer was told so far.
     PrinterRecord record(int printer = 0) const;
     /// Called for each frame, on a thread of the bed, while the bed is locked: it must not call back.

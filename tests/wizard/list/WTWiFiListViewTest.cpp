@@ -1,4 +1,5 @@
 #include "WTWiFiListView.h"
+#include "ListBed.h"
 #include "LogCollector.h"
 #include "ScannerLock.h"
 #include "WTApp.h"
@@ -7,7 +8,6 @@
 #include "WTManager.h"
 #include "WTStartView.h"
 #include "WTWiFiListViewModel.h"
-#include "WizardBed.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>
@@ -17,88 +17,9 @@
 #include <QSignalSpy>
 #include <QTemporaryFile>
 #include <QTest>
-#include <QTimer>
 #include <sys/file.h>
 
 using namespace Qt::Literals::StringLiterals;
-using namespace std::chrono_literals;
-
-namespace
-{
-
-const VisibleNetwork home{u"Home"_s, 7, 80};
-const VisibleNetwork cafe{u"Cafe"_s, 1, 60};
-const VisibleNetwork office{u"Office"_s, 5, 40};
-
-HostWiFiState joinedTo(const QString &ssid)
-{
-    return {.interfaceName = u"wlan0"_s, .poweredOn = true, .band = 1, .ssid = ssid, .rssi = -60, .security = 4};
-}
-
-/// The wizard on the list screen, as a person gets there.
-class ListBed : public WizardBed
-{
-public:
-    explicit ListBed(ScanPermission permission = ScanPermission::Allowed, const QString &joined = u"Office"_s)
-        : WizardBed({ModelIdentity()})
-    {
-        hostWiFi.permission = permission;
-        hostWiFi.now = joinedTo(joined);
-        hostWiFi.networks = std::vector{home, cafe, office};
-        if (!findPrinters())
-            qFatal("The wizard does not find the printer.");
-    }
-
-    WTWiFiListView &list() { return *screen<WTWiFiListView>(); }
-    QLineEdit &name() { return *list().findChild<QLineEdit *>(u"ssidTextField"_s); }
-    QLineEdit &password() { return *list().findChild<QLineEdit *>(u"passwordTextField"_s); }
-    QAbstractButton &next() { return *list().findChild<QAbstractButton *>(u"btn_nextStep"_s); }
-    QListView &rows() { return *list().findChild<QListView *>(u"wifiListView"_s); }
-    QMessageBox *alert() { return window().findChild<QMessageBox *>(); }
-
-    /// Clicks a button whose action waits five seconds, lets them pass, and runs `meanwhile` in the middle of them.
-    void clickAndWait(const char *button, const std::function<void()> &meanwhile = {})
-    {
-        const auto start = time().now();
-        QTimer::singleShot(0, &window(), [&] {
-            waitFor([&] { return time().now() >= start + 1s; });
-            if (meanwhile)
-                meanwhile();
-            waitFor([&] { return time().now() >= start + 5s; });
-        });
-        click(button);
-    }
-    void enter(const std::function<void()> &meanwhile = {}) { clickAndWait("netxtBtn", meanwhile); }
-
-    void choose(int row)
-    {
-        const QRect area = rows().visualRect(rows().model()->index(row, 0));
-        QTest::mouseClick(rows().viewport(), Qt::LeftButton, {}, area.center());
-    }
-    QStringList shownNames()
-    {
-        QStringList names;
-        for (int row = 0; row < rows().model()->rowCount(); ++row)
-            names += rows().model()->index(row, 0).data().toString();
-        return names;
-    }
-    void type(QLineEdit &field, const QString &text)
-    {
-        field.setFocus();
-        field.selectAll();
-        QTest::keyClicks(&field, text);
-    }
-    /// As from the clipboard.
-    void paste(QLineEdit &field, const QString &text)
-    {
-        field.setFocus();
-        field.selectAll();
-        field.insert(text);
-        Q_EMIT field.textEdited(field.text());
-    }
-};
-
-} // namespace
 
 class WTWiFiListViewTest : public QObject
 {
@@ -147,7 +68,8 @@ void WTWiFiListViewTest::order()
     QFETCH(QStringList, names);
     QFETCH(int, withPassword);
     ListBed bed(ScanPermission::Allowed, joined);
-    bed.hostWiFi.networks = std::vector{home, cafe, office, VisibleNetwork{u"Home"_s, 1, 20}};
+    bed.hostWiFi.networks =
+        std::vector{ListBed::home, ListBed::cafe, ListBed::office, VisibleNetwork{u"Home"_s, 1, 20}};
     bed.enter();
 
     QCOMPARE(bed.shownNames(), names);
@@ -219,14 +141,14 @@ void WTWiFiListViewTest::onlyRefreshReadsTheHostState()
     ListBed bed;
     bed.enter();
     QCOMPARE(bed.list().currentSSID(), u"Office"_s);
-    bed.hostWiFi.now = joinedTo(u"Cafe"_s);
+    bed.hostWiFi.now = ListBed::joinedTo(u"Cafe"_s);
 
     bed.click("previous");
     LogCollector log;
     bed.enter();
     QCOMPARE(log.lines().filter(u"selectedSSID:"_s).size(), 1);
 
-    bed.hostWiFi.now = joinedTo(u"Home"_s);
+    bed.hostWiFi.now = ListBed::joinedTo(u"Home"_s);
     log.clear();
     bed.clickAndWait("updateButton");
     QCOMPARE(log.lines().filter(u"selectedSSID:"_s), QStringList{u"info: selectedSSID:Home"_s});
@@ -459,7 +381,7 @@ void WTWiFiListViewTest::storedPasswordReachesThePrinter()
 {
     const QString network = u"Ça va? ☕"_s;
     ListBed bed(ScanPermission::Allowed, network);
-    bed.hostWiFi.networks = std::vector{home, VisibleNetwork{network, 7, 50}};
+    bed.hostWiFi.networks = std::vector{ListBed::home, VisibleNetwork{network, 7, 50}};
     LogCollector log;
     bed.enter();
     bed.click("btn_nextStep");

@@ -1,0 +1,199 @@
+#include "FaultMatrix.h"
+
+#include <array>
+#include <functional>
+
+using namespace std::chrono_literals;
+
+namespace
+{
+
+using enum Ending;
+
+enum Command : quint16 {
+    WakeUp = 0xFF21,
+    Capability = 0xFF81,
+    Configuration = 0xFF80,
+    Address = 0xFF0F,
+    InformationPage = 0xFF84,
+};
+
+/// By FaultPlace; absent where the fault cannot happen.
+using Endings = std::array<std::optional<Ending>, 6>;
+
+/// One row of the matrix: what the printer does, and where it leads at each place.
+struct FaultRow {
+    const char *name;
+    PrinterFault fault;
+    /// What happens on the bus as soon as the frame before has arrived.
+    std::vector<BusEvent> between;
+    Endings endings;
+};
+
+/// A printer that has gone, or is in other hands, stays so: the question after the wake-up fails.
+constexpr Endings lost{Unsupported, Unsupported, Unsupported, Failed, Failed, Failed};
+/// The step is lost, the printer is not. A wake-up without answer changes nothing, an address is asked for again.
+constexpr Endings unanswered{Complete, Complete, Unsupported, ConfigFailed, Complete, Failed};
+constexpr Endings harmless{Complete, Complete, Complete, Complete, Complete, Complete};
+/// The next question gets the late answer of the one before: of the same kind it serves as well.
+constexpr Endings late{Unsupported, Unsupported, Unsupported, Complete, Complete, Failed};
+/// The configuration takes nothing but 1 for success, the capability only what it knows; the others do not mind.
+constexpr Endings unknown{Complete, Complete, Unsupported, ConfigFailed, Complete, Complete};
+/// The header alone decides; only the address needs its data.
+constexpr Endings withoutAddress{Complete, Complete, Complete, Complete, Complete, Failed};
+constexpr Endings tooShortAddress{Complete, Complete, Complete, Complete, Unanswered, Unanswered};
+/// A run pauses before its address queries alone. Elsewhere one frame follows the other, and the printer leaves in the
+/// exchange before.
+constexpr Endings lostBefore{Unsupported, Unsupported, Unsupported, Unsupported, Failed, Failed};
+constexpr auto none = std::nullopt;
+constexpr Endings harmlessInPause{none, Complete, none, none, Complete, Complete};
+
+constexpr qsizetype insideFrame = 20;
+constexpr qsizetype insideHeader = 8;
+/// Longer than any step waits but the configuration, which the printer may take three minutes for.
+constexpr auto lateAnswer = 70s;
+
+std::vector<FaultRow> rows()
+{
+    using enum BusEvent::Action;
+    return {
+        // The frame on its way.
+        {"takes nothing", {.acceptOnly = 0}, {}, unanswered},
+        {"takes half a frame", {.acceptOnly = insideFrame}, {}, unanswered},
+        {"takes its time", {.acceptDelay = 4s}, {}, harmless},
+        {"stalls", {.stallOut = true}, {}, unanswered},
+        {"unplugged in the frame", {.unplugOut = insideFrame}, {}, lost},
+        // The reply.
+        {"silent", {.silent = true}, {}, unanswered},
+        {"answers late", {.delay = lateAnswer}, {}, late},
+        {"wrong header", {.echo = 0xFF82}, {}, unanswered},
+        {"unknown result", {.result = 0x1234}, {}, unknown},
+        {"wrong length", {.lengthField = 0xFFFF}, {}, withoutAddress},
+        {"no data", {.noData = true}, {}, withoutAddress},
+        {"garbage as data", {.data = QByteArray(64, '\xFE')}, {}, withoutAddress},
+        {"data too short", {.data = "192.168.1.7"}, {}, tooShortAddress},
+        // The reply on its way.
+        {"stalls the reply", {.stallIn = true}, {}, unanswered},
+        {"short header", {.cutAt = insideHeader}, {}, unanswered},
+        {"stalls in the header", {.cutAt = insideHeader, .stallIn = true}, {}, unanswered},
+        {"unplugged in the header", {.unplugIn = insideHeader}, {}, lost},
+        {"garbage before", {.garbage = "garbage"}, {}, unanswered},
+        {"garbage behind", {.trailingGarbage = "garbage"}, {}, harmless},
+        {"in small pieces", {.slices = {0, 1, 0, 7, 3}}, {}, harmless},
+        {"in slow pieces", {.slices = {4, 4, 4}, .sliceDelay = 1s}, {}, harmless},
+        // Between two frames.
+        {"unplugged", {}, {{.action = Unplug}}, lostBefore},
+        {"unplugged and back",
+         {},
+         {{.action = Unplug, .delay = 500ms}, {.action = Plug, .delay = 1s}},
+         harmlessInPause},
+        {"held", {}, {{.action = Hold}}, lost},
+        {"held for a moment", {}, {{.action = Hold}, {.action = Release, .delay = 500ms}}, harmless},
+        {"not permitted", {}, {{.action = Deny}}, lost},
+    };
+}
+
+struct Place {
+    FaultPlace place;
+    const char *name;
+    quint16 command;
+    int attempts;
+};
+
+constexpr std::array places{
+    Place{FaultPlace::InformationPage, "information page", InformationPage, 1},
+    Place{FaultPlace::WakeUp, "wake-up", WakeUp, 1},
+    Place{FaultPlace::Capability, "capability", Capability, 1},
+    Place{FaultPlace::Configuration, "configuration", Configuration, 3},
+    Place{FaultPlace::Address, "address", Address, 6},
+    Place{FaultPlace::LastAddress, "address", Address, 1},
+};
+
+constexpr int lastQuery = 7;
+
+/// The command, and which time it comes.
+using Occurrence = BusEvent::Cause;
+
+Occurrence occurrenceAt(const Place &place, int attempt)
+{
+    return {place.command, place.place == FaultPlace::LastAddress ? lastQuery : attempt};
+}
+
+/// The frame that arrives just before; absent for the first one.
+std::optional<Occurrence> before(FaultPlace place, const Occurrence &step)
+{
+    switch (place) {
+    case FaultPlace::WakeUp:
+        return {};
+    case FaultPlace::InformationPage:
+    case FaultPlace::Capability:
+        return Occurrence{WakeUp, step.occurrence};
+    case FaultPlace::Configuration:
+        return Occurrence{Capability, step.occurrence};
+    case FaultPlace::Address:
+    case FaultPlace::LastAddress:
+        if (step.occurrence > 1)
+            return Occurrence{Address, step.occurrence - 1};
+        return Occurrence{Configuration, 1};
+    }
+    Q_UNREACHABLE();
+}
+
+/// What an earlier attempt is answered, so that there is another one.
+PrinterFault negativeAnswer(const Occurrence &attempt)
+{
+    if (attempt.command == Configuration)
+        return {.command = attempt.command, .occurrence = attempt.occurrence, .result = 2};
+    return {.command = attempt.command, .occurrence = attempt.occurrence, .data = QByteArray()};
+}
+
+FaultCase makeCase(const FaultRow &row, const Place &place, Ending ending, int attempt)
+{
+    const Occurrence step = occurrenceAt(place, attempt);
+    FaultCase made;
+    made.name = QByteArray(place.name) + ' ' + QByteArray::number(step.occurrence) + ": " + row.name;
+    made.place = place.place;
+    made.ending = ending;
+    for (int earlier = 1; earlier < step.occurrence; ++earlier)
+        made.script.faults.push_back(negativeAnswer({step.command, earlier}));
+    if (place.place == FaultPlace::Configuration)
+        made.refusals = attempt - 1;
+    PrinterFault fault = row.fault;
+    fault.command = step.command;
+    fault.occurrence = step.occurrence;
+    made.script.faults.push_back(fault);
+    for (BusEvent event : row.between) {
+        event.after = before(place.place, step);
+        made.script.events.push_back(event);
+    }
+    return made;
+}
+
+} // namespace
+
+std::vector<FaultCase> FaultMatrix::everyAttempt()
+{
+    std::vector<FaultCase> cases;
+    for (const FaultRow &row : rows()) {
+        for (const Place &place : places) {
+            const auto ending = row.endings.at(std::size_t(place.place));
+            for (int attempt = 1; ending && attempt <= place.attempts; ++attempt)
+                cases.push_back(makeCase(row, place, *ending, attempt));
+        }
+    }
+    return cases;
+}
+
+std::vector<FaultCase> FaultMatrix::everyPlace()
+{
+    std::vector<FaultCase> cases;
+    int turn = 0;
+    for (const FaultRow &row : rows()) {
+        for (const Place &place : places) {
+            if (const auto ending = row.endings.at(std::size_t(place.place)))
+                cases.push_back(makeCase(row, place, *ending, turn % place.attempts + 1));
+        }
+        ++turn;
+    }
+    return cases;
+}
