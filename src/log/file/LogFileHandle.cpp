@@ -9,8 +9,9 @@
 FileError LogFileHandle::open(const QString &path)
 {
     m_path = path;
+    m_ownEnd = 0;
     // Not blocking, since opening a pipe that bears a log file's name would wait for a reader.
-    FileDescriptor file(::open(QFile::encodeName(path), O_WRONLY | O_APPEND | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    FileDescriptor file(::open(QFile::encodeName(path), O_RDWR | O_APPEND | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
     struct stat status {
     };
     if (!file.isOpen() || fstat(file.get(), &status) != 0)
@@ -27,8 +28,17 @@ FileError LogFileHandle::seekToEnd()
     return m_end < 0 ? error() : FileError{};
 }
 
+bool LogFileHandle::endsInTornLine() const
+{
+    if (m_end <= 0 || m_end == m_ownEnd)
+        return false;
+    char last = '\n';
+    return pread(m_file.get(), &last, sizeof last, m_end - 1) == sizeof last && last != '\n';
+}
+
 FileError LogFileHandle::write(QByteArrayView bytes)
 {
+    const off_t newEnd = m_end + bytes.size();
     while (!bytes.isEmpty()) {
         const ssize_t written = ::write(m_file.get(), bytes.data(), static_cast<std::size_t>(bytes.size()));
         if (written < 0 && errno != EINTR) {
@@ -41,6 +51,7 @@ FileError LogFileHandle::write(QByteArrayView bytes)
         if (written > 0)
             bytes = bytes.sliced(written);
     }
+    m_ownEnd = newEnd;
     return {};
 }
 

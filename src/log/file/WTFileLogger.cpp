@@ -28,20 +28,22 @@ void reportException(const QString &what)
         LogConsole::report("WTFileLogger.logMessage: Too many exceptions -- will not log any more of them.");
 }
 
-/// The error tells that nothing was tried to be written.
-FileError append(LogFileHandle &file, const QByteArray &data)
+/// `endsTornLine`: what a killed writer left of a line gets its line end first. The error tells that nothing was tried
+/// to be written.
+FileError append(LogFileHandle &file, const QByteArray &data, bool endsTornLine)
 {
     if (FileError error = file.seekToEnd()) {
         LogConsole::report("WTFileLogger: Failed to seek to end of file: %@", error.description());
         return error;
     }
-    if (const FileError error = file.write(data))
+    const bool isTorn = endsTornLine && file.endsInTornLine();
+    if (const FileError error = file.write(isTorn ? '\n' + data : data))
         LogConsole::report("WTFileLogger: Failed to write data: %@", error.description());
     return {};
 }
 
 /// The same under the lock, so that no other process writes in between.
-FileError appendLocked(LogFileHandle &file, const QByteArray &data)
+FileError appendLocked(LogFileHandle &file, const QByteArray &data, bool endsTornLine)
 {
     const LogFileLock lock(file.descriptor());
     if (const FileError &error = lock.error()) {
@@ -50,7 +52,7 @@ FileError appendLocked(LogFileHandle &file, const QByteArray &data)
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
         return error;
     }
-    return append(file, data);
+    return append(file, data, endsTornLine);
 }
 
 } // namespace
@@ -206,14 +208,14 @@ void WTFileLogger::lt_appendData(const QByteArray &data)
         LogFileHandle *const file = lt_currentLogFileHandle();
         if (!file)
             return;
-        const FileError error = appendLocked(*file, data);
+        const FileError error = appendLocked(*file, data, m_appendNewline);
         if (!error)
             break;
         if (error.isPassing())
             continue;
         // The descriptor is bad. When a fresh one can be locked no more than the old one, locks are not to be had.
         if (isReopened) {
-            static_cast<void>(append(*file, data));
+            static_cast<void>(append(*file, data, m_appendNewline));
             break;
         }
         lt_closeLogFile();

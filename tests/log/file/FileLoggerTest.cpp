@@ -379,12 +379,12 @@ private Q_SLOTS:
     {
         const LogBed bed;
         auto logger = loggerOf<WTFileLogger>(std::make_shared<WTLogFileManagerDefault>(bed.folder()));
-        logger->logData("one\n");
+        logger->logData("one\nthe line of a writer that was kil");
         logger->flush();
         logger.reset();
         loggerOf<WTFileLogger>(std::make_shared<WTLogFileManagerDefault>(bed.folder()))->logData("two\n");
         QCOMPARE(bed.names().size(), 1);
-        QCOMPARE(bed.lines(), QStringList({u"one"_s, u"two"_s}));
+        QCOMPARE(bed.lines(), QStringList({u"one"_s, u"the line of a writer that was kil"_s, u"two"_s}));
         QCOMPARE(permissionsOf(bed.path(bed.names().first())), 0600U);
         QCOMPARE(bed.console(), QString());
     }
