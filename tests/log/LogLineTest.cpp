@@ -1,12 +1,12 @@
 #include "CrashReport.h"
 #include "JournalLog.h"
-#include "SignalReason.h"
 #include "WTASLLogger.h"
 #include "WTLogFormatter.h"
 #include "WTLogMessage.h"
 #include "WTOSLogger.h"
 
 #include <QTest>
+#include <csignal>
 #include <ctime>
 
 using namespace Qt::Literals::StringLiterals;
@@ -80,8 +80,6 @@ private Q_SLOTS:
     void sendsWhatTheFormatterMakes();
     void opensOneSystemLogConnection();
     void reachesTheRealLogs();
-    void namesSignals_data();
-    void namesSignals();
     void reportsACrash();
 };
 
@@ -193,23 +191,6 @@ void LogLineTest::reachesTheRealLogs()
     journal->logMessage(messageWith(8, u"A test of the journal logger."_s));
     JournalLog(u"tests"_s, u"log"_s).send(OSLogType::Debug, u"A test of the journal's fields."_s);
     WTASLLogger::sharedInstance()->logMessage(messageWith(8, u"A test of the system logger: %s."_s));
-}
-
-void LogLineTest::namesSignals_data()
-{
-    QTest::addColumn<int>("signal");
-    QTest::addColumn<QString>("expected");
-
-    QTest::newRow("hang-up") << SIGHUP << u"Signal SIGHUP was raised!\n"_s;
-    QTest::newRow("segmentation") << SIGSEGV << u"Signal SIGSEGV was raised!\n"_s;
-    QTest::newRow("trap") << SIGTRAP << u"Signal 5 was raised!"_s;
-    QTest::newRow("not installed") << SIGUSR1 << u"Signal 10 was raised!"_s;
-}
-
-void LogLineTest::namesSignals()
-{
-    QFETCH(int, signal);
-    QTEST(signalReason(signal), "expected");
 }
 
 void LogLineTest::reportsACrash()

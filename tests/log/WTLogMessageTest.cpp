@@ -45,7 +45,6 @@ private Q_SLOTS:
     void namesTheFile();
     void fillsItsFormat();
     void knowsItsThread();
-    void takesTheTimeWhenNoneIsGiven();
     void equalsAMessageThatSaysTheSame();
     void differsInAnyField_data();
     void differsInAnyField();
@@ -97,14 +96,6 @@ void WTLogMessageTest::knowsItsThread()
     QCOMPARE(there->queueLabel(), u"a queue"_s);
     QCOMPARE(there->qos(), quint32{0});
     QCOMPARE(Recipe().made().threadID(), QString::number(getpid()));
-}
-
-void WTLogMessageTest::takesTheTimeWhenNoneIsGiven()
-{
-    const Date before = std::chrono::system_clock::now();
-    const auto message = WTLogMessage::initWithMessage({}, 0, 0, 0, {}, {}, 0, std::nullopt);
-    QVERIFY(message.timestamp() >= before && message.timestamp() <= std::chrono::system_clock::now());
-    QVERIFY(Recipe().made().timestamp() == moment);
 }
 
 void WTLogMessageTest::equalsAMessageThatSaysTheSame()

@@ -158,7 +158,6 @@ private Q_SLOTS:
         row("quota alone", 0, 3 * mebibyte - 1, 8, mebibyte, false, 2);
         row("newest over the quota", 7, 20 * mebibyte, 8, 100 * mebibyte, false, 1);
         row("newest over the quota, archived", 7, 20 * mebibyte, 8, 100 * mebibyte, true, 0);
-        row("ten thousand", 7, 20 * mebibyte, 10000, 0, false, 7);
     }
 
     void prunes()

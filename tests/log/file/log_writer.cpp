@@ -1,24 +1,20 @@
-/// A process that logs to a folder, to be killed or to crash:
+/// A process that logs to a folder, to be killed:
 ///
-///     log_writer FOLDER flood THREADS LINES   each thread logs its lines synchronously, and tells each on standard
-///     output log_writer FOLDER segv|abort|fpe|exception
+///     log_writer FOLDER THREADS LINES
 ///
+/// Each thread logs its lines synchronously, and tells each on standard output.
 /// A line is "thread number filling"; the filling's length follows from the number, so that a torn line shows.
 #include "Log.h"
 #include "WTFileLogger.h"
 #include "WTLogFileManagerDefault.h"
 #include "WTLogFormatter.h"
 
-#include <QCoreApplication>
 #include <QFile>
-#include <csignal>
-#include <stdexcept>
+#include <cstdlib>
 #include <string>
 #include <thread>
 #include <unistd.h>
 #include <vector>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
@@ -42,31 +38,17 @@ void flood(int threads, int lines)
         writer.join();
 }
 
-void crash(const QByteArray &fault)
-{
-    logInfo("before the end");
-    if (fault == "segv")
-        raise(SIGSEGV);
-    if (fault == "fpe")
-        raise(SIGFPE);
-    if (fault == "exception")
-        throw std::runtime_error("nobody catches this");
-    std::abort();
-}
-
 } // namespace
 
 int main(int argumentCount, char **arguments)
 {
+    if (argumentCount != 4)
+        return 2;
     const QString folder = QFile::decodeName(arguments[1]);
     const auto logger = std::make_shared<WTFileLogger>(std::make_shared<WTLogFileManagerDefault>(folder));
     logger->setLogFormatter(std::make_shared<WTLogFormatter>());
     logger->setMaximumFileSize(0);
     WTLog::addLogger(logger);
-    const QByteArray mode = arguments[2];
-    if (mode == "flood" && argumentCount == 5)
-        flood(std::atoi(arguments[3]), std::atoi(arguments[4]));
-    else
-        crash(mode);
+    flood(std::atoi(arguments[2]), std::atoi(arguments[3]));
     return 0;
 }
