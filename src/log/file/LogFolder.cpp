@@ -74,6 +74,15 @@ bool writeAll(int descriptor, QByteArrayView bytes)
     return true;
 }
 
+/// For file systems without hard links, such as FAT: the file is there a moment before its contents.
+FileError createFileInPlace(const QString &path, const QByteArray &contents)
+{
+    constexpr mode_t userOnlyFile = 0600;
+    const FileDescriptor file(::open(QFile::encodeName(path), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, userOnlyFile));
+    const bool isWritten = file.isOpen() && writeAll(file.get(), contents);
+    return isWritten ? FileError{} : FileError::ofLastCall(path);
+}
+
 } // namespace
 
 QString LogFolder::processName()
@@ -115,8 +124,10 @@ QStringList LogFolder::entries(const QString &path)
 FileError LogFolder::createFile(const QString &path, const QByteArray &contents)
 {
     const TemporaryFile file(path);
-    if (file.descriptor() < 0 || !writeAll(file.descriptor(), contents) ||
-        link(file.name(), QFile::encodeName(path)) != 0)
+    if (file.descriptor() < 0 || !writeAll(file.descriptor(), contents))
         return FileError::ofLastCall(path);
-    return {};
+    if (link(file.name(), QFile::encodeName(path)) == 0)
+        return {};
+    const bool knowsNoLinks = errno == EPERM || errno == EOPNOTSUPP;
+    return knowsNoLinks ? createFileInPlace(path, contents) : FileError::ofLastCall(path);
 }

@@ -21,7 +21,8 @@ FileError create(const QString &path);
 /// The names in the folder, in no order; none when it cannot be read.
 QStringList entries(const QString &path);
 
-/// Creates the file with these contents in one step, for the user alone. Never touches a file that exists:
+/// Creates the file with these contents, in one step where the file system has hard links, for the user alone. Never
+/// touches a file that exists:
 /// `fileExists`.
 FileError createFile(const QString &path, const QByteArray &contents);
 
