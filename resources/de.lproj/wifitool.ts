@@ -389,11 +389,11 @@
     </message>
     <message>
         <source>打印机配置失败，当前打印机网络未开启，无法进行配网。</source>
-        <translation>Die Einrichtung ist fehlgeschlagen: Das Netzwerk des Druckers ist ausgeschaltet, er lässt sich so nicht einrichten.</translation>
+        <translation>Die Einrichtung ist fehlgeschlagen: Am Drucker ist das WLAN ausgeschaltet.</translation>
     </message>
     <message>
         <source>配网失败</source>
-        <translation>Die Netzwerkeinrichtung ist fehlgeschlagen</translation>
+        <translation>Die Netzwerkeinrichtung ist fehlgeschlagen.</translation>
     </message>
     <message>
         <source>打印机配置失败，当前打印机Wi-Fi模块未装配，无法进行配网。</source>
@@ -405,7 +405,7 @@
     </message>
     <message>
         <source>打印机配置失败，系统升级过程中，不允许配置网络。</source>
-        <translation>Die Einrichtung ist fehlgeschlagen: Der Drucker aktualisiert sich und nimmt solange keine Netzwerkeinrichtung an.</translation>
+        <translation>Die Einrichtung ist fehlgeschlagen: Der Drucker aktualisiert sich gerade und kann jetzt nicht eingerichtet werden.</translation>
     </message>
     <message>
         <source>请检查打印机是否已开机、数据线是否插好、网络名称和密码是否正确，然后重新打开本工具再试一次。</source>
@@ -441,7 +441,7 @@
     </message>
     <message>
         <source>打印机没有接受这次配置。</source>
-        <translation>Der Drucker hat die Einrichtung nicht angenommen.</translation>
+        <translation>Der Drucker hat die Einstellungen nicht angenommen.</translation>
     </message>
     <message>
         <source>请检查网络名称和密码（注意大小写），并确认打印机已开机、数据线已插好、离路由器不太远。然后返回，再试一次。</source>

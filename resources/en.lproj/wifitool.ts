@@ -125,7 +125,7 @@
     </message>
     <message>
         <source>没有密码的网络请留空。</source>
-        <translation>Leave it empty for a network without a password.</translation>
+        <translation>Leave empty for a network without a password.</translation>
     </message>
     <message>
         <source>显示密码</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>此电脑的无线网络已关闭，无法列出附近的网络。请输入打印机要连接的网络。</source>
-        <translation>This computer's Wi-Fi is off, so it cannot list the networks around you. Type the network that the printer is to join.</translation>
+        <translation>This computer's Wi-Fi is off, so it cannot list the networks nearby. Enter the network that the printer should join.</translation>
     </message>
     <message>
         <source>名称太长：最多 32 个字节。</source>
@@ -253,7 +253,7 @@
     </message>
     <message>
         <source>按一下路由器上的WPS按钮即可。</source>
-        <translation>You just press the WPS button on the router.</translation>
+        <translation>Just press the WPS button on the router.</translation>
     </message>
     <message>
         <source>PIN码方式</source>
@@ -261,15 +261,15 @@
     </message>
     <message>
         <source>路由器没有WPS按钮时，在它的设置页面输入PIN码。</source>
-        <translation>For routers without a WPS button: you type the PIN on the router's settings page.</translation>
+        <translation>For routers without a WPS button: type a PIN on the router's settings page.</translation>
     </message>
     <message>
         <source>选择WPS的方式</source>
-        <translation>Choose the kind of WPS</translation>
+        <translation>Choose how to use WPS</translation>
     </message>
     <message>
         <source>两种方式都在打印机的菜单里。路由器上有WPS按钮时，按钮方式最简单。</source>
-        <translation>Both are in the printer's menu. If the router has a WPS button, the push button is the easiest.</translation>
+        <translation>Both are in the printer's menu. If your router has a WPS button, the push button is easier.</translation>
     </message>
     <message>
         <source>用按钮连接</source>
@@ -389,27 +389,27 @@
     </message>
     <message>
         <source>打印机配置失败，当前打印机网络未开启，无法进行配网。</source>
-        <translation>The set-up failed: the printer's network is switched off, so it cannot be set up.</translation>
+        <translation>Setup failed: Wi-Fi is switched off on the printer.</translation>
     </message>
     <message>
         <source>配网失败</source>
-        <translation>The network set-up failed</translation>
+        <translation>Network setup failed.</translation>
     </message>
     <message>
         <source>打印机配置失败，当前打印机Wi-Fi模块未装配，无法进行配网。</source>
-        <translation>The set-up failed: the printer has no Wi-Fi module, so it cannot be set up.</translation>
+        <translation>Setup failed: the printer has no Wi-Fi module.</translation>
     </message>
     <message>
         <source>Wi-Fi故障，打印机配置失败。</source>
-        <translation>The set-up failed: the printer's Wi-Fi has a fault.</translation>
+        <translation>Setup failed: the printer's Wi-Fi is faulty.</translation>
     </message>
     <message>
         <source>打印机配置失败，系统升级过程中，不允许配置网络。</source>
-        <translation>The set-up failed: the printer is updating itself and does not take a network set-up meanwhile.</translation>
+        <translation>Setup failed: the printer is updating its system and cannot be set up now.</translation>
     </message>
     <message>
         <source>请检查打印机是否已开机、数据线是否插好、网络名称和密码是否正确，然后重新打开本工具再试一次。</source>
-        <translation>Check that the printer is on, that the cable is plugged in firmly, and that network name and password are right. Then start this program again.</translation>
+        <translation>Check that the printer is on, that the cable is plugged in firmly, and that the network name and password are right. Then start this program again.</translation>
     </message>
     <message>
         <source>这台打印机没有安装Wi-Fi模块。请继续使用USB数据线打印，或向经销商咨询Wi-Fi模块。</source>
@@ -437,15 +437,15 @@
     </message>
     <message>
         <source>配置没有成功</source>
-        <translation>The set-up did not succeed</translation>
+        <translation>Setup did not succeed</translation>
     </message>
     <message>
         <source>打印机没有接受这次配置。</source>
-        <translation>The printer did not accept the set-up.</translation>
+        <translation>The printer did not accept the settings.</translation>
     </message>
     <message>
         <source>请检查网络名称和密码（注意大小写），并确认打印机已开机、数据线已插好、离路由器不太远。然后返回，再试一次。</source>
-        <translation>Check network name and password (upper and lower case count), and that the printer is on, plugged in and not too far from the router. Then go back and try again.</translation>
+        <translation>Check the network name and password (upper and lower case matter), and that the printer is on, plugged in and not too far from the router. Then go back and try again.</translation>
     </message>
     <message>
         <source>没有连接打印机</source>

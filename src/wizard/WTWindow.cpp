@@ -1,5 +1,7 @@
 #include "WTWindow.h"
 
+#include "TextStyle.h"
+#include "WTApp.h"
 #include "WTView.h"
 #include "showAlert.h"
 
@@ -19,6 +21,7 @@ WTWindow::WTWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_screens(new QStackedWidget)
 {
+    TextStyle::useGlyphsOf(WTApp::shared().appLanguage().value_or(QString()));
     setCentralWidget(m_screens);
     setMinimumSize(smallestSize);
     resize(firstSize);

@@ -11,11 +11,12 @@ namespace
 constexpr int ringRoom = 4;    ///< On every side of the shape.
 constexpr qreal ringWidth = 2; ///< Half of the room stays white between shape and ring.
 constexpr int shapeHeight = 40;
+constexpr int leadingShapeHeight = 24;
 constexpr int shapeWidth = 128; ///< At least.
 constexpr int padding = 24;
 constexpr int imageSize = 20;
 constexpr int imageGap = 8;
-constexpr qreal imageInset = 2.5; ///< Empty edge of a check box's picture.
+constexpr qreal imageInset = 1.5; ///< Empty edge of a check box's picture.
 
 int titleWidth(const QAbstractButton &button)
 {
@@ -33,17 +34,19 @@ void ButtonLook::paint(QPainter &painter, const QAbstractButton &button) const
     painter.setBrush(background.isValid() ? QBrush(background) : QBrush(Qt::NoBrush));
     painter.drawRoundedRect(shape.adjusted(inset, inset, -inset, -inset), cornerRadius, cornerRadius);
 
-    if (button.hasFocus()) {
-        const qreal outside = ringRoom - ringWidth / 2;
-        painter.setPen(QPen(Palette::focusBlue, ringWidth));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(shape.adjusted(-outside, -outside, outside, outside), cornerRadius + outside,
-                                cornerRadius + outside);
-    }
-
     const int imageRoom = image.isNull() ? 0 : imageSize + imageGap;
     const int width = titleWidth(button);
-    const qreal left = leading ? shape.left() - imageInset : shape.center().x() - (imageRoom + width) / 2.0;
+    const qreal left = leading ? -imageInset : shape.center().x() - (imageRoom + width) / 2.0;
+    if (button.hasFocus()) {
+        const qreal outside = ringRoom - ringWidth / 2;
+        QRectF ring = shape.adjusted(-outside, -outside, outside, outside);
+        // A check box is flush with what stands above it, which leaves the ring room around its title only.
+        if (leading)
+            ring.setLeft(left + imageRoom - ringRoom);
+        painter.setPen(QPen(Palette::focusBlue, ringWidth));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(ring, cornerRadius + outside, cornerRadius + outside);
+    }
     image.paint(painter, QRectF(left, shape.center().y() - imageSize / 2.0, imageSize, imageSize));
     painter.setPen(text.isValid() ? text : Palette::heading);
     painter.drawText(QRectF(left + imageRoom, shape.top(), width + 1, shape.height()),
@@ -53,8 +56,9 @@ void ButtonLook::paint(QPainter &painter, const QAbstractButton &button) const
 QSize ButtonLook::sizeHint(const QAbstractButton &button, const Picture &image, bool leading)
 {
     const int content = titleWidth(button) + (image.isNull() ? 0 : imageSize + imageGap);
-    const int width = leading ? content + imageGap : qMax(shapeWidth, content + 2 * padding);
-    return {width + 2 * ringRoom, shapeHeight + 2 * ringRoom};
+    if (leading)
+        return {content + imageGap, leadingShapeHeight + 2 * ringRoom};
+    return {qMax(shapeWidth, content + 2 * padding) + 2 * ringRoom, shapeHeight + 2 * ringRoom};
 }
 
 QString ButtonLook::spokenTitle(const QString &title)

@@ -42,7 +42,7 @@ ScreenFrame::ScreenFrame(WTView *screen, WizardStep step)
     whole->addWidget(this);
 
     auto *page = new QVBoxLayout;
-    page->setContentsMargins(pageMargin, 8, pageMargin, 8);
+    page->setContentsMargins(pageMargin, 8, pageMargin, 16);
     page->setSpacing(0);
     page->addWidget(m_heading);
     page->addSpacing(8);

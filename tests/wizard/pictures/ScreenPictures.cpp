@@ -1,53 +1,69 @@
-// screen_pictures DIRECTORY LANGUAGE [WIDTH HEIGHT]: saves a picture of every screen, for people to look at.
-#include "WTApp.h"
-#include "WTConfigFailedView.h"
-#include "WTFailedView.h"
-#include "WTInstallingView.h"
+// Saves a picture of every screen as it looks in the middle of a job, and one sheet with all of them, for people to
+// look at. The scale factor is the toolkit's: QT_SCALE_FACTOR=2 screen_pictures ...
+#include "ScreenContents.h"
 #include "WTManager.h"
-#include "WTNetworkWithManualAddition.h"
-#include "WTWiFiListView.h"
-#include "WizardBed.h"
+#include "WTView.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QDir>
-#include <QLineEdit>
+#include <QPainter>
 #include <QTest>
-#include <cstdio>
+#include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
 
-/// What a screen needs before it can show itself as in a real run.
-void prepare(WizardBed &bed, WTView *screen, const WTPrinterPtr &printer)
+constexpr int sheetColumns = 3;
+constexpr int sheetGap = 8;
+constexpr double sheetScale = 0.75;
+
+struct Shot {
+    QString name;
+    QImage image;
+};
+
+Shot takeScreen(WizardBed &bed, WTView *screen)
 {
-    if (auto *manual = qobject_cast<WTNetworkWithManualAddition *>(screen)) {
-        manual->setPrinter(printer);
-        manual->findChild<QLineEdit *>(u"ssidTextField"_s)->setText(u"Home network"_s);
-        manual->findChild<QLineEdit *>(u"passwordTextField"_s)->setText(u"correct horse"_s);
-    } else if (auto *list = qobject_cast<WTWiFiListView *>(screen)) {
-        bed.hostWiFi.now = {.interfaceName = u"wlan0"_s, .poweredOn = true, .ssid = u"Home network"_s, .security = 4};
-        bed.hostWiFi.networks = std::vector<VisibleNetwork>{
-            {u"Home network"_s, 7, 82}, {u"Neighbour with quite a long network name"_s, 9, 71},
-            {u"咖啡馆"_s, 1, 64},       {u"Office"_s, 10, 45},
-            {u"Old router"_s, 2, 30},   {u"Garden"_s, 11, 12}};
-        WTApp::shared().checkPcNetState();
-        WTApp::shared().fetchWIFIPWD();
-        QTest::qWait(0);
-        list->setPrinter(printer);
-        list->fetchWIFIList();
-        QTest::qWait(0);
-    } else if (auto *run = qobject_cast<WTInstallingView *>(screen)) {
-        auto wifi = std::make_shared<WTWiFi>();
-        wifi->SSID = u"Home network"_s;
-        run->setPrinter(printer);
-        run->setWifi(wifi);
-        run->setProgress(35);
-    } else if (auto *failed = qobject_cast<WTFailedView *>(screen)) {
-        failed->setShowWiFiCapabilityError(true);
-        failed->setWifiCapabilityError(2);
+    fillScreen(bed, screen);
+    QTest::qWait(50);
+    return {QString::fromLatin1(screen->metaObject()->className()), bed.window().grab().toImage()};
+}
+
+Shot takeMoment(WizardBed &bed, const Moment &moment)
+{
+    QWidget *sheet = moment.show(bed);
+    QTest::qWait(50);
+    QPixmap picture = bed.window().grab();
+    if (sheet) {
+        const QPixmap above = sheet->grab();
+        const QPoint middle((bed.window().width() - sheet->width()) / 2, (bed.window().height() - sheet->height()) / 2);
+        QPainter painter(&picture);
+        painter.fillRect(bed.window().rect(), QColor(0, 0, 0, 64));
+        painter.drawPixmap(middle, above);
+        delete sheet;
     }
+    return {QLatin1StringView(moment.name), picture.toImage()};
+}
+
+/// All pictures on one, each at three quarters of its size.
+QImage contactSheet(const QList<Shot> &shots)
+{
+    const QSize cell = shots.constFirst().image.size() * sheetScale;
+    const int rows = int(std::ceil(double(shots.size()) / sheetColumns));
+    QImage sheet((cell.width() + sheetGap) * sheetColumns + sheetGap, (cell.height() + sheetGap) * rows + sheetGap,
+                 QImage::Format_RGB32);
+    sheet.fill(Qt::gray);
+    QPainter painter(&sheet);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    for (int index = 0; index < shots.size(); ++index) {
+        const QPoint place(sheetGap + index % sheetColumns * (cell.width() + sheetGap),
+                           sheetGap + index / sheetColumns * (cell.height() + sheetGap));
+        painter.drawImage(QRect(place, cell), shots[index].image);
+    }
+    return sheet;
 }
 
 } // namespace
@@ -55,29 +71,38 @@ void prepare(WizardBed &bed, WTView *screen, const WTPrinterPtr &printer)
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
-    const QStringList arguments = QApplication::arguments();
-    if (arguments.size() != 3 && arguments.size() != 5) {
-        std::fputs("usage: screen_pictures DIRECTORY LANGUAGE [WIDTH HEIGHT]\n", stderr);
-        return 2;
-    }
-    const QDir directory(arguments[1]);
+    QCommandLineParser options;
+    options.addPositionalArgument(u"directory"_s, u"Where the pictures go."_s);
+    options.addPositionalArgument(u"language"_s, u"What the screens speak, such as zh-Hans."_s);
+    const QCommandLineOption only(u"screen"_s, u"Take this screen only."_s, u"class"_s);
+    const QCommandLineOption size(u"size"_s, u"The window's size instead of its first one."_s, u"width x height"_s);
+    options.addOptions({only, size});
+    options.addHelpOption();
+    options.process(application);
+    if (options.positionalArguments().size() != 2)
+        options.showHelp(2);
+    const QDir directory(options.positionalArguments().constFirst());
     directory.mkpath(u"."_s);
 
-    WizardBed bed({ModelIdentity()}, arguments[2]);
+    WizardBed bed({ModelIdentity()}, options.positionalArguments().constLast());
     WTManager::shared().setLogPath(u"/home/person/.local/state/Logs/wifitool/wifitool.log"_s);
     if (!bed.findPrinters())
         return 1;
-    if (arguments.size() == 5)
-        bed.window().resize(arguments[3].toInt(), arguments[4].toInt());
-    const WTPrinterPtr printer = WTManager::shared().printerList().firstObject().value();
+    if (const QStringList sides = options.value(size).split(u'x'); sides.size() == 2)
+        bed.window().resize(sides[0].toInt(), sides[1].toInt());
+
+    QList<Shot> shots;
     for (WTView *screen : bed.window().findChildren<WTView *>()) {
-        prepare(bed, screen, printer);
-        bed.window().setContentView(screen);
-        if (qobject_cast<WTInstallingView *>(screen))
-            static_cast<WTInstallingView *>(screen)->setProgress(35);
-        QTest::qWait(50);
-        const QString file = directory.filePath(QString::fromLatin1(screen->metaObject()->className()) + u".png"_s);
-        if (!bed.window().grab().save(file))
+        if (!options.isSet(only) || options.value(only) == QLatin1StringView(screen->metaObject()->className()))
+            shots << takeScreen(bed, screen);
+    }
+    if (!options.isSet(only)) {
+        for (const Moment &moment : moments)
+            shots << takeMoment(bed, moment);
+        shots << Shot{u"contact-sheet"_s, contactSheet(shots)};
+    }
+    for (const Shot &shot : shots) {
+        if (!shot.image.save(directory.filePath(shot.name + u".png"_s)))
             return 1;
     }
     return 0;
