@@ -22,8 +22,7 @@ FileError create(const QString &path);
 QStringList entries(const QString &path);
 
 /// Creates the file with these contents, in one step where the file system has hard links, for the user alone. Never
-/// touches a file that exists:
-/// `fileExists`.
+/// touches a file that exists: `fileExists`.
 FileError createFile(const QString &path, const QByteArray &contents);
 
 } // namespace LogFolder
