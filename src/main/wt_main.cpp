@@ -61,6 +61,8 @@ int wt_main(int argc, char **argv, const Machine &machine, const std::function<v
     begin(machine);
 
     QApplication application(argc, argv);
+    // The desktop finds the window's icon and name by its entry.
+    QGuiApplication::setDesktopFileName(u"com.quillmark.wifitool"_s);
     showToolkitTexts(application);
     WizardScreens screens;
     AppDelegate delegate;

@@ -1,0 +1,81 @@
+#!/usr/bin/env bash
+# Installs the package in a clean Debian tree, starts the program there as an ordinary user, and removes it again.
+#     check.sh PACKAGE.deb
+# The tree is kept in build/package-check; what the program shows is left there as window.png.
+set -euo pipefail
+package=$(realpath "$1")
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+work=$(cd "$here/../.." && pwd)/build/package-check
+passed=0
+failed=0
+mkdir -p "$work"
+
+check() { # NAME COMMAND...
+  local name=$1
+  shift
+  if "$@" >"$work/output" 2>&1; then
+    echo "PASS   : $name"
+    passed=$((passed + 1))
+  else
+    echo "FAIL!  : $name"
+    sed 's/^/    /' "$work/output"
+    failed=$((failed + 1))
+  fi
+}
+
+# The same Debian archives that this machine uses.
+archives() {
+  # The placeholders are apt-get's own.
+  # shellcheck disable=SC2016
+  apt-get indextargets --format 'deb $(REPO_URI) $(CODENAME) $(COMPONENT)' 'Created-By: Packages' 'Origin: Debian' | sort -u
+}
+
+clean_tree() {
+  [ ! -f "$work/tree.tar" ] || return 0
+  archives | mmdebstrap --mode=root --variant=minbase --include=xvfb,xdotool,imagemagick,udev,passwd,fonts-dejavu-core \
+    --aptopt='APT::Install-Recommends false' bookworm "$work/tree.tar.part" -
+  mv "$work/tree.tar.part" "$work/tree.tar"
+}
+
+in_tree() { chroot "$tree" /usr/bin/env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin DEBIAN_FRONTEND=noninteractive "$@"; }
+# Neither what apt keeps about packages, nor logs and caches.
+files_of_tree() { (cd "$tree" && find . -xdev \( -path ./var/lib/dpkg -o -path ./var/lib/apt -o -path ./var/cache -o -path ./var/log -o -path ./tmp -o -path ./home \) -prune -o -print | sort); }
+starts_as_user() {
+  in_tree su user -c 'cd && export LANG=C.UTF-8 && xvfb-run --auto-servernum sh -c "
+    wifitool & program=\$!
+    xdotool search --sync --onlyvisible --pid \$program >window && sleep 2 && import -window root window.png
+    status=\$?; kill -TERM \$program; exit \$status"'
+  cp "$tree/home/user/window.png" "$work/window.png"
+}
+finds_its_resources() { grep -rqs 'Wi-Fi Tool' "$tree/home/user/.local/state/Logs" && ! grep -rqsi 'cannot read\|no such file' "$tree/home/user/.local/state/Logs"; }
+leaves_nothing() { in_tree apt-get -qq purge wifitool && files_of_tree >"$work/after" && diff "$work/before" "$work/after"; }
+
+clean_tree
+tree=$(mktemp -d "$work/tree.XXXXXX")
+trap 'umount -q "$tree/proc" "$tree/dev/shm" 2>/dev/null || true; rm -rf "$tree"' EXIT
+tar -C "$tree" -xf "$work/tree.tar"
+mkdir -p "$tree/dev/shm" && mount -t tmpfs none "$tree/dev/shm" && mount -t proc none "$tree/proc"
+cp "$package" "$tree/tmp/wifitool.deb"
+in_tree useradd --create-home user
+in_tree apt-get -qq update >/dev/null
+# What it depends on stays: only its own files are to go.
+in_tree sh -c 'apt-get -qq install --no-install-recommends /tmp/wifitool.deb && dpkg --purge wifitool' >"$work/output" 2>&1 ||
+  { cat "$work/output"; exit 1; }
+files_of_tree >"$work/before"
+
+unpacked=$work/unpacked
+rm -rf "$unpacked"
+dpkg-deb --extract "$package" "$unpacked"
+id=com.quillmark.wifitool
+check 'desktop entry' desktop-file-validate "$unpacked/usr/share/applications/$id.desktop"
+check 'metainfo' appstreamcli validate --no-net "$unpacked/usr/share/metainfo/$id.metainfo.xml"
+check 'lintian' lintian --fail-on error,warning --allow-root "$package"
+check 'manual page' sh -c "man --warnings -E UTF-8 -l '$unpacked/usr/share/man/man1/wifitool.1.gz' 2>&1 >/dev/null | (! grep .)"
+check 'hardening' "$here/hardening_test.py" "$unpacked/usr/bin/wifitool"
+check 'installs' in_tree dpkg --install /tmp/wifitool.deb
+check 'version' sh -c "chroot '$tree' wifitool --version | grep -q '^Wi-Fi Tool 1'"
+check 'starts as an ordinary user' starts_as_user
+check 'finds its resources' finds_its_resources
+check 'leaves nothing behind' leaves_nothing
+echo "Totals: $passed passed, $failed failed"
+[ "$failed" = 0 ]
