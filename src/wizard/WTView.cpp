@@ -3,6 +3,7 @@
 #include "Log.h"
 #include "Palette.h"
 #include "WTWindow.h"
+#include "accessibleRole.h"
 
 namespace
 {
@@ -17,6 +18,7 @@ QString description(const WTView *view)
 WTView::WTView(QWidget *parent)
     : QWidget(parent)
 {
+    setAccessibleRole(*this, QAccessible::Pane);
 }
 
 WTWindow *WTView::ostraWindow() const

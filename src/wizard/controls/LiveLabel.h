@@ -11,6 +11,6 @@ class LiveLabel : public QLabel
 public:
     LiveLabel(const QString &text, TextStyle::Size size, const QColor &color, QWidget *parent = nullptr);
 
-    /// Nothing is spoken of a text that shows already. The base's `setText` changes in silence.
+    /// Nothing is spoken of a text that shows already.
     void setText(const QString &text);
 };

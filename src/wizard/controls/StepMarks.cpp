@@ -5,6 +5,7 @@
 #include "ScreenFrame.h"
 #include "TextFormat.h"
 #include "TextStyle.h"
+#include "accessibleRole.h"
 
 #include <QPainter>
 
@@ -35,6 +36,7 @@ StepMarks::StepMarks(WizardStep current, QWidget *parent)
 {
     setFixedHeight(rowHeight);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setAccessibleRole(*this, QAccessible::StaticText);
     setAccessibleName(
         formatText(localized(u"第%d步，共%d步：%@"_s), {m_current + 1, int(m_titles.size()), m_titles[m_current]}));
 }

@@ -5,6 +5,8 @@
 
 #include <QKeyEvent>
 #include <QPalette>
+#include <QScopedValueRollback>
+#include <utility>
 
 WTListView::WTListView(QWidget *parent)
     : QListView(parent)
@@ -15,25 +17,67 @@ WTListView::WTListView(QWidget *parent)
     setMouseTracking(true);
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFrameStyle(QFrame::Box | QFrame::Plain);
+    setFrameColor(Palette::frame);
     QPalette colors = palette();
     colors.setColor(QPalette::Base, Palette::white);
     setPalette(colors);
-    connect(this, &QListView::clicked, this, [this](const QModelIndex &index) { Q_EMIT rowChosen(index.row()); });
+    connect(this, &QListView::clicked, this, &WTListView::chooseOnce);
 }
 
 void WTListView::showChosenRow(int row)
 {
+    const QScopedValueRollback guard(m_showsChoice, true);
     setCurrentIndex(model()->index(row, 0));
+}
+
+void WTListView::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
+{
+    QListView::selectionChanged(selected, deselected);
+    if (m_showsChoice || selected.isEmpty())
+        return;
+    const int row = selected.indexes().constFirst().row();
+    showChosenRow(row);
+    m_said = true;
+    Q_EMIT rowChosen(row);
+}
+
+void WTListView::chooseOnce(const QModelIndex &index)
+{
+    if (!std::exchange(m_said, true) && index.isValid())
+        Q_EMIT rowChosen(index.row());
+}
+
+void WTListView::mousePressEvent(QMouseEvent *event)
+{
+    m_said = false;
+    QListView::mousePressEvent(event);
 }
 
 void WTListView::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Space && currentIndex().isValid()) {
-        Q_EMIT rowChosen(currentIndex().row());
-        return;
-    }
-    const QModelIndex before = currentIndex();
-    QListView::keyPressEvent(event);
-    if (currentIndex().isValid() && currentIndex() != before)
-        Q_EMIT rowChosen(currentIndex().row());
+    m_said = false;
+    if (event->key() == Qt::Key_Space)
+        chooseOnce(currentIndex());
+    else
+        QListView::keyPressEvent(event);
+}
+
+void WTListView::setFrameColor(const QColor &color)
+{
+    QPalette colors = palette();
+    colors.setColor(QPalette::WindowText, color);
+    setPalette(colors);
+}
+
+void WTListView::focusInEvent(QFocusEvent *event)
+{
+    QListView::focusInEvent(event);
+    setFrameColor(Palette::focusBlue);
+}
+
+void WTListView::focusOutEvent(QFocusEvent *event)
+{
+    QListView::focusOutEvent(event);
+    setFrameColor(Palette::frame);
 }

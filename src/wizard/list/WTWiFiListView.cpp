@@ -1,5 +1,6 @@
 #include "WTWiFiListView.h"
 
+#include "ButtonLook.h"
 #include "ButtonSchemes.h"
 #include "DesktopPort.h"
 #include "FieldFrame.h"
@@ -216,7 +217,7 @@ void WTWiFiListView::startLoading()
     if (m_returnsKeyboard)
         m_wifiListView->setFocus();
     m_updateButton->setTitle({});
-    m_updateButton->setAccessibleName(localized(u"刷新"_s));
+    m_updateButton->setAccessibleName(ButtonLook::spokenTitle(localized(u"刷新"_s)));
     m_updateButton->setEnabled(false);
 }
 
