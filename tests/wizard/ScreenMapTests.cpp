@@ -30,7 +30,7 @@ public:
 
 } // namespace
 
-/// Which screen follows which, with mouse and keyboard, and what the log says of it.
+/// Which screen follows which, with the mouse, and what the log says of it.
 class ScreenMapTests : public QObject
 {
     Q_OBJECT
@@ -38,7 +38,6 @@ class ScreenMapTests : public QObject
 private Q_SLOTS:
     void forwardAndBack_data();
     void forwardAndBack();
-    void wholeWpsPathByKeyboard();
     void radioRuleAndItsLogLine_data();
     void radioRuleAndItsLogLine();
     void usbLeadsToTheFirstPrinter();
@@ -93,35 +92,6 @@ void ScreenMapTests::forwardAndBack()
         QCOMPARE(log.lines().filter(u"pre step"_s).last(),
                  u"info: pre step👉🏻"_s + QString::fromLatin1(way.last()));
     }
-}
-
-void ScreenMapTests::wholeWpsPathByKeyboard()
-{
-    WizardBed bed;
-    const auto key = [&bed](Qt::Key pressed) { QTest::keyClick(bed.window().windowHandle(), pressed); };
-
-    QCOMPARE(QApplication::focusWidget(), bed.widget("selectUSB"));
-    key(Qt::Key_Right);
-    QCOMPARE(QApplication::focusWidget(), bed.widget("selectWPS"));
-    key(Qt::Key_Space);
-    key(Qt::Key_Return);
-    QCOMPARE(bed.shown(), "WTSetWPSMethodView");
-    key(Qt::Key_Tab);
-    key(Qt::Key_Return); // chooses the tile
-    QCOMPARE(bed.shown(), "WTSetWPSMethodView");
-    key(Qt::Key_Return); // the main action
-    QCOMPARE(bed.shown(), "WTSelectPBCModelView");
-    key(Qt::Key_Return);
-    QCOMPARE(bed.shown(), "WTPrinterScreenWPSPBCView");
-    key(Qt::Key_Escape);
-    QCOMPARE(bed.shown(), "WTSelectPBCModelView");
-    key(Qt::Key_Return);
-    key(Qt::Key_Return);
-    QCOMPARE(bed.shown(), "WTWpsLinkStateView");
-    key(Qt::Key_Return); // the finish button is still disabled; the key chooses success
-    QCOMPARE(bed.processEnds, 0);
-    key(Qt::Key_Return);
-    QCOMPARE(bed.processEnds, 1);
 }
 
 void ScreenMapTests::radioRuleAndItsLogLine_data()

@@ -45,7 +45,6 @@ private Q_SLOTS:
     void focusColoursTheFrames();
     void showsAndHidesThePassword();
     void enterStartsTheRun();
-    void escapeGoesBack();
     void staysAndSaysWhy_data();
     void staysAndSaysWhy();
     void printsInformationPage_data();
@@ -218,14 +217,6 @@ void ManualAdditionTests::enterStartsTheRun()
     QCOMPARE(m_bed->bus().record().networkName, "Home");
     QCOMPARE(m_bed->bus().record().password, "secret pass");
     QVERIFY(m_log->lines().filter(u"secret pass"_s).isEmpty());
-}
-
-void ManualAdditionTests::escapeGoesBack()
-{
-    open();
-    nameField()->setFocus();
-    QTest::keyClick(nameField(), Qt::Key_Escape);
-    QCOMPARE(m_bed->screen(), &m_bed->entry());
 }
 
 void ManualAdditionTests::staysAndSaysWhy_data()
