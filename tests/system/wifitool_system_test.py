@@ -16,9 +16,8 @@ import printer_frames as frames
 import secret_search
 from cases import Cases
 from journal_stub import JournalStub
-from wizard_window import WizardWindow, read_texts, wait_for
+from wizard_window import ACCESSIBLE, AccessibilityBus, WizardWindow, read_texts, wait_for
 
-ACCESSIBILITY_BUS = "/usr/libexec/at-spi-bus-launcher"
 NETWORK = "Quill House 2.4"
 PASSWORD = "seven-grey-geese"
 RUN_TIME = 60
@@ -27,17 +26,16 @@ RUN_TIME = 60
 class ProgramRun:
     """One run of the program, with a home and a printer of its own."""
 
-    def __init__(self, emulator, program, texts, model, journal):
+    def __init__(self, emulator, program, texts, model, journal, system_bus="unix:path=/nowhere"):
         self._folder = tempfile.TemporaryDirectory()
         self._frames = pathlib.Path(self._folder.name, "frames")
         environment = dict(
             os.environ,
-            QT_QPA_PLATFORM="xcb",
-            QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
+            **ACCESSIBLE,
             HOME=self._folder.name,
             XDG_STATE_HOME=self._folder.name,
             CUPS_SERVER=f"{self._folder.name}/no-spooler",
-            DBUS_SYSTEM_BUS_ADDRESS=f"unix:path={self._folder.name}/no-bus",
+            DBUS_SYSTEM_BUS_ADDRESS=system_bus,
         )
         command = [emulator, "--usbfs", "--model", model, "--frames", self._frames, "--", program]
         self._journal = journal
@@ -131,14 +129,13 @@ def password_search_finds():
 def main():
     emulator, program, table = sys.argv[1:]
     texts = read_texts(table)
-    accessibility_bus = subprocess.Popen([ACCESSIBILITY_BUS, "--launch-immediately"])
     cases = Cases()
     journal = JournalStub()
 
     def start(model):
         return ProgramRun(emulator, program, texts, model, journal)
 
-    try:
+    with AccessibilityBus():
         cases.run("the search for the password finds it", password_search_finds)
         cases.run("run: Wi-Fi support known", run_with_known_support, start)
         cases.run("run: Wi-Fi support unknown", run_with_unknown_support, start)
@@ -146,8 +143,6 @@ def main():
         cases.run(
             "information page: old dialect", information_page, start, "QZ110", frames.information_page_in_old_dialect()
         )
-    finally:
-        accessibility_bus.terminate()
     cases.leave()
 
 
