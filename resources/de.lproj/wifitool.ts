@@ -296,8 +296,8 @@
         <translation>Tastendruck über das Druckermenü</translation>
     </message>
     <message>
-        <source>在打印机的显示屏上依次选择“菜单”“网络”“WPS”“PBC”，按“OK”确认。</source>
-        <translation>Wählen Sie am Display des Druckers Menü, Netzwerk, WPS, PBC und bestätigen Sie mit OK.</translation>
+        <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PBC，然后按OK确认。</source>
+        <translation>Wählen Sie am Display des Druckers Menü › Netzwerk › WPS › PBC und bestätigen Sie mit OK.</translation>
     </message>
     <message>
         <source>等待最多两分钟。显示屏显示结果后，点击“下一步”。</source>
@@ -312,8 +312,8 @@
         <translation>Die PIN läuft nach einigen Minuten ab. Öffnen Sie deshalb zuerst die Einstellungsseite des Routers.</translation>
     </message>
     <message>
-        <source>在打印机的显示屏上依次选择“菜单”“网络”“WPS”“PIN”，显示屏会显示一个8位数字。</source>
-        <translation>Wählen Sie am Display des Druckers Menü, Netzwerk, WPS, PIN. Es zeigt dann eine achtstellige Zahl.</translation>
+        <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PIN，显示屏会显示一个8位数字。</source>
+        <translation>Wählen Sie am Display des Druckers Menü › Netzwerk › WPS › PIN. Es zeigt dann eine achtstellige Zahl.</translation>
     </message>
     <message>
         <source>在路由器设置页面的WPS栏输入这个PIN码，然后开始连接。</source>

@@ -296,8 +296,8 @@
         <translation>Push button from the printer's menu</translation>
     </message>
     <message>
-        <source>在打印机的显示屏上依次选择“菜单”“网络”“WPS”“PBC”，按“OK”确认。</source>
-        <translation>On the printer's display choose Menu, Network, WPS, PBC, and confirm with OK.</translation>
+        <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PBC，然后按OK确认。</source>
+        <translation>On the printer's display choose Menu › Network › WPS › PBC and confirm with OK.</translation>
     </message>
     <message>
         <source>等待最多两分钟。显示屏显示结果后，点击“下一步”。</source>
@@ -312,8 +312,8 @@
         <translation>The PIN expires after a few minutes, so open the router's settings page first.</translation>
     </message>
     <message>
-        <source>在打印机的显示屏上依次选择“菜单”“网络”“WPS”“PIN”，显示屏会显示一个8位数字。</source>
-        <translation>On the printer's display choose Menu, Network, WPS, PIN. It then shows a number of 8 digits.</translation>
+        <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PIN，显示屏会显示一个8位数字。</source>
+        <translation>On the printer's display choose Menu › Network › WPS › PIN. It then shows a number of 8 digits.</translation>
     </message>
     <message>
         <source>在路由器设置页面的WPS栏输入这个PIN码，然后开始连接。</source>

@@ -296,8 +296,8 @@
         <translation>Botón desde el menú de la impresora</translation>
     </message>
     <message>
-        <source>在打印机的显示屏上依次选择“菜单”“网络”“WPS”“PBC”，按“OK”确认。</source>
-        <translation>En la pantalla de la impresora elija Menú, Red, WPS, PBC y confirme con OK.</translation>
+        <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PBC，然后按OK确认。</source>
+        <translation>En la pantalla de la impresora elija Menú › Red › WPS › PBC y confirme con OK.</translation>
     </message>
     <message>
         <source>等待最多两分钟。显示屏显示结果后，点击“下一步”。</source>
@@ -312,8 +312,8 @@
         <translation>El PIN caduca a los pocos minutos: abra antes la página de ajustes del router.</translation>
     </message>
     <message>
-        <source>在打印机的显示屏上依次选择“菜单”“网络”“WPS”“PIN”，显示屏会显示一个8位数字。</source>
-        <translation>En la pantalla de la impresora elija Menú, Red, WPS, PIN. Aparecerá un número de 8 cifras.</translation>
+        <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PIN，显示屏会显示一个8位数字。</source>
+        <translation>En la pantalla de la impresora elija Menú › Red › WPS › PIN. Aparecerá un número de 8 cifras.</translation>
     </message>
     <message>
         <source>在路由器设置页面的WPS栏输入这个PIN码，然后开始连接。</source>

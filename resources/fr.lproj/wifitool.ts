@@ -296,8 +296,8 @@
         <translation>Bouton depuis le menu de l'imprimante</translation>
     </message>
     <message>
-        <source>在打印机的显示屏上依次选择“菜单”“网络”“WPS”“PBC”，按“OK”确认。</source>
-        <translation>Sur l'écran de l'imprimante, choisissez Menu, Réseau, WPS, PBC et confirmez avec OK.</translation>
+        <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PBC，然后按OK确认。</source>
+        <translation>Sur l'écran de l'imprimante, choisissez Menu › Réseau › WPS › PBC et confirmez avec OK.</translation>
     </message>
     <message>
         <source>等待最多两分钟。显示屏显示结果后，点击“下一步”。</source>
@@ -312,8 +312,8 @@
         <translation>Le code PIN expire après quelques minutes : ouvrez d'abord la page de réglages du routeur.</translation>
     </message>
     <message>
-        <source>在打印机的显示屏上依次选择“菜单”“网络”“WPS”“PIN”，显示屏会显示一个8位数字。</source>
-        <translation>Sur l'écran de l'imprimante, choisissez Menu, Réseau, WPS, PIN. Un nombre de 8 chiffres s'affiche.</translation>
+        <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PIN，显示屏会显示一个8位数字。</source>
+        <translation>Sur l'écran de l'imprimante, choisissez Menu › Réseau › WPS › PIN. Un nombre de 8 chiffres s'affiche.</translation>
     </message>
     <message>
         <source>在路由器设置页面的WPS栏输入这个PIN码，然后开始连接。</source>

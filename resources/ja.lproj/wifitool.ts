@@ -296,8 +296,8 @@
         <translation>プリンターのメニューからプッシュボタンを使う</translation>
     </message>
     <message>
-        <source>在打印机的显示屏上依次选择“菜单”“网络”“WPS”“PBC”，按“OK”确认。</source>
-        <translation>プリンターのディスプレイで「メニュー」「ネットワーク」「WPS」「PBC」の順に選び、OKで確定します。</translation>
+        <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PBC，然后按OK确认。</source>
+        <translation>プリンターのディスプレイでメニュー › ネットワーク › WPS › PBC の順に選び、OKで確定します。</translation>
     </message>
     <message>
         <source>等待最多两分钟。显示屏显示结果后，点击“下一步”。</source>
@@ -312,8 +312,8 @@
         <translation>PINは数分で無効になります。先にルーターの設定ページを開いてください。</translation>
     </message>
     <message>
-        <source>在打印机的显示屏上依次选择“菜单”“网络”“WPS”“PIN”，显示屏会显示一个8位数字。</source>
-        <translation>プリンターのディスプレイで「メニュー」「ネットワーク」「WPS」「PIN」の順に選ぶと、8桁の数字が表示されます。</translation>
+        <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PIN，显示屏会显示一个8位数字。</source>
+        <translation>プリンターのディスプレイでメニュー › ネットワーク › WPS › PIN の順に選ぶと、8桁の数字が表示されます。</translation>
     </message>
     <message>
         <source>在路由器设置页面的WPS栏输入这个PIN码，然后开始连接。</source>

@@ -296,8 +296,8 @@
         <translation>프린터 메뉴에서 버튼 방식 사용</translation>
     </message>
     <message>
-        <source>在打印机的显示屏上依次选择“菜单”“网络”“WPS”“PBC”，按“OK”确认。</source>
-        <translation>프린터 화면에서 메뉴, 네트워크, WPS, PBC를 차례로 선택하고 OK로 확인하세요.</translation>
+        <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PBC，然后按OK确认。</source>
+        <translation>프린터 화면에서 메뉴 › 네트워크 › WPS › PBC를 선택하고 OK로 확인하세요.</translation>
     </message>
     <message>
         <source>等待最多两分钟。显示屏显示结果后，点击“下一步”。</source>
@@ -312,8 +312,8 @@
         <translation>PIN은 몇 분 뒤 만료되므로 먼저 공유기 설정 페이지를 여세요.</translation>
     </message>
     <message>
-        <source>在打印机的显示屏上依次选择“菜单”“网络”“WPS”“PIN”，显示屏会显示一个8位数字。</source>
-        <translation>프린터 화면에서 메뉴, 네트워크, WPS, PIN을 차례로 선택하면 8자리 숫자가 표시됩니다.</translation>
+        <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PIN，显示屏会显示一个8位数字。</source>
+        <translation>프린터 화면에서 메뉴 › 네트워크 › WPS › PIN을 선택하면 8자리 숫자가 표시됩니다.</translation>
     </message>
     <message>
         <source>在路由器设置页面的WPS栏输入这个PIN码，然后开始连接。</source>

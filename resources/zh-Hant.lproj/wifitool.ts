@@ -296,8 +296,8 @@
         <translation>在印表機選單中使用按鈕方式</translation>
     </message>
     <message>
-        <source>在打印机的显示屏上依次选择“菜单”“网络”“WPS”“PBC”，按“OK”确认。</source>
-        <translation>在印表機的顯示幕上依次選擇「選單」「網路」「WPS」「PBC」，按「OK」確認。</translation>
+        <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PBC，然后按OK确认。</source>
+        <translation>在印表機的顯示幕上選擇：選單 › 網路 › WPS › PBC，然後按 OK 確認。</translation>
     </message>
     <message>
         <source>等待最多两分钟。显示屏显示结果后，点击“下一步”。</source>
@@ -312,8 +312,8 @@
         <translation>PIN 碼幾分鐘後失效，請先準備好路由器的設定頁面。</translation>
     </message>
     <message>
-        <source>在打印机的显示屏上依次选择“菜单”“网络”“WPS”“PIN”，显示屏会显示一个8位数字。</source>
-        <translation>在印表機的顯示幕上依次選擇「選單」「網路」「WPS」「PIN」，顯示幕會顯示一個 8 位數字。</translation>
+        <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PIN，显示屏会显示一个8位数字。</source>
+        <translation>在印表機的顯示幕上選擇：選單 › 網路 › WPS › PIN，顯示幕會顯示一個 8 位數字。</translation>
     </message>
     <message>
         <source>在路由器设置页面的WPS栏输入这个PIN码，然后开始连接。</source>

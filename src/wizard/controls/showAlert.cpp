@@ -1,5 +1,6 @@
 #include "showAlert.h"
 
+#include <QLayout>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -8,14 +9,17 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 
+constexpr int margin = 24;
+constexpr int iconRoom = 24;
+
 /// Message and informative text are the message box's own labels, known by these names.
 const auto sheetStyle = uR"(
     QMessageBox { background: white; }
     QLabel { color: #222222; background: transparent; }
-    QLabel#qt_msgbox_label { font-size: 16px; font-weight: 600; min-width: 400px; padding: 8px 8px 0 0; }
-    QLabel#qt_msgbox_informativelabel { font-size: 14px; min-width: 400px; padding: 4px 8px 12px 0; }
+    QLabel#qt_msgbox_label { font-size: 16px; font-weight: 600; min-width: 400px; padding: 0 0 0 4px; }
+    QLabel#qt_msgbox_informativelabel { font-size: 14px; min-width: 400px; padding: 0 0 8px 0; }
     QPushButton {
-        min-width: 96px; min-height: 32px; padding: 0 16px; border-radius: 4px; font-size: 14px;
+        min-width: 96px; min-height: 36px; padding: 0 16px; border-radius: 4px; font-size: 14px;
         color: #222222; background: white; border: 1px solid #d3d3d3;
     }
     QPushButton:default { color: white; background: #d2212b; border-color: #d2212b; font-weight: 600; }
@@ -46,6 +50,8 @@ void showAlert(QWidget *window, const Alert &alert, std::function<void(int respo
             box->setDefaultButton(button);
         box->setEscapeButton(button);
     }
+    // The text stands right of an icon's room that is always there.
+    box->layout()->setContentsMargins(margin - iconRoom, margin, margin, margin);
     if (answered) {
         QObject::connect(box, &QMessageBox::finished, window, [box, answered = std::move(answered)] {
             // No button was clicked when the window system closed the sheet: that answers like the Escape key.

@@ -6,6 +6,7 @@
 #include "NetworkRows.h"
 #include "Palette.h"
 #include "ScreenFrame.h"
+#include "SlimScrollBar.h"
 #include "TextStyle.h"
 #include "WTButton.h"
 #include "WTDefaultStyleBtn.h"
@@ -46,6 +47,7 @@ WTWiFiListView::WTWiFiListView(QWidget *parent)
 void WTWiFiListView::layOut()
 {
     m_wifiListView->setModel(m_rows);
+    m_wifiListView->setVerticalScrollBar(new SlimScrollBar);
     m_wifiListView->setObjectName(u"wifiListView"_s);
     m_wifiListView->setAccessibleName(localized(u"附近的无线网络"_s));
     m_updateButton->setObjectName(u"updateButton"_s);

@@ -11,7 +11,7 @@ WTPrinterScreenWPSPBCView::WTPrinterScreenWPSPBCView(QWidget *parent)
           {localized(u"在打印机菜单中使用按钮方式"_s),
            localized(u"请在两分钟内完成前两步。"_s),
            {
-               {u"printer_panel"_s, localized(u"在打印机的显示屏上依次选择“菜单”“网络”“WPS”“PBC”，按“OK”确认。"_s)},
+               {u"printer_panel"_s, localized(u"在打印机的显示屏上选择：菜单 › 网络 › WPS › PBC，然后按OK确认。"_s)},
                {u"pbc"_s, localized(u"按一下路由器上的WPS按钮。"_s)},
                {u"panel_connected"_s, localized(u"等待最多两分钟。显示屏显示结果后，点击“下一步”。"_s)},
            },

@@ -1,6 +1,7 @@
 #include "ScreenContents.h"
 
 #include "Localized.h"
+#include "RunStep.h"
 #include "WTApp.h"
 #include "WTCompleteView.h"
 #include "WTConfigStateInfoView.h"
@@ -12,6 +13,7 @@
 #include "WTWpsLinkStateView.h"
 
 #include <QAbstractButton>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTest>
 
@@ -20,7 +22,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 
-constexpr int someProgress = 35;
+constexpr int someProgress = 40;
 
 WTPrinterPtr firstPrinter()
 {
@@ -52,6 +54,7 @@ void startRun(WTInstallingView *run)
 {
     auto wifi = std::make_shared<WTWiFi>();
     wifi->SSID = u"Home network"_s;
+    wifi->password = u"correct horse"_s;
     run->setPrinter(firstPrinter());
     run->setWifi(wifi);
 }
@@ -114,6 +117,8 @@ void fillScreen(WizardBed &bed, WTView *screen)
         type(screen, "ssidTextField"_L1, u"Home network"_s);
         type(screen, "passwordTextField"_L1, u"correct horse"_s);
     } else if (auto *run = qobject_cast<WTInstallingView *>(screen)) {
+        const auto *line = run->findChild<QLabel *>(u"progressLabel"_s);
+        bed.waitFor([line] { return line->text() == stepLine(RunStep::Sending, 0); });
         run->setProgress(someProgress);
     } else if (qobject_cast<WTCompleteView *>(screen) || qobject_cast<WTWpsLinkStateView *>(screen)) {
         bed.click("addPrinter");
