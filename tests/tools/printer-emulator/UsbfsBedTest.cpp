@@ -63,11 +63,9 @@ private Q_SLOTS:
     void hasAlternateSettings();
     void saysWhatFitsInPackets();
     void stalls();
-    void takesAPart();
     void takesNothingThatWasCalledBack();
     void leavesInTheMiddle_data();
     void leavesInTheMiddle();
-    void comesBackOften();
     void sharesItsBus();
     void livesInThePortsTime();
     void followsItsEvents();
@@ -258,19 +256,6 @@ void UsbfsBedTest::stalls()
     QCOMPARE(reply, wakeUpReply);
 }
 
-void UsbfsBedTest::takesAPart()
-{
-    m_bed->setScript(withFault(PrinterCommand::WakeUp, [](auto &fault) { fault.acceptOnly = 40; }));
-    LibusbPrinter printer;
-    seize(printer);
-    int sent = 0;
-    QCOMPARE(printer.write(shortFrame(0xFF21), 50, &sent), int(LIBUSB_ERROR_TIMEOUT));
-    QCOMPARE(sent, 40);
-    QCOMPARE(libusb_release_interface(printer.handle(), 0), 0);
-    QCOMPARE(m_bed->record().frames.size(), 1U);
-    QCOMPARE(m_bed->record().frames.front().verdict(), u"at 40: cut off"_s);
-}
-
 void UsbfsBedTest::takesNothingThatWasCalledBack()
 {
     m_bed->setScript(withFault(PrinterCommand::WakeUp, [](auto &fault) { fault.acceptDelay = 1h; }));
@@ -313,21 +298,6 @@ void UsbfsBedTest::leavesInTheMiddle()
     LibusbPrinter again;
     seize(again);
     QCOMPARE(again.write(shortFrame(0xFF81)), 0);
-}
-
-void UsbfsBedTest::comesBackOften()
-{
-    // More often than the test bed underneath could open nodes, let alone fail to.
-    for (int round = 0; round < 60; ++round) {
-        LibusbPrinter printer;
-        seize(printer);
-        QByteArray reply;
-        QCOMPARE(printer.write(shortFrame(0xFF21)), 0);
-        QCOMPARE(printer.read(reply), 0);
-        printer.close();
-        QVERIFY(::open("/dev/not-there", O_RDONLY) < 0);
-        m_bed->replug();
-    }
 }
 
 void UsbfsBedTest::sharesItsBus()

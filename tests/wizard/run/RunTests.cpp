@@ -22,63 +22,14 @@ enum Command : quint16 {
     Address = 0xFF0F,
 };
 
-enum class Fault { Silence, Stall, WrongEcho, ShortHeader, Unplug, Held, NotPermitted };
-
 enum class Screen { Complete, Failed, ConfigFailed };
 
 const auto networkName = u"Home 网络"_s;
 const auto password = u"correct horse"_s;
 
-std::optional<BusEvent::Cause> frameBefore(Command command)
-{
-    switch (command) {
-    case WakeUp:
-        return {};
-    case Capability:
-        return BusEvent::Cause{WakeUp};
-    case Configuration:
-        return BusEvent::Cause{Capability};
-    case Address:
-        return BusEvent::Cause{Configuration};
-    }
-    Q_UNREACHABLE();
-}
-
-/// A printer that has this fault whenever the command comes.
-PrinterScript scriptWith(Command command, Fault fault)
-{
-    PrinterScript script;
-    PrinterFault printerFault{.command = command};
-    switch (fault) {
-    case Fault::Silence:
-        printerFault.silent = true;
-        break;
-    case Fault::Stall:
-        printerFault.stallIn = true;
-        break;
-    case Fault::WrongEcho:
-        printerFault.echo = 0xFF82;
-        break;
-    case Fault::ShortHeader:
-        printerFault.cutAt = 8;
-        break;
-    case Fault::Unplug:
-        printerFault.unplugIn = 8;
-        break;
-    case Fault::Held:
-        script.events.push_back({.action = BusEvent::Action::Hold, .after = frameBefore(command)});
-        return script;
-    case Fault::NotPermitted:
-        script.events.push_back({.action = BusEvent::Action::Deny, .after = frameBefore(command)});
-        return script;
-    }
-    script.faults.push_back(printerFault);
-    return script;
-}
-
 PrinterScript silentOn(Command command)
 {
-    return scriptWith(command, Fault::Silence);
+    return {.faults = {{.command = command, .silent = true}}};
 }
 
 /// The first of `expected` that `lines` do not hold behind the one before it; empty when they hold all.
@@ -108,8 +59,6 @@ class RunTests : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void faultInStep_data();
-    void faultInStep();
     void printerSays_data();
     void printerSays();
     void configurationAnswer_data();
@@ -156,83 +105,6 @@ WTView *RunTests::expected(RunBed &bed, Screen screen)
         return &bed.configFailed();
     }
     Q_UNREACHABLE();
-}
-
-void RunTests::faultInStep_data()
-{
-    QTest::addColumn<PrinterScript>("script");
-    QTest::addColumn<Screen>("screen");
-    QTest::addColumn<bool>("capabilityError");
-    QTest::addColumn<int>("addressQueries");
-
-    struct Row {
-        const char *name;
-        Command step;
-        Fault fault;
-        Screen screen;
-        bool capabilityError;
-        int addressQueries;
-    };
-    using enum Fault;
-    using enum Screen;
-    const Row rows[] = {
-        // Whatever comes of the wake-up, the run goes on; a printer that is gone fails the question after it.
-        {"wake-up: silence", WakeUp, Silence, Complete, false, 1},
-        {"wake-up: stall", WakeUp, Stall, Complete, false, 1},
-        {"wake-up: wrong echo", WakeUp, WrongEcho, Complete, false, 1},
-        {"wake-up: short header", WakeUp, ShortHeader, Complete, false, 1},
-        {"wake-up: unplug", WakeUp, Unplug, Failed, true, 0},
-        {"wake-up: held", WakeUp, Held, Failed, true, 0},
-        {"wake-up: not permitted", WakeUp, NotPermitted, Failed, true, 0},
-
-        {"capability: silence", Capability, Silence, Failed, true, 0},
-        {"capability: stall", Capability, Stall, Failed, true, 0},
-        {"capability: wrong echo", Capability, WrongEcho, Failed, true, 0},
-        {"capability: short header", Capability, ShortHeader, Failed, true, 0},
-        {"capability: unplug", Capability, Unplug, Failed, true, 0},
-        {"capability: held", Capability, Held, Failed, true, 0},
-        {"capability: not permitted", Capability, NotPermitted, Failed, true, 0},
-
-        {"configuration: silence", Configuration, Silence, ConfigFailed, false, 0},
-        {"configuration: stall", Configuration, Stall, ConfigFailed, false, 0},
-        {"configuration: wrong echo", Configuration, WrongEcho, ConfigFailed, false, 0},
-        {"configuration: short header", Configuration, ShortHeader, ConfigFailed, false, 0},
-        {"configuration: unplug", Configuration, Unplug, Failed, false, 0},
-        {"configuration: held", Configuration, Held, Failed, false, 0},
-        {"configuration: not permitted", Configuration, NotPermitted, Failed, false, 0},
-
-        {"address: silence", Address, Silence, Failed, false, 7},
-        {"address: stall", Address, Stall, Failed, false, 7},
-        {"address: wrong echo", Address, WrongEcho, Failed, false, 7},
-        {"address: short header", Address, ShortHeader, Failed, false, 7},
-        {"address: unplug", Address, Unplug, Failed, false, 1},
-        {"address: held", Address, Held, Failed, false, 0},
-        {"address: not permitted", Address, NotPermitted, Failed, false, 0},
-    };
-    for (const Row &row : rows)
-        QTest::newRow(row.name) << scriptWith(row.step, row.fault) << row.screen << row.capabilityError
-                                << row.addressQueries;
-}
-
-void RunTests::faultInStep()
-{
-    QFETCH(PrinterScript, script);
-    QFETCH(Screen, screen);
-    QFETCH(bool, capabilityError);
-
-    RunBed bed(m_time, virtualWait(), script);
-    const WTPrinterPtr printer = bed.findPrinter();
-    QVERIFY(printer);
-    printer->wifiCode = supportUnknown;
-    bed.push(printer, networkName, password);
-    QCOMPARE(bed.screenAtEnd(), expected(bed, screen));
-    QCOMPARE(bed.failed().showWiFiCapabilityError(), capabilityError);
-    QCOMPARE(bed.failed().wifiCapabilityError(), capabilityError ? 3u : 0u);
-    QVERIFY(!bed.failed().showInterfaceError());
-    QTEST(bed.sends(Address), "addressQueries");
-    const bool quits = screen == Screen::Complete || capabilityError;
-    QCOMPARE(WTManager::shared().closeEnable(), quits ? WTManager::CloseQuits : WTManager::CloseAsks);
-    QVERIFY(bed.bus().record().allSound());
 }
 
 void RunTests::printerSays_data()
