@@ -70,6 +70,19 @@ QStringList LogCollector::lines() const
     return m_logger->lines();
 }
 
+QString LogCollector::firstMissing(const QStringList &expected) const
+{
+    const QStringList all = lines();
+    qsizetype from = 0;
+    for (const QString &line : expected) {
+        const qsizetype found = all.indexOf(line, from);
+        if (found < 0)
+            return line;
+        from = found + 1;
+    }
+    return {};
+}
+
 QStringList LogCollector::writtenSoFar() const
 {
     return m_logger->lines();

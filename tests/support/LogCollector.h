@@ -14,6 +14,8 @@ public:
 
     /// Every line that was logged before this call.
     QStringList lines() const;
+    /// The first of `expected` that the lines do not hold behind the one before it; empty when they hold all.
+    QString firstMissing(const QStringList &expected) const;
     /// What has been written by now, without waiting for lines under way: tells whether a line was synchronous.
     QStringList writtenSoFar() const;
     /// Forgets the lines so far.

@@ -4,6 +4,16 @@
 #include "WTCServer.h"
 #include "WTManager.h"
 
+RunBed::RunBed(VirtualTime &time, const PrinterScript &script)
+    : RunBed(
+          time,
+          [&time](const UsbfsBed &bus, const std::function<bool()> &done) {
+              return time.runUntil(done, [&bus] { return bus.busy(); });
+          },
+          script)
+{
+}
+
 RunBed::RunBed(TimePort &time, Wait wait, const PrinterScript &script, const ModelIdentity &identity)
     : m_wait(std::move(wait))
     , m_bus(time)

@@ -3,6 +3,7 @@
 #include "LibusbPort.h"
 #include "SpoolerPort.h"
 #include "UsbfsBed.h"
+#include "VirtualTime.h"
 #include "WTCompleteView.h"
 #include "WTConfigFailedView.h"
 #include "WTConfigurationRun.h"
@@ -12,6 +13,14 @@
 
 #include <functional>
 #include <vector>
+
+/// The commands of a run, as they stand in the frame.
+enum Command : quint16 {
+    WakeUp = 0xFF21,
+    Capability = 0xFF81,
+    Configuration = 0xFF80,
+    Address = 0xFF0F,
+};
 
 /// A spooler that lists what the test says.
 class ScriptedSpooler : public SpoolerPort
@@ -30,6 +39,7 @@ public:
     /// Runs the main thread until the condition holds; false when that takes too long.
     using Wait = std::function<bool(const UsbfsBed &bus, const std::function<bool()> &done)>;
 
+    explicit RunBed(VirtualTime &time, const PrinterScript &script = {});
     RunBed(TimePort &time, Wait wait, const PrinterScript &script = {}, const ModelIdentity &identity = {});
     ~RunBed();
 

@@ -1,12 +1,9 @@
 #include "InfoList.h"
-#include "Localized.h"
 #include "LogCollector.h"
 #include "RunBed.h"
 #include "VirtualTime.h"
 #include "WTManager.h"
-#include "WTProgressView.h"
 
-#include <QLabel>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -14,13 +11,6 @@ using namespace std::chrono_literals;
 
 namespace
 {
-
-enum Command : quint16 {
-    WakeUp = 0xFF21,
-    Capability = 0xFF81,
-    Configuration = 0xFF80,
-    Address = 0xFF0F,
-};
 
 enum class Screen { Complete, Failed, ConfigFailed };
 
@@ -30,19 +20,6 @@ const auto password = u"correct horse"_s;
 PrinterScript silentOn(Command command)
 {
     return {.faults = {{.command = command, .silent = true}}};
-}
-
-/// The first of `expected` that `lines` do not hold behind the one before it; empty when they hold all.
-QString firstMissing(const QStringList &lines, const QStringList &expected)
-{
-    qsizetype from = 0;
-    for (const QString &line : expected) {
-        const qsizetype found = lines.indexOf(line, from);
-        if (found < 0)
-            return line;
-        from = found + 1;
-    }
-    return {};
 }
 
 /// A printer whose every run is asked all four questions.
@@ -65,11 +42,6 @@ private Q_SLOTS:
     void configurationAnswer();
     void sendsTheConfigurationThreeTimesAtMost();
     void logsEachStepAndNoPassword();
-    void asksSevenTimesTwoSecondsApart();
-    void countsProgressFromTheFirstSend();
-    void secondProgressTimerSurvivesTheEnd();
-    void saysSoWhereARunWaitsForEver_data();
-    void saysSoWhereARunWaitsForEver();
     void closeStateFollowsTheRun();
     void answersOfAnEarlierAppearanceAreDropped();
     void newRunAfterReplug();
@@ -77,7 +49,6 @@ private Q_SLOTS:
 
 private:
     WTView *expected(RunBed &bed, Screen screen);
-    RunBed::Wait virtualWait();
 
     VirtualTime m_time;
 };
@@ -85,13 +56,6 @@ private:
 void RunTests::initTestCase()
 {
     InfoList::setResourceFolder(QStringLiteral(WT_RESOURCE_FOLDER));
-}
-
-RunBed::Wait RunTests::virtualWait()
-{
-    return [this](const UsbfsBed &bus, const std::function<bool()> &done) {
-        return m_time.runUntil(done, [&bus] { return bus.busy(); });
-    };
 }
 
 WTView *RunTests::expected(RunBed &bed, Screen screen)
@@ -144,7 +108,7 @@ void RunTests::printerSays()
     QFETCH(Screen, screen);
     QFETCH(int, capabilityError);
 
-    RunBed bed(m_time, virtualWait(), script);
+    RunBed bed(m_time, script);
     const WTPrinterPtr printer = bed.findPrinter();
     printer->wifiCode = supportUnknown;
     bed.push(printer, networkName, password);
@@ -193,7 +157,7 @@ void RunTests::configurationAnswer()
     QFETCH(QStringList, lines);
 
     LogCollector log;
-    RunBed bed(m_time, virtualWait(), silentOn(Configuration));
+    RunBed bed(m_time, silentOn(Configuration));
     bed.push(bed.findPrinter(), networkName, password);
     QVERIFY(bed.waitFor([&] { return bed.run().progress() == 5; }));
     bed.run().classifyConfiguration(errorCode, quint16(respCode));
@@ -203,13 +167,13 @@ void RunTests::configurationAnswer()
     QCOMPARE(bed.failed().showWiFiCapabilityError(), upgrading);
     QCOMPARE(bed.failed().wifiCapabilityError(), upgrading ? 2u : 0u);
     QTEST(int(WTManager::shared().closeEnable()), "closeState");
-    QCOMPARE(firstMissing(log.lines(), lines), QString());
+    QCOMPARE(log.firstMissing(lines), QString());
 }
 
 void RunTests::sendsTheConfigurationThreeTimesAtMost()
 {
     LogCollector log;
-    RunBed bed(m_time, virtualWait(), silentOn(Configuration));
+    RunBed bed(m_time, silentOn(Configuration));
     bed.push(bed.findPrinter(), networkName, password);
     QVERIFY(bed.waitFor([&] { return bed.run().step() == RunStep::Sending; }));
     for (int retry = 1; retry <= 2; ++retry) {
@@ -219,8 +183,8 @@ void RunTests::sendsTheConfigurationThreeTimesAtMost()
     }
     bed.run().classifyConfiguration(3, 0);
     QCOMPARE(bed.screen(), &bed.configFailed());
-    QCOMPARE(firstMissing(log.lines(), {u"info: retry time:0"_s, u"info: retry time:1"_s, u"info: retry time:2"_s,
-                                        u"info: did retry!"_s, u"info: 🏷 result：4"_s}),
+    QCOMPARE(log.firstMissing({u"info: retry time:0"_s, u"info: retry time:1"_s, u"info: retry time:2"_s,
+                               u"info: did retry!"_s, u"info: 🏷 result：4"_s}),
              QString());
     const QString send = u"info: send ACL:0xFF80"_s;
     QCOMPARE(log.lines().filter(send).size(), 3);
@@ -233,7 +197,7 @@ void RunTests::sendsTheConfigurationThreeTimesAtMost()
 void RunTests::logsEachStepAndNoPassword()
 {
     LogCollector log;
-    RunBed bed(m_time, virtualWait(), {.addressTime = 6s});
+    RunBed bed(m_time, {.addressTime = 6s});
     const WTPrinterPtr printer = bed.findPrinter();
     printer->wifiCode = supportUnknown;
     bed.push(printer, networkName, password);
@@ -253,125 +217,14 @@ void RunTests::logsEachStepAndNoPassword()
         u"info: 🏷"_s,
         u"info: go to 👉🏻WTCompleteView"_s,
     };
-    QCOMPARE(firstMissing(log.lines(), expectedLines), QString());
+    QCOMPARE(log.firstMissing(expectedLines), QString());
     QVERIFY(log.lines().filter(password).isEmpty());
     QVERIFY(log.lines().filter(QString::fromLatin1(password.toUtf8().toHex())).isEmpty());
 }
 
-void RunTests::asksSevenTimesTwoSecondsApart()
-{
-    LogCollector log;
-    RunBed bed(m_time, virtualWait(), {.addressTime = 3600s});
-    const WTPrinterPtr printer = bed.findPrinter();
-    QCOMPARE(printer->wifiCode, 1);
-    bed.push(printer, networkName, password);
-    QVERIFY(bed.waitFor([&] { return bed.sends(Configuration) == 1; }));
-    const TimePort::Instant sent = m_time.now();
-    QCOMPARE(bed.screenAtEnd(), &bed.failed());
-
-    // Five seconds of the command's own pause, and one pause after each of seven failed answers.
-    const auto waited = m_time.now() - sent;
-    QVERIFY2(waited >= 19s && waited < 20s, QByteArray::number(qint64(waited / 1ms)));
-    QCOMPARE(bed.bus().record().commands(), (std::vector<quint16>{WakeUp, Configuration, Address, Address, Address,
-                                                                  Address, Address, Address, Address}));
-    QVERIFY(!bed.failed().showInterfaceError());
-    QCOMPARE(
-        firstMissing(log.lines(), {u"info: Support Wi-Fi Config"_s, u"info: 🏷：7"_s, u"error: Too many times"_s,
-                                   u"info: 🏷 result：5"_s, u"info: go to 👉🏻WTFailedView"_s}),
-        QString());
-}
-
-void RunTests::countsProgressFromTheFirstSend()
-{
-    RunBed bed(m_time, virtualWait(), {.joinTime = 60s});
-    std::vector<std::pair<TimePort::Instant, int>> shown;
-    connect(&bed.run(), &WTConfigurationRun::progressChanged, this,
-            [&](int progress) { shown.emplace_back(m_time.now(), progress); });
-    const auto *bar = bed.installing().findChild<WTProgressView *>(u"progressView"_s);
-    bed.push(bed.findPrinter(), networkName, password);
-    QVERIFY(bed.waitFor([&] { return bar->progress() == 100; }));
-
-    const auto first = std::ranges::find_if(shown, [](const auto &entry) { return entry.second == 1; }) - 1;
-    QCOMPARE(first->second, 0);
-    QCOMPARE(shown.end() - first, 101);
-    for (int progress = 0; progress <= 100; ++progress) {
-        QCOMPARE(first[progress].second, progress);
-        QCOMPARE((first[progress].first - first->first) / 1ms, progress * 200);
-    }
-    QCOMPARE(bed.screen(), &bed.installing());
-    QCOMPARE(bed.screenAtEnd(), &bed.complete());
-}
-
-void RunTests::secondProgressTimerSurvivesTheEnd()
-{
-    RunBed bed(m_time, virtualWait(), silentOn(Configuration));
-    bed.push(bed.findPrinter(), networkName, password);
-    QVERIFY(bed.waitFor([&] { return bed.run().progress() == 10; }));
-    bed.installing().confingWiFiStart();
-    QVERIFY(bed.waitFor([&] { return bed.run().progress() == 20; }));
-    bed.installing().closeTimer(0);
-    QCOMPARE(bed.screen(), &bed.failed());
-    QCOMPARE(bed.run().progress(), 100);
-    // The first timer counts on as if nothing had happened, up to its own end.
-    QVERIFY(bed.waitFor([&] { return bed.run().progress() == 30; }));
-    QVERIFY(bed.waitFor([&] { return bed.run().progress() == 100; }));
-    bed.installing().setProgress(0);
-    const TimePort::Instant full = m_time.now();
-    QVERIFY(bed.waitFor([&] { return m_time.now() > full + 10s; }));
-    QCOMPARE(bed.run().progress(), 0);
-}
-
-void RunTests::saysSoWhereARunWaitsForEver_data()
-{
-    QTest::addColumn<int>("wifiCode");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("addressData");
-    QTest::addColumn<std::vector<quint16>>("commands");
-    QTest::addColumn<QString>("step");
-
-    using Commands = std::vector<quint16>;
-    QTest::newRow("support 0") << 0 << networkName << QByteArray() << Commands{WakeUp}
-                               << u"checking the printer's Wi-Fi capability"_s;
-    QTest::newRow("configuration never sent")
-        << 1 << u"  "_s << QByteArray() << Commands{WakeUp} << u"sending the configuration"_s;
-    QTest::newRow("address data too short")
-        << 1 << networkName << QByteArray("192.168.1.7") << Commands{WakeUp, Configuration, Address}
-        << u"waiting for the printer's address"_s;
-}
-
-void RunTests::saysSoWhereARunWaitsForEver()
-{
-    QFETCH(int, wifiCode);
-    QFETCH(QString, name);
-    QFETCH(QByteArray, addressData);
-    QFETCH(QString, step);
-
-    PrinterScript script;
-    if (!addressData.isEmpty())
-        script.faults.push_back({.command = Address, .data = addressData});
-    LogCollector log;
-    RunBed bed(m_time, virtualWait(), script);
-    const WTPrinterPtr printer = bed.findPrinter();
-    printer->wifiCode = wifiCode;
-    const auto *line = bed.installing().findChild<QLabel *>(u"progressLabel"_s);
-    TimePort::Instant lastStep;
-    connect(&bed.run(), &WTConfigurationRun::stepChanged, this, [&] { lastStep = m_time.now(); });
-    bed.push(printer, name, password);
-
-    QVERIFY(bed.waitFor([&] { return WTManager::shared().closeEnable() == WTManager::CloseIgnored; }));
-    QVERIFY(bed.waitFor([&] { return WTManager::shared().closeEnable() == WTManager::CloseAsks; }));
-    QCOMPARE((m_time.now() - lastStep) / 1ms, 240'000);
-    QCOMPARE(line->text(), localized(u"打印机没有应答，您现在可以关闭此窗口。"_s));
-    QVERIFY(log.lines().contains(u"error: No step for 240 seconds: "_s + step));
-    m_time.advance(600s);
-    QCoreApplication::processEvents();
-    QCOMPARE(bed.screen(), &bed.installing());
-    QTEST(bed.bus().record().commands(), "commands");
-}
-
 void RunTests::closeStateFollowsTheRun()
 {
-    RunBed bed(m_time, virtualWait());
+    RunBed bed(m_time);
     QList<std::pair<RunStep, qint64>> states;
     connect(&bed.run(), &WTConfigurationRun::stepChanged, this, [&](RunStep step) {
         states.append({step, WTManager::shared().closeEnable()});
@@ -393,7 +246,7 @@ void RunTests::answersOfAnEarlierAppearanceAreDropped()
 {
     PrinterScript script;
     script.faults.push_back({.command = WakeUp, .occurrence = 1, .delay = 3s});
-    RunBed bed(m_time, virtualWait(), script);
+    RunBed bed(m_time, script);
     bed.push(bed.findPrinter(), networkName, password);
     QVERIFY(bed.waitFor([&] { return bed.sends(WakeUp) == 1; }));
     bed.installing().viewDidApear();
@@ -405,7 +258,7 @@ void RunTests::answersOfAnEarlierAppearanceAreDropped()
 
 void RunTests::newRunAfterReplug()
 {
-    RunBed bed(m_time, virtualWait(), {.configurationResult = 2});
+    RunBed bed(m_time, {.configurationResult = 2});
     const WTPrinterPtr printer = bed.findPrinter();
     bed.push(printer, networkName, password);
     QCOMPARE(bed.screenAtEnd(), &bed.configFailed());
@@ -423,7 +276,7 @@ void RunTests::newRunAfterReplug()
 
 void RunTests::hostThatCannotPollEndsWithoutAddress()
 {
-    RunBed bed(m_time, virtualWait());
+    RunBed bed(m_time);
     WTConfigurationRun run(m_time, false);
     const WTPrinterPtr printer = bed.findPrinter();
     auto wifi = std::make_shared<WTWiFi>();
