@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Lets the demo walk every story by itself; each must end as told, with a picture of every screen.
+"""Lets the demo walk every story by itself; each must end as told, on its screen, with a picture of every screen.
 
 usage: demo_system_test.py WIFITOOL-DEMO
 """
@@ -13,16 +13,38 @@ import tempfile
 from cases import Cases
 
 PNG_MAGIC = b"\x89PNG"
+SPEED = "3"
+LAST_PICTURES = {
+    "success": "WTCompleteView",
+    "busy": "alert",
+    "not-permitted": "alert",
+    "no-printer": "alert",
+    "manual-entry": "WTCompleteView",
+    "refused": "alert",
+    "wrong-password": "WTCompleteView",
+    "wifi-off": "WTFailedView",
+    "unplugged": "WTFailedView",
+    "no-address": "WTFailedView",
+    "wps": "WTConfigStateInfoView",
+    "wps-menu": "WTWpsLinkStateView",
+    "wps-pin": "WTWpsLinkStateView",
+}
 
 
 def walk(demo, story):
     with tempfile.TemporaryDirectory() as folder:
         pictures = pathlib.Path(folder, "pictures")
         environment = dict(os.environ, XDG_STATE_HOME=folder)
-        subprocess.run([demo, "--story", story, "--autopilot", pictures], env=environment, check=True, timeout=100)
+        command = [demo, "--story", story, "--speed", SPEED, "--autopilot", pictures]
+        subprocess.run(command, env=environment, check=True, timeout=100)
         names = sorted(picture.name for picture in pictures.iterdir())
         assert names and names[0] == "01-WTStartView.png", names
+        assert names[-1].endswith(f"-{LAST_PICTURES[story]}.png"), names
         assert all(picture.read_bytes().startswith(PNG_MAGIC) for picture in pictures.iterdir()), names
+
+
+def compare(actual, expected):
+    assert actual == expected, actual
 
 
 def refuse(demo, *arguments):
@@ -34,11 +56,13 @@ def main():
     demo = sys.argv[1]
     listed = subprocess.run([demo, "--list-stories"], capture_output=True, text=True, check=True).stdout
     cases = Cases()
-    for line in listed.splitlines():
-        story = line.split()[0]
+    stories = [line.split()[0] for line in listed.splitlines()]
+    cases.run("the list of stories", compare, sorted(stories), sorted(LAST_PICTURES))
+    for story in stories:
         cases.run(story, walk, demo, story)
     cases.run("an unknown story", refuse, demo, "--story", "nobody-told-it")
     cases.run("an unknown option", refuse, demo, "--fly")
+    cases.run("a speed of nothing", refuse, demo, "--speed", "0")
     cases.leave()
 
 

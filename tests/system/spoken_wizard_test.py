@@ -42,7 +42,7 @@ class DemoRun:
 
 
 def network_list(start):
-    with start("network-list") as window:
+    with start("success") as window:
         window.wait_for("panel", "让打印机连上无线网络")
         window.wait_for("label", "第%d步，共%d步：%@", 1, 4, window.text("连接"))
         assert window.wait_for("radio button", "USB数据线").getState().contains(pyatspi.STATE_CHECKED)

@@ -34,10 +34,11 @@ QString screenName(const WTWindow &window)
 
 } // namespace
 
-Autopilot::Autopilot(const Story &story, WTWindow &window, const QDir &pictures)
+Autopilot::Autopilot(const Story &story, WTWindow &window, const QDir &pictures, int speed)
     : m_story(story)
     , m_window(window)
     , m_pictures(pictures)
+    , m_speed(speed)
 {
 }
 
@@ -65,7 +66,7 @@ QString Autopilot::visit(const Visit &visit)
         return u"did not come; %1 shows"_s.arg(screenName(m_window));
     if (visit.awaitsPrinter && !waitFor([] { return WTManager::shared().printerList().count() > 0; }, visit.patience))
         return u"no printer was found"_s;
-    QTest::qWait(int(std::chrono::milliseconds(visit.look).count()));
+    QTest::qWait(int(std::chrono::milliseconds(visit.look).count() / m_speed));
 
     for (const Act &act : visit.acts) {
         if (&act == &visit.acts.back())
@@ -86,8 +87,10 @@ QString Autopilot::perform(const Act &act)
         return click(act.widget);
     case Act::Kind::Type: {
         QString problem = click(act.widget);
-        if (problem.isEmpty())
+        if (problem.isEmpty()) {
+            QTest::keySequence(visibleWidget(act.widget), QKeySequence::SelectAll);
             QTest::keyClicks(visibleWidget(act.widget), act.text);
+        }
         return problem;
     }
     case Act::Kind::CloseWindow:

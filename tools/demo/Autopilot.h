@@ -16,8 +16,8 @@ class Autopilot : public QObject
     Q_OBJECT
 
 public:
-    /// @param pictures exists.
-    Autopilot(const Story &story, WTWindow &window, const QDir &pictures);
+    /// @param pictures exists. @param speed how many times faster than usual to look around.
+    Autopilot(const Story &story, WTWindow &window, const QDir &pictures, int speed);
 
     /// Begins as soon as the event loop runs.
     void start();
@@ -37,6 +37,7 @@ private:
     const Story &m_story;
     WTWindow &m_window;
     const QDir m_pictures;
+    const int m_speed;
     int m_pictureCount = 0;
     bool m_arrived = false;
 };

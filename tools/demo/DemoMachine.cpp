@@ -10,8 +10,9 @@ const QString noCommand = u":"_s;
 
 } // namespace
 
-DemoMachine::DemoMachine(const PrinterScript &script, const DemoHost &host)
-    : m_usb(m_time, PrinterModel(ModelIdentity{}, script))
+DemoMachine::DemoMachine(const PrinterScript &script, const DemoHost &host, const ModelIdentity &model, int speed)
+    : m_time(speed)
+    , m_usb(m_time, PrinterModel(model, script))
     , m_spooler(host.isPrinting)
     , m_hostWiFi(m_time, host)
 {

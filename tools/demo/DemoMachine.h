@@ -3,16 +3,17 @@
 #include "DemoWiFi.h"
 #include "DesktopPort.h"
 #include "EmulatedUsb.h"
+#include "FasterTime.h"
 #include "Machine.h"
 #include "SpoolerPort.h"
-#include "SystemTime.h"
 
 /// A computer that exists only for the demo: one emulated printer on USB, the Wi-Fi and the print queue that
-/// the story says, and a desktop that opens nothing. Its time is real.
+/// the story says, and a desktop that opens nothing.
 class DemoMachine
 {
 public:
-    DemoMachine(const PrinterScript &script, const DemoHost &host);
+    /// @param speed how many times faster than the computer's own its time runs; at least 1.
+    DemoMachine(const PrinterScript &script, const DemoHost &host, const ModelIdentity &model = {}, int speed = 1);
 
     Machine machine();
     /// What the printer was told so far.
@@ -41,7 +42,7 @@ private:
         QString operatingSystemVersion() override;
     };
 
-    SystemTime m_time;
+    FasterTime m_time;
     EmulatedUsb m_usb;
     OneQueueSpooler m_spooler;
     QuietDesktop m_desktop;

@@ -1,6 +1,7 @@
 #include "Story.h"
 
 #include <algorithm>
+#include <iterator>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -10,6 +11,7 @@ namespace
 
 const QString networkName = u"Quill House"_s;
 const QString password = u"seven grey geese"_s;
+constexpr quint16 configurationCommand = 0xFF80;
 
 Act click(const QString &widget)
 {
@@ -108,17 +110,90 @@ Visit watchingTheRun()
     return {.screen = u"WTInstallingView"_s, .acts = {}, .look = 2s};
 }
 
-std::vector<Story> allStories()
+Visit ending(const QString &screen, const std::vector<Act> &acts)
 {
+    return {.screen = screen, .acts = acts, .patience = 60s};
+}
+
+const std::vector<Act> quitting{closeWindow, confirm};
+
+/// From the start screen through manual entry to a run with that printer.
+Story typedStory(const QString &name, const QString &summary, const PrinterScript &printer,
+                 const std::vector<Visit> &rest)
+{
+    std::vector<Visit> visits{choosingUsb(true), enteringNetwork(), watchingTheRun()};
+    visits.insert(visits.end(), rest.begin(), rest.end());
+    return {.name = name,
+            .summary = summary,
+            .printer = printer,
+            .visits = visits,
+            .networkName = networkName.toUtf8(),
+            .password = password.toUtf8()};
+}
+
+Story wpsStory(const QString &name, const QString &summary, const std::vector<Visit> &rest)
+{
+    std::vector<Visit> visits{{.screen = u"WTStartView"_s, .acts = {click(u"selectWPS"_s), click(u"netxtBtn"_s)}}};
+    visits.insert(visits.end(), rest.begin(), rest.end());
+    return {.name = name, .summary = summary, .printer = absentPrinter(), .visits = visits};
+}
+
+/// As long as the printer has its Wi-Fi off, it says so when it is asked, which only an unknown model is.
+Story wifiOffStory()
+{
+    PrinterScript printer;
+    printer.capabilityResult = 0xFFFB;
+    Story story =
+        typedStory(u"wifi-off"_s, u"The printer's own Wi-Fi is switched off, and the failure screen says so"_s, printer,
+                   {ending(u"WTFailedView"_s, {click(u"complateBtn"_s)})});
+    story.model.model = u"QZ200"_s;
+    story.visits.erase(story.visits.begin() + 2); // The run is over at once.
+    story.networkName.reset();
+    story.password.reset();
+    return story;
+}
+
+/// A wrong password is refused once; the right one joins.
+Story wrongPasswordStory()
+{
+    PrinterScript printer = goodPrinter();
+    printer.faults = {{.command = configurationCommand, .occurrence = 1, .result = 0}};
+    Story story = typedStory(u"wrong-password"_s,
+                             u"The first password is wrong; the user goes back and types the right one"_s, printer,
+                             {ending(u"WTConfigFailedView"_s, {click(u"previous"_s)}),
+                              {.screen = u"WTNetworkWithManualAddition"_s,
+                               .acts = {type(u"passwordTextField"_s, password), click(u"nextBtn"_s)}},
+                              ending(u"WTCompleteView"_s, {click(u"complateBtn"_s)})});
+    story.visits[1].acts[1].text = u"seven grey geeze"_s;
+    return story;
+}
+
+PrinterScript unpluggedPrinter()
+{
+    PrinterScript script = goodPrinter();
+    script.events = {{.action = BusEvent::Action::Unplug, .after = BusEvent::Cause{configurationCommand}, .delay = 1s}};
+    return script;
+}
+
+PrinterScript lostPrinter()
+{
+    PrinterScript script = goodPrinter();
+    script.addressTime = 1h;
+    return script;
+}
+
+std::vector<Story> usbStories()
+{
+    const std::vector<Act> finish{click(u"complateBtn"_s)};
     return {
-        {.name = u"network-list"_s,
+        {.name = u"success"_s,
          .summary = u"The computer's own network is taken with its stored password, the printer joins"_s,
          .printer = goodPrinter(),
          .host = joinedComputer(),
          .visits = {choosingUsb(true),
                     {.screen = u"WTWiFiListView"_s, .acts = {click(u"btn_nextStep"_s)}},
                     watchingTheRun(),
-                    {.screen = u"WTCompleteView"_s, .acts = {click(u"complateBtn"_s)}, .patience = 60s}},
+                    ending(u"WTCompleteView"_s, finish)},
          .networkName = networkName.toUtf8(),
          .password = password.toUtf8()},
         {.name = u"busy"_s,
@@ -126,49 +201,65 @@ std::vector<Story> allStories()
          .printer = goodPrinter(),
          .host = printingComputer(),
          .visits = {choosingUsb(true),
-                    {.screen = u"WTWiFiListView"_s, .acts = {click(u"btn_nextStep"_s), confirm, closeWindow, confirm}}},
-         .networkName = {},
-         .password = {}},
+                    {.screen = u"WTWiFiListView"_s,
+                     .acts = {click(u"btn_nextStep"_s), confirm, closeWindow, confirm}}}},
         {.name = u"not-permitted"_s,
          .summary = u"The program may not look for networks; the settings open and the user is back at the start"_s,
          .printer = goodPrinter(),
          .host = forbiddenComputer(),
          .visits = {choosingUsb(true),
                     {.screen = u"WTWiFiListView"_s, .acts = {confirm}},
-                    {.screen = u"WTStartView"_s, .acts = {closeWindow, confirm}}},
-         .networkName = {},
-         .password = {}},
-        {.name = u"manual-entry"_s,
-         .summary = u"The network is typed in, the printer joins and reports its address"_s,
-         .printer = goodPrinter(),
-         .host = {},
-         .visits = {choosingUsb(true),
-                    enteringNetwork(),
-                    watchingTheRun(),
-                    {.screen = u"WTCompleteView"_s, .acts = {click(u"complateBtn"_s)}, .patience = 60s}},
-         .networkName = networkName.toUtf8(),
-         .password = password.toUtf8()},
+                    {.screen = u"WTStartView"_s, .acts = quitting}}},
         {.name = u"no-printer"_s,
          .summary = u"No printer is on the bus"_s,
          .printer = absentPrinter(),
-         .host = {},
          .visits = {choosingUsb(false),
                     {.screen = u"WTUnconnectView"_s, .acts = {click(u"previous"_s)}},
-                    {.screen = u"WTStartView"_s, .acts = {closeWindow, confirm}}},
-         .networkName = {},
-         .password = {}},
-        {.name = u"refused"_s,
-         .summary = u"The printer takes the network but does not join, and the user goes back"_s,
-         .printer = refusingPrinter(),
-         .host = {},
-         .visits = {choosingUsb(true),
-                    enteringNetwork(),
-                    watchingTheRun(),
-                    {.screen = u"WTConfigFailedView"_s, .acts = {click(u"previous"_s)}, .patience = 60s},
-                    {.screen = u"WTNetworkWithManualAddition"_s, .acts = {closeWindow, confirm}}},
-         .networkName = networkName.toUtf8(),
-         .password = password.toUtf8()},
+                    {.screen = u"WTStartView"_s, .acts = quitting}}},
+        typedStory(u"manual-entry"_s, u"The network is typed in, the printer joins and reports its address"_s,
+                   goodPrinter(), {ending(u"WTCompleteView"_s, finish)}),
+        typedStory(u"refused"_s, u"The printer takes the network but does not join, and the user goes back"_s,
+                   refusingPrinter(),
+                   {ending(u"WTConfigFailedView"_s, {click(u"previous"_s)}),
+                    {.screen = u"WTNetworkWithManualAddition"_s, .acts = quitting}}),
+        wrongPasswordStory(),
+        wifiOffStory(),
+        typedStory(u"unplugged"_s, u"Someone pulls the cable while the printer joins"_s, unpluggedPrinter(),
+                   {ending(u"WTFailedView"_s, finish)}),
+        typedStory(u"no-address"_s, u"The printer joins, but its network gives it no address"_s, lostPrinter(),
+                   {ending(u"WTFailedView"_s, finish)}),
     };
+}
+
+std::vector<Story> wpsStories()
+{
+    const Visit method{.screen = u"WTSetWPSMethodView"_s,
+                       .acts = {click(u"selectPrinterMethod"_s), click(u"nextBtn"_s)}};
+    const Visit success{.screen = u"WTWpsLinkStateView"_s, .acts = {click(u"wpsSuccessView"_s), click(u"finishBtn"_s)}};
+    return {
+        wpsStory(u"wps"_s, u"Wi-Fi Protected Setup by the buttons of router and printer"_s,
+                 {{.screen = u"WTSetWPSMethodView"_s, .acts = {click(u"selectWPSMethod"_s), click(u"nextBtn"_s)}},
+                  {.screen = u"WTUseWPSSetWifiView"_s, .acts = {click(u"nextButton"_s)}},
+                  {.screen = u"WTConfigStateInfoView"_s,
+                   .acts = {click(u"lightSuccessView"_s), click(u"stateFinishBtn"_s)}}}),
+        wpsStory(u"wps-menu"_s, u"Wi-Fi Protected Setup from the printer's menu, by the router's button"_s,
+                 {method,
+                  {.screen = u"WTSelectPBCModelView"_s, .acts = {click(u"selectWPS"_s), click(u"nextBtn"_s)}},
+                  {.screen = u"WTPrinterScreenWPSPBCView"_s, .acts = {click(u"nextBtn"_s)}},
+                  success}),
+        wpsStory(u"wps-pin"_s, u"Wi-Fi Protected Setup from the printer's menu, by a PIN"_s,
+                 {method,
+                  {.screen = u"WTSelectPBCModelView"_s, .acts = {click(u"selectPIN"_s), click(u"nextBtn"_s)}},
+                  {.screen = u"WTSetPINConfigView"_s, .acts = {click(u"nextBtn"_s)}},
+                  success}),
+    };
+}
+
+std::vector<Story> allStories()
+{
+    std::vector<Story> all = usbStories();
+    std::ranges::copy(wpsStories(), std::back_inserter(all));
+    return all;
 }
 
 } // namespace

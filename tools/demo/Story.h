@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DemoHost.h"
+#include "ModelIdentity.h"
 #include "PrinterScript.h"
 
 #include <QString>
@@ -13,7 +14,7 @@
 struct Act {
     enum class Kind {
         Click,       ///< On the widget.
-        Type,        ///< `text` into the widget, after a click on it.
+        Type,        ///< `text` in the place of what the widget holds, after a click on it.
         CloseWindow, ///< Presses the window's close button.
         Confirm,     ///< Presses the first button of the sheet that shows.
     };
@@ -37,11 +38,12 @@ struct Story {
     QString name;
     QString summary;
     PrinterScript printer;
-    DemoHost host;
+    ModelIdentity model{};
+    DemoHost host{};
     std::vector<Visit> visits; ///< The last act of the last one ends the program.
     /// What the printer must have been told in the end; absent: nothing.
-    std::optional<QByteArray> networkName;
-    std::optional<QByteArray> password;
+    std::optional<QByteArray> networkName{};
+    std::optional<QByteArray> password{};
 };
 
 /// All stories; the first one is the main job.

@@ -9,9 +9,12 @@
 namespace
 {
 
+constexpr int fastest = 100;
+
 struct Arguments {
     QString pictures; ///< Empty: no autopilot.
     const Story *story = &stories().front();
+    int speed = 1;
     bool list = false;
     bool help = false;
     bool valid = true;
@@ -28,6 +31,9 @@ Arguments parse(int argc, char **argv)
         } else if (argument == "--story" && hasValue) {
             arguments.story = findStory(QString::fromLocal8Bit(argv[++index]));
             arguments.valid = arguments.valid && arguments.story;
+        } else if (argument == "--speed" && hasValue) {
+            arguments.speed = QByteArray(argv[++index]).toInt();
+            arguments.valid = arguments.valid && arguments.speed >= 1 && arguments.speed <= fastest;
         } else if (argument == "--list-stories") {
             arguments.list = true;
         } else if (argument == "--help") {
@@ -42,10 +48,11 @@ Arguments parse(int argc, char **argv)
 void printUsage(std::FILE *where)
 {
     std::fputs(
-        "usage: wifitool-demo [--story NAME] [--autopilot DIR]\n"
+        "usage: wifitool-demo [--story NAME] [--speed TIMES] [--autopilot DIR]\n"
         "       wifitool-demo --list-stories | --help\n"
-        "The wizard with an emulated printer. With --autopilot it walks the story by itself and saves a picture of\n"
-        "every screen in DIR; the exit status is 0 only if the story ended as told.\n",
+        "The wizard with an emulated printer, whose waits may be some times shorter. With --autopilot it walks the\n"
+        "story by itself and saves a picture of every screen in DIR; the exit status is 0 only if the story ended as\n"
+        "told.\n",
         where);
 }
 
@@ -69,16 +76,17 @@ int runByHand(int argc, char **argv, DemoMachine &demo)
     return wt_main(argc, argv, demo.machine());
 }
 
-int runByItself(int argc, char **argv, DemoMachine &demo, const Story &story, const QString &folder)
+int runByItself(int argc, char **argv, DemoMachine &demo, const Arguments &arguments)
 {
-    const QDir pictures(folder);
+    const Story &story = *arguments.story;
+    const QDir pictures(arguments.pictures);
     if (!pictures.mkpath(QStringLiteral("."))) {
-        std::fprintf(stderr, "%s cannot be made\n", qPrintable(folder));
+        std::fprintf(stderr, "%s cannot be made\n", qPrintable(arguments.pictures));
         return 1;
     }
     std::unique_ptr<Autopilot> autopilot;
     const int status = wt_main(argc, argv, demo.machine(), [&](WTWindow &window) {
-        autopilot = std::make_unique<Autopilot>(story, window, pictures);
+        autopilot = std::make_unique<Autopilot>(story, window, pictures, arguments.speed);
         autopilot->start();
     });
     const bool good = status == 0 && autopilot->arrived() && wasToldWell(demo.printerRecord(), story);
@@ -99,8 +107,9 @@ int main(int argc, char **argv)
         return 0;
     }
     // Never destroyed: a printer command may be under way until the process ends.
-    static auto *demo = new DemoMachine(arguments.story->printer, arguments.story->host);
+    static auto *demo =
+        new DemoMachine(arguments.story->printer, arguments.story->host, arguments.story->model, arguments.speed);
     if (arguments.pictures.isEmpty())
         return runByHand(argc, argv, *demo);
-    return runByItself(argc, argv, *demo, *arguments.story, arguments.pictures);
+    return runByItself(argc, argv, *demo, arguments);
 }
