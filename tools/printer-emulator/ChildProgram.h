@@ -10,7 +10,7 @@
 class ChildProgram
 {
 public:
-    /// Keeps the signals that end a program for `wait`, in every thread that starts afterwards. First thing in main().
+    /// Keeps the signals that end a program for `wait`, in every thread that starts afterwards; before the first one.
     static void holdSignals();
 
     /// Starts the command with these variables added to the environment. Absent when it cannot be started; then `errno`

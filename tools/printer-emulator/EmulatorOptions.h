@@ -11,8 +11,15 @@
 struct EmulatorOptions {
     ModelIdentity identity;
     PrinterScript script;
-    QString framesFile; ///< Empty: frames are not kept.
-    QStringList command;
+    enum class Bus {
+        Usbfs, ///< Emulated, for `command` and its children.
+        Usbip, ///< The kernel's own, until the printer is unplugged.
+    };
+
+    QString framesFile;  ///< Empty: frames are not kept.
+    QString joinProgram; ///< Empty: the script says what becomes of a configuration.
+    Bus bus = Bus::Usbfs;
+    QStringList command; ///< Empty with `Bus::Usbip`.
 
     /// The command line does not ask for a run: print this and leave.
     struct Message {

@@ -136,8 +136,7 @@ PrinterReply PrinterModel::obey(const ReceivedFrame &frame, const PrinterFault &
         reply.result = m_script.capabilityResult;
         break;
     case PrinterCommand::Configuration:
-        configure(frame, fault, now);
-        reply.result = m_script.configurationResult;
+        reply.result = configure(frame, fault, now);
         reply.time = m_script.joinTime;
         break;
     case PrinterCommand::Address:
@@ -153,14 +152,21 @@ PrinterReply PrinterModel::obey(const ReceivedFrame &frame, const PrinterFault &
     return reply;
 }
 
-void PrinterModel::configure(const ReceivedFrame &frame, const PrinterFault &fault, Instant now)
+quint16 PrinterModel::configure(const ReceivedFrame &frame, const PrinterFault &fault, Instant now)
 {
     const ConfigurationPayload payload(QByteArrayView(frame.bytes).sliced(payloadOffset, ConfigurationPayload::size));
     m_record.networkName = payload.networkName();
     m_record.password = payload.password();
     m_joined.reset();
-    if (fault.result.value_or(m_script.configurationResult) == 1)
+    quint16 result = m_script.configurationResult;
+    if (m_join) {
+        const std::optional<QByteArray> address = m_join(*m_record.networkName, *m_record.password);
+        m_script.ipv4 = address.value_or(QByteArray());
+        result = address ? 1 : 0;
+    }
+    if (fault.result.value_or(result) == 1)
         m_joined = now + m_script.joinTime;
+    return result;
 }
 
 bool PrinterModel::hasAddress(Instant now) const

@@ -8,6 +8,7 @@
 
 #include <QByteArrayView>
 #include <chrono>
+#include <functional>
 #include <map>
 #include <optional>
 #include <vector>
@@ -60,6 +61,12 @@ public:
     /// From the next frame on. The record and the network stay.
     void setScript(PrinterScript script);
 
+    /// Joins a network for real: the IPv4 address that the printer has there, or nothing when it was not let in. May
+    /// take its time; the printer does nothing else meanwhile.
+    using Join = std::function<std::optional<QByteArray>(const QByteArray &name, const QByteArray &password)>;
+    /// From the next configuration on, in place of the script's result and address.
+    void setJoin(Join join) { m_join = std::move(join); }
+
     OutPlan plan(QByteArrayView chunk);
     PrinterAnswer accept(QByteArrayView bytes, Instant now);
     /// The host let go of the interface, or the plug was pulled: a frame under way is cut off. Returns it.
@@ -78,12 +85,14 @@ private:
     Attempt begin(quint16 command);
     std::vector<BusEvent> eventsAfter(const Attempt &attempt) const;
     PrinterReply obey(const ReceivedFrame &frame, const PrinterFault &fault, Instant now);
-    void configure(const ReceivedFrame &frame, const PrinterFault &fault, Instant now);
+    /// The result code that the host gets.
+    quint16 configure(const ReceivedFrame &frame, const PrinterFault &fault, Instant now);
     bool hasAddress(Instant now) const;
     QByteArray addressData() const;
 
     ModelIdentity m_identity;
     PrinterScript m_script;
+    Join m_join;
     FrameReader m_reader;
     PrinterRecord m_record;
     std::optional<Attempt> m_attempt;

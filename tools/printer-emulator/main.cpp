@@ -1,7 +1,9 @@
 #include "ChildProgram.h"
 #include "EmulatorOptions.h"
+#include "JoinProgram.h"
 #include "SystemTime.h"
 #include "UsbfsBed.h"
+#include "UsbipBus.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -47,20 +49,13 @@ std::vector<QByteArray> childVariables()
             extended("ASAN_OPTIONS", "verify_asan_link_order=0")};
 }
 
-int run(const EmulatorOptions &options)
+int runOnUsbfs(const EmulatorOptions &options, PrinterModel printer, QFile &frames)
 {
-    QFile frames(options.framesFile);
-    if (!options.framesFile.isEmpty()) {
-        // The frames hold the network's password.
-        if (!frames.open(QFile::Append, QFile::ReadOwner | QFile::WriteOwner)) {
-            complain(frames.fileName() + u": "_s + frames.errorString());
-            return EmulatorFailed;
-        }
-    }
+    ChildProgram::holdSignals();
     SystemTime time;
     UsbfsBed bed(time);
     bed.onFrame([&frames](int, const ReceivedFrame &frame) { keep(frames, frame); });
-    bed.addPrinter(PrinterModel(options.identity, options.script));
+    bed.addPrinter(std::move(printer));
     if (options.script.plugged)
         bed.plug();
 
@@ -72,11 +67,33 @@ int run(const EmulatorOptions &options)
     }
     return child->wait();
 }
+
+int run(const EmulatorOptions &options)
+{
+    QFile frames(options.framesFile);
+    if (!options.framesFile.isEmpty()) {
+        // The frames hold the network's password.
+        if (!frames.open(QFile::Append, QFile::ReadOwner | QFile::WriteOwner)) {
+            complain(frames.fileName() + u": "_s + frames.errorString());
+            return EmulatorFailed;
+        }
+    }
+    PrinterModel printer(options.identity, options.script);
+    if (!options.joinProgram.isEmpty())
+        printer.setJoin(JoinProgram(options.joinProgram));
+    switch (options.bus) {
+    case EmulatorOptions::Bus::Usbfs:
+        return runOnUsbfs(options, std::move(printer), frames);
+    case EmulatorOptions::Bus::Usbip:
+        UsbipBus(std::move(printer), [&frames](const ReceivedFrame &frame) { keep(frames, frame); }).run();
+        return 0;
+    }
+    Q_UNREACHABLE();
+}
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    ChildProgram::holdSignals();
     const QCoreApplication application(argc, argv);
     const auto parsed = EmulatorOptions::parse(QCoreApplication::arguments());
     if (const auto *message = std::get_if<EmulatorOptions::Message>(&parsed)) {
