@@ -7,14 +7,19 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 pictures=build/pictures
 rm -rf "$pictures"
-mkdir -p -m 700 "$pictures/runtime"
+mkdir -p "$pictures/runtime"
+chmod 700 "$pictures/runtime"
 export XDG_RUNTIME_DIR=$PWD/$pictures/runtime
+# The platform's own screen is too small for the window at scale 2.
+screen=$XDG_RUNTIME_DIR/screen.json
+echo '{"screens": [{"name": "pictures", "x": 0, "y": 0, "width": 2560, "height": 1600,
+  "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]}' >"$screen"
 
 # take DIRECTORY LANGUAGE SCALE [options]
 take() {
   local directory=$pictures/$1 language=$2 scale=$3
   shift 3
-  QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=$scale LC_ALL=C.UTF-8 \
+  QT_QPA_PLATFORM=offscreen:configfile=$screen QT_SCALE_FACTOR=$scale LC_ALL=C.UTF-8 \
     build/debug/tests/screen_pictures "$directory" "$language" "$@"
 }
 
@@ -41,4 +46,5 @@ WTPrinterScreenWPSPBCView wps
 WTFailedView failed
 EOF
 
+rm -rf "$XDG_RUNTIME_DIR"
 echo "Look at $PWD/$pictures (contact-sheet.png shows a folder at once)."

@@ -16,7 +16,7 @@ constexpr int iconRoom = 24;
 const auto sheetStyle = uR"(
     QMessageBox { background: white; }
     QLabel { color: #222222; background: transparent; }
-    QLabel#qt_msgbox_label { font-size: 16px; font-weight: 600; min-width: 400px; padding: 0 0 0 4px; }
+    QLabel#qt_msgbox_label { font-size: 16px; font-weight: 600; min-width: 400px; padding: 0 0 1px 0; }
     QLabel#qt_msgbox_informativelabel { font-size: 14px; min-width: 400px; padding: 0 0 8px 0; }
     QPushButton {
         min-width: 96px; min-height: 36px; padding: 0 16px; border-radius: 4px; font-size: 14px;
