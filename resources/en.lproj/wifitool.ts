@@ -521,7 +521,7 @@
     </message>
     <message>
         <source>请打开定位服务，步骤：系统设置-&gt;隐私与安全性-&gt;隐私-&gt;定位服务。</source>
-        <translation>This program may not look for Wi-Fi networks. Allow it in the system settings, under Privacy or Wi-Fi.</translation>
+        <translation>This program is not allowed to look for Wi-Fi networks. Allow it in the system settings, under Privacy or Wi-Fi.</translation>
     </message>
     <message>
         <source>打印端口被占用，无法配置打印机</source>
