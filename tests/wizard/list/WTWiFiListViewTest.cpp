@@ -33,6 +33,9 @@ private Q_SLOTS:
     void noAnswerEndsAfterFiveSeconds();
     void onlyRefreshReadsTheHostState();
     void refreshWhileLoadingIsRefused();
+    void refreshKeepsTheKeyboard();
+    void refusedTwiceAlertsOnce();
+    void undoneEditKeepsTheFilledPassword();
     void failedFetchKeepsTheList();
     void onlyTheFirstRowBringsAPassword();
     void typing_data();
@@ -168,6 +171,40 @@ void WTWiFiListViewTest::refreshWhileLoadingIsRefused()
     bed.hostWiFi.answerScans();
     QTRY_VERIFY(bed.list().enableRefresh());
     QCOMPARE(bed.shownNames().first(), u"Office"_s);
+}
+
+void WTWiFiListViewTest::refreshKeepsTheKeyboard()
+{
+    ListBed bed;
+    bed.enter();
+    bed.hostWiFi.holdsScans = true;
+    QWidget *refresh = bed.widget("updateButton");
+    refresh->setFocus();
+    bed.clickAndWait("updateButton", [&] { QVERIFY(bed.rows().hasFocus()); });
+    bed.hostWiFi.answerScans();
+    QTRY_VERIFY(refresh->hasFocus());
+}
+
+void WTWiFiListViewTest::refusedTwiceAlertsOnce()
+{
+    ListBed bed(ScanPermission::Denied);
+    bed.enter([&] {
+        bed.hostWiFi.changePermission(ScanPermission::Denied);
+        QCoreApplication::processEvents();
+    });
+    QCOMPARE(bed.window().findChildren<QMessageBox *>().size(), 1);
+}
+
+void WTWiFiListViewTest::undoneEditKeepsTheFilledPassword()
+{
+    ListBed bed;
+    WTApp::shared().selectedPassword.reset();
+    bed.hostWiFi.holdsSecrets = true;
+    bed.enter([&] { bed.password().setFocus(); });
+    bed.hostWiFi.answerSecrets();
+    QTRY_COMPARE(bed.password().text(), u"secret of Office"_s);
+    QTest::sendKeyEvent(QTest::Click, &bed.password(), Qt::Key_unknown, u"é"_s, Qt::NoModifier);
+    QCOMPARE(bed.password().text(), u"secret of Office"_s);
 }
 
 void WTWiFiListViewTest::failedFetchKeepsTheList()
