@@ -1,6 +1,7 @@
 """The wizard's window as a screen reader and a person at the keyboard have it: AT-SPI for what shows, for acting on it
 and for what is heard, X events for clicks into fields and for typing. Texts are named by their keys."""
 
+import os
 import re
 import subprocess
 import time
@@ -9,7 +10,7 @@ import xml.etree.ElementTree as xml
 import pyatspi
 from gi.repository import GLib
 
-REACTION_TIME = 10
+REACTION_TIME = float(os.environ.get("WT_REACTION_TIME", "10"))
 ACCESSIBLE = {"QT_QPA_PLATFORM": "xcb", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
 PLACEHOLDER = re.compile("%[d@]")
 
