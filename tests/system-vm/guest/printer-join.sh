@@ -10,7 +10,7 @@ folder=$(mktemp -d)
 leave() {
   local status=$?
   [ $status -eq 0 ] || [ ! -f "$folder/pid" ] || kill "$(cat "$folder/pid")"
-  rm -rf "$folder/network.conf"
+  rm -f "$folder/network.conf"
 }
 trap leave EXIT
 
@@ -21,21 +21,18 @@ import hashlib, sys
 name, password = sys.stdin.buffer.read().split(b"\0")
 print(hashlib.pbkdf2_hmac("sha1", password, name, 4096, 32).hex())')
 cat >"$folder/network.conf" <<CONFIGURATION
-ctrl_interface=$folder/control
 network={
 ssid=$(printf %s "$name" | hex)
 psk=$key
 }
 CONFIGURATION
-$inside wpa_supplicant -B -P "$folder/pid" -D nl80211 -i wlan2 -c "$folder/network.conf" >/dev/null
-joined=no
-for _ in $(seq 40); do
-  case $($inside wpa_cli -p "$folder/control" -i wlan2 status) in
-    *wpa_state=COMPLETED*) joined=yes; break ;;
-  esac
-  sleep 0.5
+$inside wpa_supplicant -B -P "$folder/pid" -f "$folder/log" -D nl80211 -i wlan2 -c "$folder/network.conf" >/dev/null
+until grep -q 'CTRL-EVENT-CONNECTED' "$folder/log"; do
+  ! grep -q 'pre-shared key may be incorrect' "$folder/log" || exit 1
+  # A host does not wait for longer.
+  [ $SECONDS -lt 40 ] || exit 1
+  sleep 0.3
 done
-[ $joined = yes ]
 # Only the address may go to standard output.
 $inside busybox udhcpc -i wlan2 -n -q -s "$(dirname "$0")/lease.sh" >&2
 $inside ip -4 -o addr show wlan2 | sed -n 's/.* inet \([0-9.]*\).*/\1/p'
