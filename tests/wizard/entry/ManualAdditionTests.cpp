@@ -17,15 +17,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace
-{
-
-constexpr quint16 WakeUp = 0xFF21;
-constexpr quint16 Configuration = 0xFF80;
-constexpr quint16 InformationPage = 0xFF84;
-
-} // namespace
-
 Q_DECLARE_METATYPE(PrinterScript)
 
 /// The manual entry screen, used as a person uses it, with a printer on real libusb in virtual time.
