@@ -108,7 +108,9 @@ def complete(guest, story):
     story.attach_printer(JOINS, joins=True)
     uri = "usb://Quillmark/QZ100?serial=QM0001"
     assert uri in guest.check("lpinfo -v"), "the spooler does not see the printer"
+    # Only who sits at the computer gets the printer, by the package's rule, not by a group.
     guest.check(f"! id -nG {USER} | grep -Eqw 'lp|root|sudo'")
+    guest.check("! runuser -u nobody -- test -w /dev/$(udevadm info --query=name /sys/class/usbmisc/lp0/device/..)")
     story.walk()
     assert story.frames() == [frames.wake_up(), frames.configuration(NETWORK, PASSWORD), frames.address_query()], [
         frame[:60].hex() for frame in story.frames()

@@ -6,8 +6,8 @@
 #include <optional>
 
 /// A device's connection to the kernel's virtual host controller (vhci-hcd): a real USB device appears for as long as
-/// it lives. Needs root and the module. Throws `std::runtime_error` that names the file or the call. Source: the
-/// kernel's tools/usb/usbip and Documentation/ABI/testing/sysfs-platform-*vhci*.
+/// it lives. Needs root and the module. Throws `std::runtime_error` that names the file or the call.
+/// Source of the sysfs files `attach` and `status`: the kernel's drivers/usb/usbip/vhci_sysfs.c.
 class VirtualHostController
 {
 public:
