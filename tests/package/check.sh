@@ -32,7 +32,7 @@ archives() {
 
 clean_tree() {
   [ ! -f "$work/tree.tar" ] || return 0
-  archives | mmdebstrap --mode=root --variant=minbase --include=xvfb,xdotool,imagemagick,udev,passwd,fonts-dejavu-core \
+  archives | mmdebstrap --mode=root --variant=minbase --include=xvfb,xauth,xdotool,imagemagick,udev,passwd \
     --aptopt='APT::Install-Recommends false' bookworm "$work/tree.tar.part" -
   mv "$work/tree.tar.part" "$work/tree.tar"
 }
@@ -41,13 +41,23 @@ in_tree() { chroot "$tree" /usr/bin/env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin DE
 # Neither what apt keeps about packages, nor logs and caches.
 files_of_tree() { (cd "$tree" && find . -xdev \( -path ./var/lib/dpkg -o -path ./var/lib/apt -o -path ./var/cache -o -path ./var/log -o -path ./tmp -o -path ./home \) -prune -o -print | sort); }
 starts_as_user() {
-  in_tree su user -c 'cd && export LANG=C.UTF-8 && xvfb-run --auto-servernum sh -c "
-    wifitool & program=\$!
-    xdotool search --sync --onlyvisible --pid \$program >window && sleep 2 && import -window root window.png
-    status=\$?; kill -TERM \$program; exit \$status"'
+  # The shell inside expands these.
+  # shellcheck disable=SC2016
+  in_tree LANGUAGE=fr LANG=fr_FR.UTF-8 timeout 90 su user -c '
+    cd && xvfb-run --auto-servernum sh -c "
+      wifitool & program=\$!
+      window=\$(xdotool search --sync --onlyvisible --pid \$program | tail -1) &&
+        xdotool getwindowname \$window >title && sleep 2 && import -window root window.png
+      status=\$?; kill -TERM \$program; exit \$status"'
   cp "$tree/home/user/window.png" "$work/window.png"
 }
-finds_its_resources() { grep -rqs 'Wi-Fi Tool' "$tree/home/user/.local/state/Logs" && ! grep -rqsi 'cannot read\|no such file' "$tree/home/user/.local/state/Logs"; }
+# Without its language's table the title is the Chinese one; the catalogue's path comes from the information list.
+finds_its_resources() {
+  cat "$tree/home/user/title"
+  grep -qx 'Wi-Fi Tool' "$tree/home/user/title" &&
+    grep -rqs 'cfgPath:/usr/share/wifitool/catalogue.json' "$tree/home/user/.local/state/Logs" &&
+    [ -f "$tree/usr/share/wifitool/catalogue.json" ]
+}
 leaves_nothing() { in_tree apt-get -qq purge wifitool && files_of_tree >"$work/after" && diff "$work/before" "$work/after"; }
 
 clean_tree
