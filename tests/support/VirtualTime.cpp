@@ -11,8 +11,8 @@
 namespace
 {
 
-/// Between two looks while others are at work; only the speed of a test depends on it.
-constexpr std::chrono::microseconds lookInterval{100};
+/// Between two looks. Long enough for what the kernel hands on by a thread of its own, where nobody looks awake meanwhile.
+constexpr std::chrono::microseconds lookInterval{300};
 
 bool processMainEvents()
 {
@@ -110,9 +110,8 @@ bool VirtualTime::runUntil(const std::function<bool()> &done, const std::functio
             quiet = false;
             continue;
         }
-        const bool waitsForOthers = quiet || (!processed && !nothingToDo);
         quiet = nothingToDo;
-        if (waitsForOthers)
+        if (!processed)
             std::this_thread::sleep_for(lookInterval);
     }
     return true;

@@ -159,8 +159,12 @@ bool UsbfsBus::busy() const
     if (m_jobs > 0)
         return true;
     const std::lock_guard lock(m_lock.mutex());
-    return std::chrono::steady_clock::now() < m_lastRequest + patience &&
-           std::ranges::any_of(m_devices, [](const auto &device) { return device->owesSomething(); });
+    return std::chrono::steady_clock::now() < m_lastMove + patience && owesSomething();
+}
+
+bool UsbfsBus::owesSomething() const
+{
+    return std::ranges::any_of(m_devices, [](const auto &device) { return device->owesSomething(); });
 }
 
 void UsbfsBus::with(int printer, const std::function<void(UsbfsDevice &)> &action)
@@ -172,7 +176,7 @@ void UsbfsBus::with(int printer, const std::function<void(UsbfsDevice &)> &actio
 int UsbfsBus::serve(UsbfsDevice &device, UMockdevIoctlClient *client)
 {
     const TimedLock::Turn turn(m_lock);
-    m_lastRequest = std::chrono::steady_clock::now();
+    m_lastMove = std::chrono::steady_clock::now();
     return device.handle(client);
 }
 
@@ -196,8 +200,12 @@ void UsbfsBus::scheduled(UsbfsDevice &device, const BusEvent &event)
 
 void UsbfsBus::settle()
 {
+    const bool owed = owesSomething();
     for (const auto &device : m_devices)
         device->pump();
+    // The news travel through the kernel to the program, which counts from now on as being on its way.
+    if (!owed && owesSomething())
+        m_lastMove = std::chrono::steady_clock::now();
     while (const auto entry = m_agenda.takeDue(now()))
         apply(entry->printer, entry->action);
 }

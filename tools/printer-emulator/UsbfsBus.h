@@ -51,6 +51,7 @@ private:
     Instant now() const override { return m_time.now(); }
     void settle() override;
     std::optional<Instant> nextDue() const override;
+    bool owesSomething() const;
     int serve(UsbfsDevice &device, UMockdevIoctlClient *client) override;
     void left(UsbfsDevice &device) override;
     void received(UsbfsDevice &device, const ReceivedFrame &frame) override;
@@ -74,8 +75,8 @@ private:
     Agenda m_agenda;
     Listener m_listener;
     int m_lastDeviceNumber = 1;
-    /// Real time, not the port's: see `busy`.
-    std::chrono::steady_clock::time_point m_lastRequest;
+    /// A program's last request, or when there was last something new for one. Real time, not the port's: see `busy`.
+    std::chrono::steady_clock::time_point m_lastMove;
 
     std::atomic<int> m_jobs = 0;
     SerialQueue m_thread;
