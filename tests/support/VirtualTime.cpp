@@ -11,7 +11,8 @@
 namespace
 {
 
-/// Between two looks. Long enough for what the kernel hands on by a thread of its own, where nobody looks awake meanwhile.
+/// Between two looks. Long enough for what the kernel hands on by a thread of its own, where nobody looks awake
+/// meanwhile.
 constexpr std::chrono::microseconds lookInterval{300};
 
 bool processMainEvents()
