@@ -16,11 +16,17 @@ def imported() -> set[str]:
     return set(re.findall(r"UND (\w+)(?:@|$)", readelf("--dyn-syms"), re.MULTILINE))
 
 
-def starts_with_landing_pads() -> bool:
-    """Every place that an indirect call may reach begins with endbr64: the entry point and the exported functions."""
-    code = subprocess.run(["objdump", "--disassemble", "--no-show-raw-insn", program], capture_output=True, text=True, check=True)
-    entry = re.search(r"Entry point address: +0x([0-9a-f]+)", readelf("--file-header")).group(1)
-    return code.stdout.count("endbr64") > 1000 and re.search(rf"^ +{entry}:\s+endbr64", code.stdout, re.MULTILINE) is not None
+def functions_without_landing_pad() -> int:
+    """Functions that a table of addresses names (virtual functions, start-up code) but that do not begin with endbr64.
+
+    The ELF note that says the same of the whole program cannot be there: the distribution's start-up objects lack it.
+    """
+    code = subprocess.run(["objdump", "--disassemble", "--section=.text", "--no-show-raw-insn", program],
+                          capture_output=True, text=True, check=True).stdout
+    instructions = dict(re.findall(r"^ +([0-9a-f]+):\t(\w+)", code, re.MULTILINE))
+    targets = set(re.findall(r"R_X86_64_RELATIVE +([0-9a-f]+)", readelf("--relocs"))) & instructions.keys()
+    assert len(targets) > 100, "the program has tables of virtual functions"
+    return sum(instructions[target] != "endbr64" for target in targets)
 
 
 program = sys.argv[1]
@@ -34,7 +40,7 @@ checks = {
     "no segment writable and executable": re.search(r"LOAD.* RWE ", segments) is None,
     "stack protector": "__stack_chk_fail" in symbols,
     "fortified functions": any(name.endswith("_chk") and name != "__stack_chk_fail" for name in symbols),
-    "landing pads for indirect calls": starts_with_landing_pads(),
+    "landing pads for indirect calls": functions_without_landing_pad() == 0,
     "no library path": "RPATH" not in dynamic and "RUNPATH" not in dynamic,
     "no set-user-ID": not Path(program).stat().st_mode & (stat.S_ISUID | stat.S_ISGID),
     "listens to nobody": not symbols & {"listen", "accept", "accept4"},
