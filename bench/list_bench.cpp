@@ -109,8 +109,12 @@ void measure(ListScreen &list, FakeHostWiFi &hostWiFi, int count)
     }
     const int range = list.scrollBar().maximum();
     for (std::size_t step = 1; range > 0 && step <= scrollSteps; ++step) {
+        const int value = int(step * std::size_t(range) / scrollSteps);
+        // Nothing moves, nothing is painted.
+        if (value == list.scrollBar().value())
+            continue;
         scroll.measure([&] {
-            list.scrollBar().setValue(int(step * std::size_t(range) / scrollSteps));
+            list.scrollBar().setValue(value);
             list.paint();
         });
     }
