@@ -125,7 +125,10 @@ void ScreenFrame::keyPressEvent(QKeyEvent *event)
         target = m_back;
     else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         target = buttonForEnter();
-    if (target && target->isEnabled())
+    // A key that is held does what it was pressed for, once: the screen may have changed under it.
+    if (target && event->isAutoRepeat())
+        event->accept();
+    else if (target && target->isEnabled())
         target->click();
     else
         QWidget::keyPressEvent(event);
