@@ -4,7 +4,8 @@
 
 std::optional<QString> utf8Text(QByteArrayView bytes)
 {
-    QStringDecoder decoder{QStringDecoder::Utf8, QStringDecoder::Flag::Stateless};
+    using Flag = QStringDecoder::Flag;
+    QStringDecoder decoder{QStringDecoder::Utf8, Flag::Stateless | Flag::ConvertInitialBom};
     const QString text = decoder.decode(bytes);
     if (decoder.hasError())
         return std::nullopt;

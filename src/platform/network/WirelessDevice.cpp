@@ -3,6 +3,7 @@
 
 #include "AccessPointSecurity.h"
 
+#include <QStringDecoder>
 #include <algorithm>
 #include <map>
 #include <tuple>
@@ -74,7 +75,8 @@ QString readableName(GBytes *ssid)
     if (std::all_of(bytes, bytes + size, [](guint8 byte) { return byte == 0; }))
         return {};
     const GlibPointer<gchar> text(nm_utils_ssid_to_utf8(bytes, size));
-    return QString::fromUtf8(text.get());
+    // A byte order mark belongs to the name: without it the printer would look for another network.
+    return QStringDecoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom).decode(text.get());
 }
 
 HostWiFiState wirelessState(NMClient *client, NMDeviceWifi *device)
