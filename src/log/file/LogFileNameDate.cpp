@@ -9,14 +9,17 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 
-/// Seconds from UTC of "+03", "-0930" and "+05:30".
+/// Seconds from UTC of "+03", "-0930" and "+05:30"; absent beyond the offsets that are in use.
 std::optional<int> secondsOfOffset(const QString &zone)
 {
-    static const QRegularExpression pattern(u"\\A([+-])(\\d\\d):?(\\d\\d)?\\z"_s);
+    constexpr int most = 14 * 60 * 60;
+    static const QRegularExpression pattern(u"\\A([+-])(\\d\\d):?([0-5]\\d)?\\z"_s);
     const QRegularExpressionMatch match = pattern.match(zone);
     if (!match.hasMatch())
         return std::nullopt;
     const int seconds = (match.capturedView(2).toInt() * 60 + match.capturedView(3).toInt()) * 60;
+    if (seconds > most)
+        return std::nullopt;
     return match.capturedView(1) == u'-' ? -seconds : seconds;
 }
 
