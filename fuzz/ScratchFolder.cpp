@@ -1,0 +1,33 @@
+#include "ScratchFolder.h"
+
+#include "Fuzz.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::Literals::StringLiterals;
+using Fuzz::require;
+
+ScratchFolder::ScratchFolder()
+    : m_folder(u"/dev/shm/wifitool-fuzz-XXXXXX"_s)
+{
+    require(m_folder.isValid(), "there is room for a folder");
+}
+
+void ScratchFolder::write(const QString &name, QByteArrayView contents) const
+{
+    QFile file(m_folder.filePath(name));
+    if (!file.open(QIODevice::WriteOnly)) {
+        QDir().mkpath(QFileInfo(file).path());
+        require(file.open(QIODevice::WriteOnly), "a file can be made");
+    }
+    require(file.write(contents.data(), contents.size()) == contents.size(), "a file can be written");
+}
+
+void ScratchFolder::empty() const
+{
+    const QDir folder(m_folder.path());
+    for (const QString &name : folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot))
+        QFile::remove(folder.filePath(name));
+}
