@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace
@@ -32,14 +33,33 @@ unsigned long long numberOf(std::string_view status, std::string_view key)
     return number;
 }
 
-std::optional<ThreadStatus> statusOf(pid_t thread)
+using Buffer = std::array<char, 4096>;
+
+/// One of the files that the kernel shows of a thread; empty when it has gone.
+std::string_view readFile(pid_t thread, const char *name, Buffer &buffer)
 {
-    std::array<char, 4096> buffer;
-    const std::string path = "/proc/self/task/" + std::to_string(thread) + "/status";
+    const std::string path = "/proc/self/task/" + std::to_string(thread) + '/' + name;
     const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
     const ssize_t size = file < 0 ? -1 : read(file, buffer.data(), buffer.size());
     close(file);
-    const std::string_view status(buffer.data(), std::size_t(std::max<ssize_t>(size, 0)));
+    return {buffer.data(), std::size_t(std::max<ssize_t>(size, 0))};
+}
+
+/// A pause that ends by itself. The emulated usbfs makes one after every request, of no length, but on a busy host its
+/// timer may come milliseconds late.
+bool pauses(pid_t thread)
+{
+    Buffer buffer;
+    const std::string_view call = readFile(thread, "syscall", buffer);
+    long number = -1;
+    std::from_chars(call.data(), call.data() + call.size(), number);
+    return number == SYS_nanosleep || number == SYS_clock_nanosleep;
+}
+
+std::optional<ThreadStatus> statusOf(pid_t thread)
+{
+    Buffer buffer;
+    const std::string_view status = readFile(thread, "status", buffer);
     const std::string_view state = valueOf(status, "\nState:\t");
     const unsigned long long switches =
         numberOf(status, "\nvoluntary_ctxt_switches:\t") + numberOf(status, "\nnonvoluntary_ctxt_switches:\t");
@@ -60,7 +80,7 @@ std::optional<ThreadActivity::Switches> ThreadActivity::sampleIfAllAsleep()
         if (thread == gettid())
             continue;
         const auto status = statusOf(thread);
-        if (!status || status->state != 'S')
+        if (!status || status->state != 'S' || pauses(thread))
             return std::nullopt;
         switches[thread] = status->switches;
     }

@@ -11,9 +11,8 @@
 namespace
 {
 
-/// Between two looks. Long enough for what the kernel hands on by a thread of its own, where nobody looks awake
-/// meanwhile.
-constexpr std::chrono::microseconds lookInterval{300};
+/// Between two looks, so that whoever has something to do gets the processor.
+constexpr std::chrono::microseconds lookInterval{50};
 
 bool processMainEvents()
 {
