@@ -72,7 +72,7 @@ public:
     using PasswordCallback = std::function<void(const QString &password)>;
 
     /// Asks for the selected network's stored password, unless the network is open, and puts what comes, empty after a
-    /// failure, into `selectedPassword`.
+    /// failure, into `selectedPassword`. What came for another network goes at once.
     void fetchWIFIPWD();
     /// The stored password of the network that is selected when the host is asked; `ssid` only decides whether to ask:
     /// an absent one answers at once. The host may ask its user first. Empty after a failure.
@@ -96,7 +96,10 @@ Q_SIGNALS:
 private:
     WTApp() = default;
 
+    void keepPassword(const std::optional<QString> &ssid, const QString &password);
+
     std::optional<QString> m_systemVersion;
     std::optional<DeviceInfo> m_deviceInfo;
     std::optional<QString> m_appLanguage;
+    std::optional<QString> m_passwordSSID; ///< The network that the host's last stored password was for.
 };

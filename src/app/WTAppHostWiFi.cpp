@@ -72,11 +72,20 @@ void WTApp::fetchWIFIPWD()
     if (selectedAuthMode == 0)
         return;
     logInfo("🏷");
-    pwdBySSID(selectedSSID, [asked = selectedSSID](const QString &password) {
-        // The host's user may have been asked first: meanwhile another network can have been selected.
-        if (shared().selectedSSID == asked)
-            shared().selectedPassword = password;
-    });
+    // The host may ask its user first; until then nobody is shown another network's password.
+    if (m_passwordSSID && m_passwordSSID != selectedSSID)
+        selectedPassword.reset();
+    pwdBySSID(selectedSSID,
+              [asked = selectedSSID](const QString &password) { shared().keepPassword(asked, password); });
+}
+
+void WTApp::keepPassword(const std::optional<QString> &ssid, const QString &password)
+{
+    // While the host asked its user, another network can have been selected.
+    if (selectedSSID != ssid)
+        return;
+    selectedPassword = password;
+    m_passwordSSID = ssid;
 }
 
 void WTApp::pwdBySSID(const std::optional<QString> &ssid, PasswordCallback callBack)
@@ -90,8 +99,8 @@ void WTApp::pwdBySSID(const std::optional<QString> &ssid, PasswordCallback callB
         shared().hostWiFi().storedPassword(account, [callBack, account](SecretStatus status, const QString &password) {
             onMainThread([callBack, account, status, password] {
                 logSecretFailure(status);
-                if (status == SecretStatus::Success && shared().selectedSSID == account)
-                    shared().selectedPassword = password;
+                if (status == SecretStatus::Success)
+                    shared().keepPassword(account, password);
                 callBack(status == SecretStatus::Success ? password : QString());
                 Q_EMIT shared().storedPasswordArrived(account);
             });

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void fetchesThePassword_data();
     void fetchesThePassword();
     void readsTheSelectedNetworksPassword();
+    void showsNoPasswordOfAnotherNetwork();
 
 private:
     FakeHostWiFi m_hostWiFi;
@@ -234,6 +235,22 @@ void HostStateTest::readsTheSelectedNetworksPassword()
     app.selectedSSID = u"Chosen since"_s;
     QTRY_COMPARE(answers.size(), 2);
     QCOMPARE(answers.last(), u"secret of Chosen since"_s);
+}
+
+void HostStateTest::showsNoPasswordOfAnotherNetwork()
+{
+    WTApp &app = WTApp::shared();
+    app.checkPcNetState();
+    app.fetchWIFIPWD();
+    QTRY_COMPARE(app.selectedPassword, u"secret of Quill House"_s);
+    app.fetchWIFIPWD();
+    QCOMPARE(app.selectedPassword, u"secret of Quill House"_s);
+
+    m_hostWiFi.now.ssid = u"Next Door"_s;
+    app.checkPcNetState();
+    app.fetchWIFIPWD();
+    QCOMPARE(app.selectedPassword, std::nullopt);
+    QTRY_COMPARE(app.selectedPassword, u"secret of Next Door"_s);
 }
 
 QTEST_GUILESS_MAIN(HostStateTest)
