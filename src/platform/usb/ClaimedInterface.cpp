@@ -2,26 +2,23 @@
 
 #include "UsbErrorGate.h"
 
-// A driver that cannot be detached shows in the claim, which then fails.
-KernelDriverPause::KernelDriverPause(libusb_device_handle *handle, int interface)
-    : m_handle(handle)
-    , m_interface(interface)
-    , m_detached(libusb_kernel_driver_active(handle, interface) == 1 &&
-                 libusb_detach_kernel_driver(handle, interface) == LIBUSB_SUCCESS)
+namespace
 {
+
+// A driver that cannot be detached shows in the claim, which then fails.
+int claimFromDriver(libusb_device_handle *handle, int interface)
+{
+    const bool driverIsBound = libusb_kernel_driver_active(handle, interface) == 1;
+    libusb_set_auto_detach_kernel_driver(handle, driverIsBound ? 1 : 0);
+    return libusb_claim_interface(handle, interface);
 }
 
-KernelDriverPause::~KernelDriverPause()
-{
-    if (m_detached)
-        libusb_attach_kernel_driver(m_handle, m_interface);
-}
+} // namespace
 
 ClaimedInterface::ClaimedInterface(libusb_device_handle *handle, int interface)
-    : m_driverPause(handle, interface)
-    , m_handle(handle)
+    : m_handle(handle)
     , m_interface(interface)
-    , m_claimResult(libusb_claim_interface(handle, interface))
+    , m_claimResult(claimFromDriver(handle, interface))
 {
 }
 

@@ -5,22 +5,8 @@
 
 #include <memory>
 
-/// Keeps the kernel's driver off an interface for as long as it lives, if one was bound.
-class KernelDriverPause
-{
-public:
-    KernelDriverPause(libusb_device_handle *handle, int interface);
-    ~KernelDriverPause();
-    KernelDriverPause(const KernelDriverPause &) = delete;
-    KernelDriverPause &operator=(const KernelDriverPause &) = delete;
-
-private:
-    libusb_device_handle *const m_handle;
-    const int m_interface;
-    const bool m_detached;
-};
-
-/// A claimed interface in its chosen alternate setting. Released in the end; then the kernel's driver comes back.
+/// A claimed interface in its chosen alternate setting. The kernel's driver, if one was bound, makes room in the same
+/// moment. Released in the end; then the driver comes back.
 class ClaimedInterface
 {
 public:
@@ -34,7 +20,6 @@ public:
 private:
     ClaimedInterface(libusb_device_handle *handle, int interface);
 
-    const KernelDriverPause m_driverPause;
     libusb_device_handle *const m_handle;
     const int m_interface;
     const int m_claimResult;
