@@ -5,6 +5,7 @@
 #include "Palette.h"
 #include "TextStyle.h"
 
+#include <QFocusEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -14,6 +15,8 @@ namespace
 
 constexpr int boxHeight = 40;
 constexpr int boxPadding = 8;
+/// The field keeps off the border: at a scale factor between two whole ones it would cover a part of it.
+constexpr int boxBorder = 1;
 constexpr qreal cornerRadius = 4;
 
 } // namespace
@@ -27,15 +30,16 @@ FieldFrame::FieldFrame(const QString &label, QWidget *field, QWidget *parent)
     , m_borderColor(Palette::frame)
 {
     m_label->setBuddy(field);
+    field->installEventFilter(this);
     field->setAccessibleName(ButtonLook::spokenTitle(label));
     auto *layout = new QVBoxLayout(this);
     // The border is drawn around the field, so that it needs a line below one that has no note.
     layout->setContentsMargins(0, 0, 0, 1);
     layout->setSpacing(8);
     layout->addWidget(m_label);
-    field->setFixedHeight(boxHeight);
+    field->setFixedHeight(boxHeight - 2 * boxBorder);
     auto *box = new QHBoxLayout;
-    box->setContentsMargins(boxPadding, 0, boxPadding, 0);
+    box->setContentsMargins(boxPadding, boxBorder, boxPadding, boxBorder);
     box->addWidget(field);
     layout->addLayout(box);
     layout->addWidget(m_help);
@@ -74,12 +78,24 @@ void FieldFrame::showHelpOrError()
     m_field->setAccessibleDescription(failed ? m_error->text() : m_help->text());
 }
 
+bool FieldFrame::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::FocusOut) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+        // A menu gives it back, and so does another window.
+        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
+            setBorderColor(Palette::frame);
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
 void FieldFrame::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(m_borderColor, 1));
     painter.setBrush(Palette::white);
-    const QRectF box = QRectF(m_field->geometry()).adjusted(-boxPadding + 0.5, -0.5, boxPadding - 0.5, 0.5);
+    const qreal above = boxBorder + 0.5;
+    const QRectF box = QRectF(m_field->geometry()).adjusted(-boxPadding + 0.5, -above, boxPadding - 0.5, above);
     painter.drawRoundedRect(box, cornerRadius, cornerRadius);
 }

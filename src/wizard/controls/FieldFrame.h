@@ -16,7 +16,8 @@ public:
     /// Takes the field over as its child and gives it the label as accessible name. The label's mnemonic leads to it.
     FieldFrame(const QString &label, QWidget *field, QWidget *parent = nullptr);
 
-    /// `Palette::frame` at rest, `Palette::focusBlue` with the keyboard.
+    /// `Palette::frame` at rest, `Palette::focusBlue` with the keyboard. It is at rest again as soon as the keyboard
+    /// goes elsewhere in the window.
     QColor borderColor() const { return m_borderColor; }
     void setBorderColor(const QColor &color);
 
@@ -28,6 +29,7 @@ public:
     void addBelow(QWidget *widget);
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -166,6 +166,8 @@ void ManualAdditionTests::focusColoursTheFrames()
     QTest::mouseClick(passwordField(), Qt::LeftButton);
     QCOMPARE(colour(nameField()), Palette::frame);
     QCOMPARE(colour(passwordField()), Palette::focusBlue);
+    find<WTButton>("showPwdBtn"_L1)->setFocus();
+    QCOMPARE(colour(passwordField()), Palette::frame);
 }
 
 void ManualAdditionTests::showsAndHidesThePassword()

@@ -38,6 +38,11 @@ void ListBed::prepare(ScanPermission permission, const QString &joined)
     hostWiFi.permission = permission;
     hostWiFi.now = joinedTo(joined);
     hostWiFi.networks = std::vector{home, cafe, office};
+    awaitPrinter();
+}
+
+void ListBed::awaitPrinter()
+{
     if (!findPrinters())
         qFatal("The wizard does not find the printer.");
 }
@@ -90,6 +95,13 @@ void ListBed::clickAndWait(const char *button, const std::function<void()> &mean
         waitFor([&] { return time().now() >= start + 5s; });
     });
     click(button);
+}
+
+void ListBed::enter(const std::function<void()> &meanwhile)
+{
+    // The start screen looks for it anew each time it shows.
+    awaitPrinter();
+    clickAndWait("netxtBtn", meanwhile);
 }
 
 void ListBed::choose(int row)

@@ -35,12 +35,13 @@ public:
     /// Clicks a button whose action waits five seconds, lets them pass, and runs `meanwhile` in the middle of them.
     void clickAndWait(const char *button, const std::function<void()> &meanwhile = {});
     /// From the start screen to the list, as a person gets there.
-    void enter(const std::function<void()> &meanwhile = {}) { clickAndWait("netxtBtn", meanwhile); }
+    void enter(const std::function<void()> &meanwhile = {});
     void choose(int row);
     static void type(QLineEdit &field, const QString &text);
     /// As from the clipboard.
     static void paste(QLineEdit &field, const QString &text);
 
 private:
+    void awaitPrinter();
     void prepare(ScanPermission permission, const QString &joined);
 };
