@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Takes a picture of every screen in three languages at two scale factors, and of the network list in every language, into
+# Takes a picture of every screen in three languages at four scale factors, and of the network list in every language, into
 # build/pictures; renews the pictures of the README.
 # usage: tools/pictures.sh
 set -euo pipefail
@@ -24,7 +24,7 @@ take() {
 }
 
 for language in en zh-Hans de; do
-  for scale in 1 2; do
+  for scale in 1 1.25 1.5 2; do
     take "$language-$scale" "$language" "$scale"
   done
 done
