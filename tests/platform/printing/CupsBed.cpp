@@ -103,8 +103,10 @@ void CupsBed::writeSettings() const
     write(path(u"etc/cups-files.conf"_s), QString{fileSettings}.arg(m_folder.path()) + owner);
     write(path(u"etc/cupsd.conf"_s), QString{settings}.arg(m_folder.path()));
     QFile{m_folder.path()}.setPermissions(forOwnerToChange);
-    for (const auto &folder : {u"spool"_s, u"spool/tmp"_s, u"cache"_s, u"state"_s, u"log"_s, u"progress"_s})
-        static_cast<void>(::chown(path(folder).toLocal8Bit(), user->pw_uid, user->pw_gid));
+    for (const auto &folder : {u"spool"_s, u"spool/tmp"_s, u"cache"_s, u"state"_s, u"log"_s, u"progress"_s}) {
+        if (::chown(path(folder).toLocal8Bit(), user->pw_uid, user->pw_gid) != 0)
+            qWarning("The spooler may not write to \"%s\".", qPrintable(folder));
+    }
 }
 
 void CupsBed::writeBackend() const
