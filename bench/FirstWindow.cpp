@@ -4,12 +4,14 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <fcntl.h>
 #include <fstream>
 #include <memory>
 #include <poll.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <thread>
+#include <unistd.h>
 
 namespace
 {
@@ -27,6 +29,20 @@ struct FreeLater {
 };
 template <typename Reply>
 using ReplyPointer = std::unique_ptr<Reply, FreeLater>;
+
+/// Starts a program whose greetings do not get between the lines of a table; its complaints are heard.
+std::optional<pid_t> start(const std::string &program)
+{
+    posix_spawn_file_actions_t silence;
+    posix_spawn_file_actions_init(&silence);
+    posix_spawn_file_actions_addopen(&silence, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+    std::string name = program;
+    char *arguments[] = {name.data(), nullptr};
+    pid_t process = 0;
+    const int result = posix_spawn(&process, program.c_str(), &silence, nullptr, arguments, environ);
+    posix_spawn_file_actions_destroy(&silence);
+    return result == 0 ? std::optional(process) : std::nullopt;
+}
 
 /// One figure of /proc/PID/smaps_rollup, in MiB.
 double memoryOf(pid_t process, const std::string &name)
@@ -63,22 +79,20 @@ std::optional<StartCost> FirstWindow::measure(const std::string &program)
 {
     while (const ReplyPointer<xcb_generic_event_t> old{xcb_poll_for_event(m_display)}) {
     }
-    std::string name = program;
-    char *arguments[] = {name.data(), nullptr};
-    pid_t process = 0;
-    const auto start = Clock::now();
-    if (posix_spawn(&process, program.c_str(), nullptr, nullptr, arguments, environ) != 0)
+    const auto begin = Clock::now();
+    const auto process = start(program);
+    if (!process)
         return std::nullopt;
 
     std::optional<StartCost> cost;
     const xcb_window_t window = waitForWindow();
     if (window && waitForPaint(window)) {
-        const std::chrono::duration<double, std::milli> taken = Clock::now() - start;
+        const std::chrono::duration<double, std::milli> taken = Clock::now() - begin;
         std::this_thread::sleep_for(settling);
-        cost = {taken.count(), memoryOf(process, "Rss"), memoryOf(process, "Pss")};
+        cost = {taken.count(), memoryOf(*process, "Rss"), memoryOf(*process, "Pss")};
     }
-    kill(process, SIGKILL);
-    waitpid(process, nullptr, 0);
+    kill(*process, SIGKILL);
+    waitpid(*process, nullptr, 0);
     return cost;
 }
 

@@ -18,9 +18,6 @@ public:
         add(std::chrono::steady_clock::now() - start);
     }
 
-    /// A call that the caller has timed.
-    void add(std::chrono::steady_clock::duration duration);
-
     /// Begins and ends a stretch of calls whose waits count.
     void beginStretch();
     void endStretch();
@@ -36,6 +33,8 @@ public:
     double percentile(double share) const;
 
 private:
+    void add(std::chrono::steady_clock::duration duration);
+
     std::vector<std::chrono::nanoseconds::rep> m_durations;
     long m_waits = 0;
     long m_preemptions = 0;
