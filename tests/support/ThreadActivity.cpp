@@ -46,14 +46,14 @@ std::string_view readFile(pid_t thread, const char *name, Buffer &buffer)
 }
 
 /// A pause that ends by itself. The emulated usbfs makes one after every request, of no length, but on a busy host its
-/// timer may come milliseconds late.
+/// timer may come milliseconds late. (libc makes this call of every pause; the sanitizers' own thread uses another one.)
 bool pauses(pid_t thread)
 {
     Buffer buffer;
     const std::string_view call = readFile(thread, "syscall", buffer);
     long number = -1;
     std::from_chars(call.data(), call.data() + call.size(), number);
-    return number == SYS_nanosleep || number == SYS_clock_nanosleep;
+    return number == SYS_clock_nanosleep;
 }
 
 std::optional<ThreadStatus> statusOf(pid_t thread)
