@@ -62,7 +62,7 @@ int main()
     std::printf("Milliseconds to read a catalogue and to find its last model; the median of %zu times.\n\n"
                 "| models | read | is it known | has it Wi-Fi |\n|---|---|---|---|\n",
                 rounds);
-    for (const int count : {10, 100, 1000, 10000, 100000}) {
+    for (const int count : {10, 30, 100, 300, 1000, 3000, 10000, 30000, 100000}) {
         if (!measure(count))
             return 1;
     }

@@ -143,7 +143,7 @@ int main(int argc, char *argv[])
                 "%zu times each.\n\n"
                 "| networks | painted, median | longest | scrolled, median | longest |\n|---|---|---|---|---|\n",
                 rounds, scrollSteps);
-    for (const int count : {10, 100, 1000, 10000})
+    for (const int count : {10, 30, 100, 300, 1000, 3000, 10000})
         measure(list, hostWiFi, count);
     return 0;
 }
