@@ -46,7 +46,8 @@ std::string_view readFile(pid_t thread, const char *name, Buffer &buffer)
 }
 
 /// A pause that ends by itself. The emulated usbfs makes one after every request, of no length, but on a busy host its
-/// timer may come milliseconds late. (libc makes this call of every pause; the sanitizers' own thread uses another one.)
+/// timer may come milliseconds late. (libc makes this call of every pause; the sanitizers' own thread uses another
+/// one.)
 bool pauses(pid_t thread)
 {
     Buffer buffer;
