@@ -2,6 +2,7 @@
 
 #include "AlternateSignalStack.h"
 
+#include <atomic>
 #include <utility>
 
 UsbEventThread::UsbEventThread(UsbContext &context, std::function<void()> attend)
@@ -15,6 +16,7 @@ UsbEventThread::~UsbEventThread()
     {
         const std::lock_guard lock(m_mutex);
         m_stopping = true;
+        noteRequest();
     }
     wakeUp();
     if (m_thread.joinable())
@@ -39,9 +41,14 @@ void UsbEventThread::requestAttention()
 {
     {
         const std::lock_guard lock(m_mutex);
-        m_attentionRequested = true;
+        noteRequest();
     }
     wakeUp();
+}
+
+void UsbEventThread::noteRequest()
+{
+    std::atomic_ref(m_attentionRequested).store(1);
 }
 
 bool UsbEventThread::isCurrent() const
@@ -81,13 +88,13 @@ void UsbEventThread::run()
     const AlternateSignalStack signalStack;
     std::unique_lock lock(m_mutex);
     while (!m_stopping) {
-        if (std::exchange(m_attentionRequested, false)) {
+        if (std::atomic_ref(m_attentionRequested).exchange(0)) {
             lock.unlock();
             m_attend();
             lock.lock();
         } else if (libusb_context *const context = m_context.current()) {
             lock.unlock();
-            libusb_handle_events_completed(context, nullptr);
+            libusb_handle_events_completed(context, &m_attentionRequested);
             lock.lock();
         } else {
             m_wakeUp.wait(lock, [this] { return m_stopping || m_attentionRequested || m_context.current(); });

@@ -29,6 +29,7 @@ private:
     static int LIBUSB_CALL busChanged(libusb_context *context, libusb_device *device, libusb_hotplug_event event,
                                       void *thread);
     void listenForHotplug();
+    void noteRequest();
     void run();
     void wakeUp();
 
@@ -37,7 +38,10 @@ private:
     mutable std::mutex m_mutex;
     std::condition_variable m_wakeUp;
     std::optional<libusb_hotplug_callback_handle> m_hotplug;
-    bool m_attentionRequested = false;
+    /// Written under the mutex. libusb reads it as well, behind the lock under which it waits for events: so a request
+    /// that comes between our look and its wait is not slept through, even if another thread that handles events has
+    /// taken our interruption.
+    int m_attentionRequested = 0;
     bool m_stopping = false;
     std::thread m_thread;
 };
