@@ -17,7 +17,8 @@ ScratchFolder::ScratchFolder()
 
 void ScratchFolder::write(const QString &name, QByteArrayView contents) const
 {
-    QFile file(m_folder.filePath(name));
+    // Put together by hand: filePath() takes a name that begins with a colon for an absolute one.
+    QFile file(path() + u'/' + name);
     if (!file.open(QIODevice::WriteOnly)) {
         QDir().mkpath(QFileInfo(file).path());
         require(file.open(QIODevice::WriteOnly), "a file can be made");
@@ -29,5 +30,5 @@ void ScratchFolder::empty() const
 {
     const QDir folder(m_folder.path());
     for (const QString &name : folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot))
-        QFile::remove(folder.filePath(name));
+        QFile::remove(path() + u'/' + name);
 }
