@@ -1,6 +1,7 @@
 #include "PasswordStrengthView.h"
 
 #include "KSPasswordField.h"
+#include "LiveLabel.h"
 #include "Localized.h"
 #include "Palette.h"
 #include "StrengthMeter.h"
@@ -15,7 +16,7 @@ PasswordStrengthView::PasswordStrengthView(KSPasswordField *field, QWidget *pare
     , m_field(field)
     , m_meter(new StrengthMeter)
     , m_word(TextStyle::makeLabel({}, TextStyle::Size::Small, Palette::label))
-    , m_capsLock(TextStyle::makeLabel(localized(u"大写锁定已打开"_s), TextStyle::Size::Small, Palette::red))
+    , m_capsLock(new LiveLabel(localized(u"大写锁定已打开"_s), TextStyle::Size::Small, Palette::red))
 {
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -3,10 +3,12 @@
 #include <QWidget>
 
 class KSPasswordField;
+class LiveLabel;
 class QLabel;
 class StrengthMeter;
 
-/// The line below a password field: a strength meter, its word, and a warning while caps lock is on. Follows the field.
+/// The line below a password field: a strength meter, its word, and a warning, spoken by screen readers, while
+/// caps lock is on. Follows the field.
 class PasswordStrengthView : public QWidget
 {
     Q_OBJECT
@@ -22,5 +24,5 @@ private:
     KSPasswordField *m_field;
     StrengthMeter *m_meter;
     QLabel *m_word;
-    QLabel *m_capsLock;
+    LiveLabel *m_capsLock;
 };

@@ -54,6 +54,7 @@ void WTWiFiListView::awakeFromNib()
     connect(m_wifiListView, &WTListView::rowChosen, this, &WTWiFiListView::tableView);
     connect(m_updateButton, &WTButton::clicked, this, &WTWiFiListView::updateWifiList);
     connect(m_passwordTextField, &KSPasswordField::showHidePressed, m_showPwdBtn, &WTButton::click);
+    connect(m_passwordTextField, &KSPasswordField::capsLockChanged, this, &WTWiFiListView::showPasswordError);
     connect(m_showPwdBtn, &WTButton::clicked, this, &WTWiFiListView::showPassword);
     connect(m_nextBtn, &WTDefaultStyleBtn::clicked, this, &WTWiFiListView::next);
     connect(m_previous, &WTButton::clicked, this, &WTWiFiListView::back);
@@ -290,7 +291,15 @@ void WTWiFiListView::updateBtnNextStepState()
     const QString password = m_passwordTextField->text();
     m_nextBtn->setDisable(!viewModel()->canGoNext(name, password));
     m_ssidView->setError(WTNetworkWithManualAdditionModel::nameError(name));
-    m_passwordView->setError(PrinterPassword::isTooLong(password) ? PrinterPassword::limitText() : QString());
+    showPasswordError();
+}
+
+void WTWiFiListView::showPasswordError()
+{
+    if (PrinterPassword::isTooLong(m_passwordTextField->text()))
+        m_passwordView->setError(PrinterPassword::limitText());
+    else
+        m_passwordView->setError(m_passwordTextField->capsLock() ? localized(u"大写锁定已打开"_s) : QString());
 }
 
 void WTWiFiListView::controlDidBecomeFirstResponder(WTTextfield *field)

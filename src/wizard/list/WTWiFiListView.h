@@ -70,6 +70,8 @@ private:
     void showLocationAlert();
     void storedPasswordArrived(const QString &ssid);
     void resetFieldFrames();
+    /// Below the password: that it is too long for a printer, else that caps lock is on.
+    void showPasswordError();
 
     WTPrinterPtr m_printer;
     WTInstallingView *m_installingView = nullptr;

@@ -1,5 +1,6 @@
 #include "InfoList.h"
 #include "KSPasswordField.h"
+#include "LiveLabel.h"
 #include "PasswordStrengthView.h"
 #include "WTCustomTextFieldFromatter.h"
 #include "WTProgressView.h"
@@ -167,8 +168,10 @@ void FieldTests::noticesCapsLock()
     QFETCH(bool, shift);
     QFETCH(bool, on);
     KSPasswordField field;
+    PasswordStrengthView view(&field);
     QTest::sendKeyEvent(QTest::Click, &field, Qt::Key_unknown, letter, shift ? Qt::ShiftModifier : Qt::NoModifier);
     QCOMPARE(field.capsLock(), on);
+    QCOMPARE(view.findChild<LiveLabel *>()->isVisibleTo(&view), on);
     QTest::keyClick(&field, Qt::Key_CapsLock);
     QCOMPARE(field.capsLock(), !on);
 }

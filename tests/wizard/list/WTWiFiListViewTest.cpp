@@ -40,6 +40,7 @@ private Q_SLOTS:
     void onlyTheFirstRowBringsAPassword();
     void typing_data();
     void typing();
+    void capsLockIsSaidBelowThePassword();
     void nextNeedsALegalName_data();
     void nextNeedsALegalName();
     void choiceSurvivesForwardAndNotBack();
@@ -266,6 +267,23 @@ void WTWiFiListViewTest::typing()
     bed.type(field, u"before"_s);
     bed.paste(field, pasted);
     QCOMPARE(field.text(), kept);
+}
+
+void WTWiFiListViewTest::capsLockIsSaidBelowThePassword()
+{
+    ListBed bed;
+    bed.enter();
+    bed.choose(1);
+    const QString help = bed.password().accessibleDescription();
+    QTest::keyClick(&bed.password(), Qt::Key_CapsLock);
+    QCOMPARE(bed.password().accessibleDescription(), u"大写锁定已打开"_s);
+    // Once the password is too long, that is what matters.
+    bed.type(bed.password(), QString(32, u'P'));
+    QVERIFY(bed.password().accessibleDescription().contains(u"31"_s));
+    bed.password().clear();
+    QCOMPARE(bed.password().accessibleDescription(), u"大写锁定已打开"_s);
+    QTest::keyClick(&bed.password(), Qt::Key_CapsLock);
+    QCOMPARE(bed.password().accessibleDescription(), help);
 }
 
 void WTWiFiListViewTest::nextNeedsALegalName_data()
