@@ -32,11 +32,11 @@ inline constexpr QColor redPressed = color("0xAE1B23");  ///< The same, pressed.
 inline constexpr QColor redHover = color("0xFF5862");    ///< The same, under the pointer.
 inline constexpr QColor redDisabled = color("0xE9A6AA"); ///< Fill of an action button that can't be used now.
 
-inline constexpr QColor white = color("0xFFFFFF");       ///< Pages, off buttons, titles on red.
-inline constexpr QColor focusBlue = color("0x69A2EE");   ///< Focused frames, chosen tiles and rows, progress.
-inline constexpr QColor lightBlue = color("0xC1DBFF");   ///< Tile borders at rest.
-inline constexpr QColor listHover = color("0xE2EEFF");   ///< Row of a list under the pointer.
-inline constexpr QColor listPressed = color("0xB1D2FF"); ///< Row of a list, pressed.
+inline constexpr QColor white = color("0xFFFFFF");     ///< Pages, off buttons, titles on red.
+inline constexpr QColor focusBlue = color("0x69A2EE"); ///< Focused frames, chosen tiles and rows, progress.
+inline constexpr QColor lightBlue = color("0xC1DBFF"); ///< Tile borders at rest.
+inline constexpr QColor listHover = color("0xE2EEFF"); ///< Row of a list under the pointer, what is left of a bar.
+inline constexpr QColor tileRing = color("0xB1D2FF");  ///< Ring around a tile that has the keyboard.
 
 inline constexpr QColor blue = color("0x80B5FF");      ///< Information-page button: border and on state.
 inline constexpr QColor blueHover = color("0x4E8DE3"); ///< The same, under the pointer.

@@ -186,7 +186,7 @@ void WTHoverView::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF tile = m_area;
     if (hasFocus())
-        strokeRounded(painter, rect(), cornerRadius + ringRoom, Palette::listPressed, ringWidth);
+        strokeRounded(painter, rect(), cornerRadius + ringRoom, Palette::tileRing, ringWidth);
     strokeRounded(painter, tile, cornerRadius, m_border, borderWidth);
     const QRectF bLayer = tile.adjusted(borderWidth, borderWidth, -borderWidth, -borderWidth);
     strokeRounded(painter, bLayer, cornerRadius - borderWidth, m_bLayer, borderWidth / 2);

@@ -1,5 +1,7 @@
 #include "showAlert.h"
 
+#include "Palette.h"
+
 #include <QLayout>
 #include <QMessageBox>
 #include <QPushButton>
@@ -13,21 +15,25 @@ constexpr int margin = 24;
 constexpr int iconRoom = 24;
 
 /// Message and informative text are the message box's own labels, known by these names.
-const auto sheetStyle = uR"(
-    QMessageBox { background: white; }
-    QLabel { color: #222222; background: transparent; }
+QString sheetStyle()
+{
+    return uR"(
+    QMessageBox { background: %1; }
+    QLabel { color: %2; background: transparent; }
     QLabel#qt_msgbox_label { font-size: 16px; font-weight: 600; min-width: 400px; padding: 0 0 1px 0; }
     QLabel#qt_msgbox_informativelabel { font-size: 14px; min-width: 400px; padding: 0 0 8px 0; }
     QPushButton {
         min-width: 96px; min-height: 36px; padding: 0 16px; border-radius: 4px; font-size: 14px;
-        color: #222222; background: white; border: 1px solid #d3d3d3;
+        color: %2; background: %1; border: 1px solid %3;
     }
-    QPushButton:default { color: white; background: #d2212b; border-color: #d2212b; font-weight: 600; }
-    QPushButton:hover { border-color: #ff5862; }
-    QPushButton:default:hover { background: #ff5862; }
-    QPushButton:focus { border: 2px solid #69a2ee; }
-    QPushButton:pressed, QPushButton:default:pressed { background: #ae1b23; color: white; border-color: #ae1b23; }
-)"_s;
+    QPushButton:default { color: %1; background: %4; border-color: %4; font-weight: 600; }
+    QPushButton:hover { border-color: %5; }
+    QPushButton:default:hover { background: %5; }
+    QPushButton:focus { border: 2px solid %6; }
+    QPushButton:pressed, QPushButton:default:pressed { background: %7; color: %1; border-color: %7; }
+)"_s.arg(Palette::white.name(), Palette::heading.name(), Palette::frame.name(), Palette::red.name(),
+         Palette::redHover.name(), Palette::focusBlue.name(), Palette::redPressed.name());
+}
 
 } // namespace
 
@@ -37,7 +43,7 @@ void showAlert(QWidget *window, const Alert &alert, std::function<void(int respo
         new QMessageBox(QMessageBox::NoIcon, window->windowTitle(), alert.messageText, QMessageBox::NoButton, window);
     box->setObjectName(u"alert"_s);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setStyleSheet(sheetStyle);
+    box->setStyleSheet(sheetStyle());
     box->setWindowModality(Qt::WindowModal);
     box->setTextFormat(Qt::PlainText);
     box->setInformativeText(alert.informativeText);
