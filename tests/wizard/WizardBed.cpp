@@ -1,6 +1,7 @@
 #include "WizardBed.h"
 
 #include "InfoList.h"
+#include "LogCollector.h"
 #include "SendWorkers.h"
 #include "WTApp.h"
 #include "WTCServer.h"
@@ -39,11 +40,15 @@ WizardBed::WizardBed(std::shared_ptr<UsbTestBench> bench, qsizetype printerCount
     WTApp::usePorts(hostWiFi, desktop, {});
     WTApp::shared().setAppLanguage(language);
 
+    const LogCollector log;
     m_screens = std::make_unique<WizardScreens>([this] { ++processEnds; });
     m_screens->show();
     window().activateWindow();
     if (!QTest::qWaitForWindowActive(&window()))
         qFatal("The window does not become active.");
+    // The search's first list comes from a thread of its own, and would stand among the lines of the test.
+    if (!QTest::qWaitFor([&log] { return !log.lines().filter(QStringLiteral("USB Printers count")).isEmpty(); }))
+        qFatal("The first search tells nothing.");
 }
 
 WizardBed::~WizardBed()
