@@ -228,8 +228,8 @@
         <translation>WLAN-Taste</translation>
     </message>
     <message>
-        <source>打印机没有显示屏时使用。</source>
-        <translation>Für Drucker ohne Display.</translation>
+        <source>打印机没有显示屏时使用，与路由器上的WPS按钮配合。</source>
+        <translation>Für Drucker ohne Display, zusammen mit der WPS-Taste am Router.</translation>
     </message>
     <message>
         <source>打印机的菜单</source>

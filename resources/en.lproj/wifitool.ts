@@ -228,8 +228,8 @@
         <translation>Wi-Fi button</translation>
     </message>
     <message>
-        <source>打印机没有显示屏时使用。</source>
-        <translation>For printers without a display.</translation>
+        <source>打印机没有显示屏时使用，与路由器上的WPS按钮配合。</source>
+        <translation>For printers without a display, together with the WPS button on the router.</translation>
     </message>
     <message>
         <source>打印机的菜单</source>

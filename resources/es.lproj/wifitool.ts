@@ -228,8 +228,8 @@
         <translation>Botón Wi-Fi</translation>
     </message>
     <message>
-        <source>打印机没有显示屏时使用。</source>
-        <translation>Para impresoras sin pantalla.</translation>
+        <source>打印机没有显示屏时使用，与路由器上的WPS按钮配合。</source>
+        <translation>Para impresoras sin pantalla, junto con el botón WPS del router.</translation>
     </message>
     <message>
         <source>打印机的菜单</source>

@@ -228,8 +228,8 @@
         <translation>Bouton Wi-Fi</translation>
     </message>
     <message>
-        <source>打印机没有显示屏时使用。</source>
-        <translation>Pour les imprimantes sans écran.</translation>
+        <source>打印机没有显示屏时使用，与路由器上的WPS按钮配合。</source>
+        <translation>Pour les imprimantes sans écran, avec le bouton WPS du routeur.</translation>
     </message>
     <message>
         <source>打印机的菜单</source>

@@ -228,8 +228,8 @@
         <translation>Wi-Fiボタン</translation>
     </message>
     <message>
-        <source>打印机没有显示屏时使用。</source>
-        <translation>ディスプレイのないプリンターの場合。</translation>
+        <source>打印机没有显示屏时使用，与路由器上的WPS按钮配合。</source>
+        <translation>ディスプレイのないプリンターの場合。ルーターのWPSボタンと一緒に使います。</translation>
     </message>
     <message>
         <source>打印机的菜单</source>

@@ -228,8 +228,8 @@
         <translation>Wi-Fi 버튼</translation>
     </message>
     <message>
-        <source>打印机没有显示屏时使用。</source>
-        <translation>화면이 없는 프린터에 사용합니다.</translation>
+        <source>打印机没有显示屏时使用，与路由器上的WPS按钮配合。</source>
+        <translation>화면이 없는 프린터에서 공유기의 WPS 버튼과 함께 사용합니다.</translation>
     </message>
     <message>
         <source>打印机的菜单</source>

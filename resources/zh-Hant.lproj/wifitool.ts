@@ -228,8 +228,8 @@
         <translation>印表機的 Wi-Fi 按鈕</translation>
     </message>
     <message>
-        <source>打印机没有显示屏时使用。</source>
-        <translation>印表機沒有顯示幕時使用。</translation>
+        <source>打印机没有显示屏时使用，与路由器上的WPS按钮配合。</source>
+        <translation>印表機沒有顯示幕時使用，與路由器上的 WPS 按鈕配合。</translation>
     </message>
     <message>
         <source>打印机的菜单</source>

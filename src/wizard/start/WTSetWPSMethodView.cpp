@@ -10,7 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 
 WTSetWPSMethodView::WTSetWPSMethodView(QWidget *parent)
     : WTSetWPSMethodView(new WTHoverView(u"wifi_button"_s, localized(u"打印机的Wi-Fi按钮"_s),
-                                         localized(u"打印机没有显示屏时使用。"_s)),
+                                         localized(u"打印机没有显示屏时使用，与路由器上的WPS按钮配合。"_s)),
                          new WTHoverView(u"printer_panel"_s, localized(u"打印机的菜单"_s),
                                          localized(u"打印机有显示屏和菜单时使用。"_s)),
                          parent)
