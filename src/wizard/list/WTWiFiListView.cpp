@@ -3,14 +3,12 @@
 #include "ButtonLook.h"
 #include "ButtonSchemes.h"
 #include "DesktopPort.h"
-#include "FieldFrame.h"
 #include "KSPasswordField.h"
 #include "LiveLabel.h"
 #include "Localized.h"
 #include "Log.h"
 #include "NetworkRows.h"
 #include "OnMainThreadAfter.h"
-#include "Palette.h"
 #include "PrintQueueBusyCheck.h"
 #include "PrinterPassword.h"
 #include "ScannerLock.h"
@@ -22,7 +20,6 @@
 #include "WTListView.h"
 #include "WTLocationPermissionChecker.h"
 #include "WTManager.h"
-#include "WTNetworkWithManualAdditionModel.h"
 #include "WTTextfield.h"
 #include "WTWiFiListViewModel.h"
 #include "WTWindow.h"
@@ -38,7 +35,6 @@ namespace
 {
 
 constexpr TimePort::Duration permissionWait = std::chrono::seconds(5);
-constexpr qsizetype maximumNameLength = 32;
 
 } // namespace
 
@@ -264,93 +260,6 @@ void WTWiFiListView::storedPasswordArrived(const QString &ssid)
         return;
     updateTextfieldSSIDAndPWD();
     updateBtnNextStepState();
-}
-
-// -- fields -----------------------------------------------------------------------------------------------------------
-
-void WTWiFiListView::updateTextfieldSSIDAndPWD()
-{
-    logInfo("select row👉🏻%ld", m_selectRow);
-    if (viewModel()->list_WIFI().empty()) {
-        logWarning("no available WIFI");
-        return;
-    }
-    const WTWiFiPtr choice = selectedWiFi();
-    logInfo("wifi ssid:%@", choice->SSID);
-    if (choice->SSID && !choice->SSID->isEmpty())
-        m_ssidTextField->showText(*choice->SSID);
-    m_passwordTextField->showText(m_selectRow == 0 ? choice->password.value_or(QString()) : QString());
-    // The field may have the keyboard already; a refused edit must not bring back what it held before.
-    m_lastPwd = m_passwordTextField->text();
-    m_passwordTyped = false;
-}
-
-void WTWiFiListView::updateBtnNextStepState()
-{
-    const QString name = m_ssidTextField->text();
-    const QString password = m_passwordTextField->text();
-    m_nextBtn->setDisable(!viewModel()->canGoNext(name, password));
-    m_ssidView->setError(WTNetworkWithManualAdditionModel::nameError(name));
-    showPasswordError();
-}
-
-void WTWiFiListView::showPasswordError()
-{
-    if (PrinterPassword::isTooLong(m_passwordTextField->text()))
-        m_passwordView->setError(PrinterPassword::limitText());
-    else
-        m_passwordView->setError(m_passwordTextField->capsLock() ? localized(u"大写锁定已打开"_s) : QString());
-}
-
-void WTWiFiListView::controlDidBecomeFirstResponder(WTTextfield *field)
-{
-    const bool isName = field == m_ssidTextField;
-    m_ssidView->setBorderColor(isName ? Palette::focusBlue : Palette::frame);
-    m_passwordView->setBorderColor(isName ? Palette::frame : Palette::focusBlue);
-    m_lastPwd = m_passwordTextField->text();
-}
-
-void WTWiFiListView::controlTextDidChange(WTTextfield *field)
-{
-    if (field == m_ssidTextField) {
-        const QString name = viewModel()->subString(field->text(), maximumNameLength);
-        logInfo("ssid:%@", name);
-        field->putBack(name);
-        m_editedSSID = true;
-    }
-    const qsizetype maxLength = viewModel()->maxLengthBy(selectedWiFi()->security);
-    logInfo("maxLength:%lu", quint64(maxLength));
-    if (field == m_passwordTextField) {
-        m_passwordTyped = true;
-        const QString password = viewModel()->subString(field->text(), maxLength);
-        if (viewModel()->isVailePassword(password))
-            m_lastPwd = password;
-        field->putBack(m_lastPwd);
-    }
-    updateBtnNextStepState();
-}
-
-void WTWiFiListView::controlTextDidEndEditing(WTTextfield *)
-{
-    const QString name = viewModel()->subString(m_ssidTextField->text(), maximumNameLength);
-    logInfo("ssid:%@", name);
-    m_ssidTextField->putBack(name);
-    const qsizetype maxLength = viewModel()->maxLengthBy(selectedWiFi()->security);
-    m_passwordTextField->putBack(viewModel()->subString(m_passwordTextField->text(), maxLength));
-}
-
-void WTWiFiListView::showPassword()
-{
-    const bool shows = m_showPwdBtn->isChecked();
-    ButtonSchemes::showChecked(*m_showPwdBtn, shows);
-    m_passwordTextField->setShowsText(shows);
-    logInfo("show pwd👉🏻%@", shows ? "yes" : "no");
-}
-
-void WTWiFiListView::resetFieldFrames()
-{
-    m_ssidView->setBorderColor(Palette::frame);
-    m_passwordView->setBorderColor(Palette::frame);
 }
 
 // -- ways out ---------------------------------------------------------------------------------------------------------
