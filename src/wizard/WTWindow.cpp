@@ -19,26 +19,29 @@ constexpr QSize smallestSize{760, 520};
 
 WTWindow::WTWindow(QWidget *parent)
     : QMainWindow(parent)
-    , m_screens(new QStackedWidget)
+    , m_content(new QStackedWidget)
 {
     TextStyle::useGlyphsOf(WTApp::shared().appLanguage().value_or(QString()));
-    setCentralWidget(m_screens);
+    setCentralWidget(m_content);
     setMinimumSize(smallestSize);
     resize(firstSize);
 }
 
 void WTWindow::addScreen(WTView *view)
 {
-    m_screens->addWidget(view);
+    view->setParent(m_content);
+    view->hide();
+    m_screens.append(view);
 }
 
 void WTWindow::setContentView(WTView *view)
 {
     view->viewWillMoveToSuperview();
-    if (m_screens->indexOf(view) < 0)
-        addScreen(view);
+    // The stack measures everything that it holds, and a screen that nobody has seen needs no measures yet.
+    if (m_content->indexOf(view) < 0)
+        m_content->addWidget(view);
     m_contentView = view;
-    m_screens->setCurrentWidget(view);
+    m_content->setCurrentWidget(view);
     view->viewDidMoveToWindow();
 }
 

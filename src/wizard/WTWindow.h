@@ -17,6 +17,8 @@ public:
 
     /// Takes a screen over and keeps it hidden until it becomes the content.
     void addScreen(WTView *view);
+    /// All that were added, in this order.
+    const QList<WTView *> &screens() const { return m_screens; }
 
     WTView *contentView() const { return m_contentView; }
     /// `viewWillMoveToSuperview`, the swap, `viewDidMoveToWindow`, in this order and before it returns.
@@ -39,6 +41,7 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    QStackedWidget *m_screens;
+    QStackedWidget *m_content; ///< Holds the screens that have been shown, and is the parent of all.
+    QList<WTView *> m_screens;
     WTView *m_contentView = nullptr;
 };

@@ -76,7 +76,7 @@ WizardScreens::WizardScreens(ProcessEnd processEnd)
     menuPbc->setPrinterSetStateResultView(linkState);
     menuPin->setWpsStateView(linkState);
 
-    for (WTView *screen : m_window->findChildren<WTView *>())
+    for (WTView *screen : m_window->screens())
         screen->awakeFromNib();
 }
 

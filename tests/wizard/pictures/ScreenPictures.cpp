@@ -8,7 +8,6 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QPainter>
-#include <QStackedWidget>
 #include <QTest>
 #include <cmath>
 
@@ -25,16 +24,6 @@ struct Shot {
     QString name;
     QImage image;
 };
-
-/// As the window was given them; its children's order changes with the one on top.
-QList<WTView *> screensInOrder(const WTWindow &window)
-{
-    QList<WTView *> screens;
-    const auto *stack = window.findChild<QStackedWidget *>();
-    for (int index = 0; index < stack->count(); ++index)
-        screens << qobject_cast<WTView *>(stack->widget(index));
-    return screens;
-}
 
 Shot takeScreen(WizardBed &bed, WTView *screen)
 {
@@ -103,7 +92,7 @@ int main(int argc, char **argv)
         bed.window().resize(sides[0].toInt(), sides[1].toInt());
 
     QList<Shot> shots;
-    for (WTView *screen : screensInOrder(bed.window())) {
+    for (WTView *screen : bed.window().screens()) {
         if (!options.isSet(only) || options.value(only) == QLatin1StringView(screen->metaObject()->className()))
             shots << takeScreen(bed, screen);
     }
