@@ -74,6 +74,7 @@ private Q_SLOTS:
     void initTestCase();
     void walk_data();
     void walk();
+    void heldEnterActsOnce();
     void mnemonics_data();
     void mnemonics();
 };
@@ -218,6 +219,18 @@ void KeyboardTests::walk()
             QVERIFY2(bed.waitFor([&] { return bed.shown() == stroke.screen; }), where);
         QVERIFY2(bed.shown() == stroke.screen, where + " led to " + bed.shown());
     }
+}
+
+void KeyboardTests::heldEnterActsOnce()
+{
+    WizardBed bed;
+    press(bed, {nullptr, Qt::Key_Right, nullptr});
+    press(bed, {nullptr, Qt::Key_Space, nullptr});
+    for (const bool repeats : {false, true, true}) {
+        QKeyEvent event(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, repeats);
+        QCoreApplication::sendEvent(focused(bed), &event);
+    }
+    QCOMPARE(bed.shown(), "WTSetWPSMethodView");
 }
 
 void KeyboardTests::mnemonics_data()

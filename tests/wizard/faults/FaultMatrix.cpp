@@ -1,5 +1,7 @@
 #include "FaultMatrix.h"
 
+#include "CommandCode.h"
+
 #include <array>
 #include <functional>
 
@@ -9,14 +11,6 @@ namespace
 {
 
 using enum Ending;
-
-enum Command : quint16 {
-    WakeUp = 0xFF21,
-    Capability = 0xFF81,
-    Configuration = 0xFF80,
-    Address = 0xFF0F,
-    InformationPage = 0xFF84,
-};
 
 /// By FaultPlace; absent where the fault cannot happen.
 using Endings = std::array<std::optional<Ending>, 6>;

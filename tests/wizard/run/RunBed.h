@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CommandCode.h"
 #include "LibusbPort.h"
 #include "SpoolerPort.h"
 #include "UsbfsBed.h"
@@ -13,15 +14,6 @@
 
 #include <functional>
 #include <vector>
-
-/// The commands, as they stand in the frame.
-enum Command : quint16 {
-    WakeUp = 0xFF21,
-    Capability = 0xFF81,
-    Configuration = 0xFF80,
-    Address = 0xFF0F,
-    InformationPage = 0xFF84,
-};
 
 /// A spooler that lists what the test says.
 class ScriptedSpooler : public SpoolerPort
