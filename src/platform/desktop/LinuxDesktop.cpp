@@ -2,36 +2,9 @@
 
 #include "DesktopPanels.h"
 
-#include <QProcess>
 #include <QSysInfo>
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace
-{
-
-/// What hostnamectl prints; empty when it is absent, fails (without a message bus, say) or takes longer than `limit`.
-QString hostnameServiceReport(std::chrono::milliseconds limit)
-{
-    QProcess process;
-    process.start(u"hostnamectl"_s, {u"status"_s}, QIODevice::ReadOnly);
-    if (!process.waitForFinished(static_cast<int>(limit.count()))) {
-        process.kill();
-        process.waitForFinished();
-        return {};
-    }
-    const bool answered = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
-    return answered ? QString::fromUtf8(process.readAllStandardOutput()) : QString{};
-}
-
-QString shortReport()
-{
-    return u"Static hostname: %1\nOperating System: %2\nKernel: %3 %4\nArchitecture: %5\n"_s.arg(
-        QSysInfo::machineHostName(), QSysInfo::prettyProductName(), QSysInfo::kernelType(), QSysInfo::kernelVersion(),
-        QSysInfo::currentCpuArchitecture());
-}
-
-} // namespace
 
 QString LinuxDesktop::addPrinterCommandLine()
 {
@@ -45,8 +18,9 @@ QString LinuxDesktop::privacySettingsCommandLine()
 
 QString LinuxDesktop::hostReport()
 {
-    const QString report = hostnameServiceReport(m_reportLimit);
-    return report.isEmpty() ? shortReport() : report;
+    return u"Static hostname: %1\nOperating System: %2\nKernel: %3 %4\nArchitecture: %5\n"_s.arg(
+        QSysInfo::machineHostName(), QSysInfo::prettyProductName(), QSysInfo::kernelType(), QSysInfo::kernelVersion(),
+        QSysInfo::currentCpuArchitecture());
 }
 
 QString LinuxDesktop::operatingSystemVersion()

@@ -1,12 +1,10 @@
 #include "LinuxDesktop.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace
 {
@@ -22,11 +20,11 @@ public:
     }
     ~ProgramFolder() { qputenv("PATH", m_searchPath); }
 
-    void install(const QString &name, const QByteArray &script = ":")
+    void install(const QString &name)
     {
         QFile program{m_folder.filePath(name)};
         QVERIFY(program.open(QIODevice::WriteOnly));
-        program.write("#!/bin/sh\n" + script + '\n');
+        program.write("#!/bin/sh\n");
         program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
 
@@ -44,8 +42,7 @@ class LinuxDesktopTest : public QObject
 private Q_SLOTS:
     void choosesThePanelOfTheDesktopThatIsInstalled_data();
     void choosesThePanelOfTheDesktopThatIsInstalled();
-    void reportsTheHostWhateverTheHostnameServiceDoes_data();
-    void reportsTheHostWhateverTheHostnameServiceDoes();
+    void reportsTheHostInLinesOfAKeyAndAValue();
     void namesTheOperatingSystem();
 };
 
@@ -97,32 +94,16 @@ void LinuxDesktopTest::choosesThePanelOfTheDesktopThatIsInstalled()
     QCOMPARE(linux.privacySettingsCommandLine(), detached(privacySettings));
 }
 
-void LinuxDesktopTest::reportsTheHostWhateverTheHostnameServiceDoes_data()
+void LinuxDesktopTest::reportsTheHostInLinesOfAKeyAndAValue()
 {
-    QTest::addColumn<QByteArray>("hostnamectl");
-    QTest::addColumn<QByteArray>("line");
+    QFile kernel{u"/proc/sys/kernel/osrelease"_s};
+    QVERIFY(kernel.open(QIODevice::ReadOnly));
+    const QString release = QString::fromUtf8(kernel.readAll()).trimmed();
 
-    const QByteArray shortReport = "Kernel: " + QSysInfo::kernelType().toUtf8() + ' ';
-    QTest::newRow("answers") << QByteArray{"echo '  Chassis: desktop'"} << QByteArray{"  Chassis: desktop\n"};
-    QTest::newRow("absent") << QByteArray{} << shortReport;
-    QTest::newRow("fails") << QByteArray{"echo 'Chassis: none'; exit 1"} << shortReport;
-    QTest::newRow("says nothing") << QByteArray{":"} << shortReport;
-    QTest::newRow("hangs") << QByteArray{"exec /bin/sleep 600"} << shortReport;
-}
-
-void LinuxDesktopTest::reportsTheHostWhateverTheHostnameServiceDoes()
-{
-    QFETCH(QByteArray, hostnamectl);
-    QFETCH(QByteArray, line);
-
-    ProgramFolder programs;
-    if (!hostnamectl.isEmpty())
-        programs.install(u"hostnamectl"_s, hostnamectl);
-    QElapsedTimer clock;
-    clock.start();
-    const QString report = LinuxDesktop{500ms}.hostReport();
-    QVERIFY2(report.contains(QString::fromUtf8(line)), qPrintable(report));
-    QVERIFY(clock.elapsed() < 30000);
+    const QString report = LinuxDesktop{}.hostReport();
+    QVERIFY2(report.contains(u"\nKernel: linux "_s + release + u'\n'), qPrintable(report));
+    for (const QString &line : report.split(u'\n', Qt::SkipEmptyParts))
+        QVERIFY2(line.indexOf(u": "_s) > 0 && !line.endsWith(u": "_s), qPrintable(report));
 }
 
 void LinuxDesktopTest::namesTheOperatingSystem()
