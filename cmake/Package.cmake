@@ -15,8 +15,9 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION net)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# The linked libraries come with Qt's plug-ins and a font; only the permission rule needs a package that nothing links.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "udev")
+# The linked libraries come with Qt's plug-ins and a font; what nothing links is the permission rule's package
+# and the spooler's library, which is loaded late.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "udev, libcups2")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "network-manager")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "fonts-noto-cjk, system-config-printer | gnome-control-center | plasma-desktop")
 set(CPACK_STRIP_FILES ON)

@@ -1,6 +1,7 @@
 #include "CupsSpooler.h"
 
-#include <cups/cups.h>
+#include "CupsLibrary.h"
+
 #include <span>
 
 namespace
@@ -10,25 +11,27 @@ namespace
 class DestinationArray
 {
 public:
-    explicit DestinationArray(bool onConnection)
-        : m_count(onConnection ? cupsGetDests2(CUPS_HTTP_DEFAULT, &m_first) : cupsGetDests(&m_first))
+    DestinationArray(const CupsLibrary &cups, bool onConnection)
+        : m_cups(cups)
+        , m_count(onConnection ? cups.getDests2(CUPS_HTTP_DEFAULT, &m_first) : cups.getDests(&m_first))
     {
     }
-    ~DestinationArray() { cupsFreeDests(m_count, m_first); }
+    ~DestinationArray() { m_cups.freeDests(m_count, m_first); }
     DestinationArray(const DestinationArray &) = delete;
     DestinationArray &operator=(const DestinationArray &) = delete;
 
     std::span<const cups_dest_t> all() const { return {m_first, static_cast<std::size_t>(m_count)}; }
 
 private:
+    const CupsLibrary &m_cups;
     cups_dest_t *m_first = nullptr;
     int m_count;
 };
 
-PrintDestination destinationOf(const cups_dest_t &queue)
+PrintDestination destinationOf(const CupsLibrary &cups, const cups_dest_t &queue)
 {
     PrintDestination destination{.name = queue.name, .printerState = std::nullopt};
-    if (const char *state = cupsGetOption("printer-state", queue.num_options, queue.options))
+    if (const char *state = cups.getOption("printer-state", queue.num_options, queue.options))
         destination.printerState = state;
     return destination;
 }
@@ -37,9 +40,12 @@ PrintDestination destinationOf(const cups_dest_t &queue)
 
 std::vector<PrintDestination> CupsSpooler::destinations()
 {
-    const DestinationArray queues{m_hasConnection};
+    const CupsLibrary *const cups = CupsLibrary::load();
+    if (!cups)
+        return {};
+    const DestinationArray queues{*cups, m_hasConnection};
     std::vector<PrintDestination> destinations;
     for (const cups_dest_t &queue : queues.all())
-        destinations.push_back(destinationOf(queue));
+        destinations.push_back(destinationOf(*cups, queue));
     return destinations;
 }
