@@ -43,60 +43,12 @@ class EmulatedUsbTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void misbehaves_data();
-    void misbehaves();
     void takesItsTime();
     void endsAWaitThatIsCancelled();
     void forgetsWhatIsDiscarded();
     void reportsEveryChange();
     void standsConcurrentUse();
 };
-
-void EmulatedUsbTest::misbehaves_data()
-{
-    QTest::addColumn<PrinterScript>("script");
-    QTest::addColumn<QString>("first");
-    QTest::addColumn<QString>("second");
-
-    const QString sound = QString::fromLatin1(wakeUpReply.toHex());
-    const auto fault = [](auto change) {
-        PrinterScript script;
-        PrinterFault &made = script.faults.emplace_back();
-        made.command = PrinterCommand::WakeUp;
-        made.occurrence = 1;
-        change(made);
-        return script;
-    };
-    const auto after = [](BusEvent::Action action) {
-        PrinterScript script;
-        script.events = {{action, BusEvent::Cause{PrinterCommand::WakeUp, 1}, 0ms}};
-        return script;
-    };
-    const auto failed = [](const QString &step, UsbErrorCode code) { return u"%1 %2"_s.arg(step).arg(int(code)); };
-    using enum UsbErrorCode;
-
-    QTest::newRow("nothing") << PrinterScript() << sound << sound;
-    QTest::newRow("absent") << PrinterScript{.plugged = false} << u"absent"_s << u"absent"_s;
-    QTest::newRow("stall out") << fault([](auto &made) { made.stallOut = true; }) << failed(u"write"_s, Stalled)
-                               << sound;
-    QTest::newRow("stall in") << fault([](auto &made) { made.stallIn = true; }) << failed(u"read"_s, Stalled) << sound;
-    QTest::newRow("unplug out") << fault([](auto &made) { made.unplugOut = 9; }) << failed(u"write"_s, Unplugged)
-                                << u"absent"_s;
-    QTest::newRow("unplug in") << fault([](auto &made) { made.unplugIn = 0; }) << failed(u"read"_s, Unplugged)
-                               << u"absent"_s;
-    QTest::newRow("cut") << fault([](auto &made) { made.cutAt = 3; }) << u"00acff"_s << sound;
-    QTest::newRow("held after") << after(BusEvent::Action::Hold) << sound << failed(u"open"_s, Busy);
-    QTest::newRow("denied after") << after(BusEvent::Action::Deny) << sound << failed(u"open"_s, PermissionDenied);
-}
-
-void EmulatedUsbTest::misbehaves()
-{
-    QFETCH(const PrinterScript, script);
-    SystemTime time;
-    EmulatedUsb usb(time, PrinterModel({}, script));
-    QTEST(exchange(usb, shortFrame(0xFF21)), "first");
-    QTEST(exchange(usb, shortFrame(0xFF21)), "second");
-}
 
 void EmulatedUsbTest::takesItsTime()
 {

@@ -10,18 +10,14 @@ using namespace std::chrono_literals;
 
 namespace
 {
-using Kind = InTransfer::Kind;
-
 const PrinterModel::Instant start{std::chrono::hours(1)};
 
-/// The transfers as text: "hexadecimal@milliseconds", "stall@...", "unplug@...".
+/// The transfers as text: "hexadecimal@milliseconds".
 QString told(const std::vector<InTransfer> &transfers)
 {
     QStringList texts;
     for (const InTransfer &transfer : transfers) {
-        const QString what = transfer.kind == Kind::Stall    ? u"stall"_s
-                             : transfer.kind == Kind::Unplug ? u"unplug"_s
-                                                             : QString::fromLatin1(transfer.bytes.toHex());
+        const QString what = QString::fromLatin1(transfer.bytes.toHex());
         texts.append(transfer.delay == 0ms ? what : u"%1@%2"_s.arg(what).arg(transfer.delay.count()));
     }
     return texts.join(u' ');
@@ -44,11 +40,6 @@ private Q_SLOTS:
     void joinsInItsTime();
     void staysAwayWhenItDidNotJoin();
     void ignoresWhatIsWrong();
-    void misbehavesInItsReply_data();
-    void misbehavesInItsReply();
-    void slicesAtRandom();
-    void misbehavesWhileItIsTold_data();
-    void misbehavesWhileItIsTold();
     void misbehavesAtTheRightTime();
     void reportsEventsAfterACommand();
 };
@@ -122,162 +113,6 @@ void PrinterModelTest::ignoresWhatIsWrong()
     QVERIFY(!printer.record().networkName);
     QCOMPARE(printer.record().count(PrinterCommand::Configuration), 1);
     QVERIFY(printer.record().commands().empty());
-}
-
-void PrinterModelTest::misbehavesInItsReply_data()
-{
-    QTest::addColumn<PrinterFault>("fault");
-    QTest::addColumn<QString>("reply");
-
-    const auto row = [](const char *name, auto change, const QString &reply) {
-        PrinterFault fault;
-        fault.command = PrinterCommand::Capability;
-        change(fault);
-        QTest::newRow(name) << fault << reply;
-    };
-    const QString header = u"00acff81000100000000000000000000"_s;
-
-    row("silence", [](auto &f) { f.silent = true; }, {});
-    row(
-        "wrong echo", [](auto &f) { f.echo = 0xFF82; }, u"00acff82000100000000000000000000"_s);
-    row(
-        "result", [](auto &f) { f.result = 0xFFFE; }, u"00acff81fffe00000000000000000000"_s);
-    row(
-        "length without data", [](auto &f) { f.lengthField = 0x0102; }, u"00acff81000101020000000000000000"_s);
-    row(
-        "data", [](auto &f) { f.data = "abc"; }, u"00acff81000100030000000000000000616263"_s);
-    row(
-        "announced, not sent",
-        [](auto &f) {
-            f.data = "abc";
-            f.noData = true;
-        },
-        u"00acff81000100030000000000000000"_s);
-    row(
-        "short header", [](auto &f) { f.cutAt = 7; }, u"00acff81000100"_s);
-    row("nothing, cut", [](auto &f) { f.cutAt = 0; }, {});
-    row(
-        "garbage ahead", [](auto &f) { f.garbage = "??"; }, u"3f3f"_s + header);
-    row(
-        "garbage behind", [](auto &f) { f.trailingGarbage = "??"; }, header + u"3f3f"_s);
-    row(
-        "delay", [](auto &f) { f.delay = 30ms; }, header + u"@30"_s);
-    row(
-        "slices",
-        [](auto &f) {
-            f.slices = {1, 0, 5};
-            f.delay = 9ms;
-            f.sliceDelay = 4ms;
-        },
-        u"00@9 @4 acff810001@4 00000000000000000000@4"_s);
-    row(
-        "slices past the end",
-        [](auto &f) {
-            f.slices = {15, 40, 1};
-        },
-        u"00acff810001000000000000000000 00"_s);
-    row(
-        "stall",
-        [](auto &f) {
-            f.stallIn = true;
-            f.delay = 5ms;
-        },
-        u"stall@5"_s);
-    row(
-        "stall in the middle",
-        [](auto &f) {
-            f.cutAt = 4;
-            f.stallIn = true;
-        },
-        u"00acff81 stall"_s);
-    row(
-        "unplug at once", [](auto &f) { f.unplugIn = 0; }, u"unplug"_s);
-    row(
-        "unplug in the middle",
-        [](auto &f) {
-            f.unplugIn = 2;
-            f.sliceDelay = 3ms;
-        },
-        u"00ac unplug@3"_s);
-}
-
-void PrinterModelTest::misbehavesInItsReply()
-{
-    QFETCH(const PrinterFault, fault);
-    PrinterScript script;
-    script.faults = {fault};
-    PrinterModel printer({}, script);
-    QTEST(ask(printer, shortFrame(0xFF81)), "reply");
-    QCOMPARE(ask(printer, shortFrame(0xFF21)), u"00acff21000000000000000000000000"_s);
-}
-
-void PrinterModelTest::slicesAtRandom()
-{
-    PrinterScript script;
-    script.joinedFromStart = true;
-    PrinterModel printer({}, script);
-    const QString whole = ask(printer, shortFrame(0xFF0F));
-    script.faults = {PrinterFault{}};
-    script.faults.front().command = PrinterCommand::Address;
-    for (quint32 seed = 0; seed < 50; ++seed) {
-        script.faults.front().sliceSeed = seed;
-        printer.setScript(script);
-        const QString sliced = ask(printer, shortFrame(0xFF0F));
-        QVERIFY(sliced.count(u' ') > 2);
-        QCOMPARE(QString(sliced).remove(u' '), whole);
-        QCOMPARE(ask(printer, shortFrame(0xFF0F)), sliced);
-    }
-}
-
-void PrinterModelTest::misbehavesWhileItIsTold_data()
-{
-    QTest::addColumn<PrinterFault>("fault");
-    QTest::addColumn<QList<int>>("chunks");
-    QTest::addColumn<int>("accepted");
-    QTest::addColumn<OutPlan::After>("after");
-
-    const auto fault = [](auto change) {
-        PrinterFault made;
-        made.command = PrinterCommand::Configuration;
-        change(made);
-        return made;
-    };
-    using After = OutPlan::After;
-    QTest::newRow("stall") << fault([](auto &f) { f.stallOut = true; }) << QList{267} << 0 << After::Stall;
-    QTest::newRow("part") << fault([](auto &f) { f.acceptOnly = 100; }) << QList{267} << 100 << After::Nak;
-    QTest::newRow("all") << fault([](auto &f) { f.acceptOnly = 267; }) << QList{267} << 267 << After::Complete;
-    QTest::newRow("unplug") << fault([](auto &f) { f.unplugOut = 60; }) << QList{267} << 60 << After::Unplug;
-    QTest::newRow("part, in chunks") << fault([](auto &f) { f.acceptOnly = 100; }) << QList{64, 64, 139} << 100
-                                     << After::Nak;
-    QTest::newRow("past, before the code came")
-        << fault([](auto &f) { f.unplugOut = 10; }) << QList{30, 237} << 30 << After::Unplug;
-}
-
-void PrinterModelTest::misbehavesWhileItIsTold()
-{
-    QFETCH(const PrinterFault, fault);
-    QFETCH(const QList<int>, chunks);
-    PrinterScript script;
-    script.faults = {fault};
-    PrinterModel printer({}, script);
-    QByteArray rest = configuration("Office", "secret-1");
-    qsizetype accepted = 0;
-    OutPlan plan;
-    for (const int size : chunks) {
-        const QByteArray chunk = rest.first(size);
-        rest = rest.sliced(size);
-        plan = printer.plan(chunk);
-        printer.accept(chunk.first(plan.accept), start);
-        accepted += plan.accept;
-        if (plan.after != OutPlan::After::Complete)
-            break;
-    }
-    QTEST(int(accepted), "accepted");
-    QTEST(plan.after, "after");
-    QCOMPARE(printer.record().count(PrinterCommand::Configuration), 1);
-    printer.endExchange();
-    QCOMPARE(printer.record().networkName.has_value(), accepted == 267);
-    QCOMPARE(ask(printer, shortFrame(0xFF21)), u"00acff21000000000000000000000000"_s);
 }
 
 void PrinterModelTest::misbehavesAtTheRightTime()

@@ -62,10 +62,7 @@ private Q_SLOTS:
     void mayNotBeOpened();
     void hasAlternateSettings();
     void saysWhatFitsInPackets();
-    void stalls();
     void takesNothingThatWasCalledBack();
-    void leavesInTheMiddle_data();
-    void leavesInTheMiddle();
     void sharesItsBus();
     void livesInThePortsTime();
     void followsItsEvents();
@@ -234,28 +231,6 @@ void UsbfsBedTest::saysWhatFitsInPackets()
     QCOMPARE(printer.read(reply, 15), int(LIBUSB_ERROR_OVERFLOW));
 }
 
-void UsbfsBedTest::stalls()
-{
-    PrinterScript script = withFault(PrinterCommand::WakeUp, [](auto &fault) { fault.stallOut = true; });
-    script.faults.front().occurrence = 1;
-    script.faults.push_back(script.faults.front());
-    script.faults.back() = {.command = PrinterCommand::WakeUp, .occurrence = 2, .stallIn = true};
-    m_bed->setScript(script);
-    LibusbPrinter printer;
-    seize(printer);
-    QByteArray reply;
-    QCOMPARE(printer.write(shortFrame(0xFF21)), int(LIBUSB_ERROR_PIPE));
-    QCOMPARE(printer.write(shortFrame(0xFF21)), int(LIBUSB_ERROR_PIPE));
-    QCOMPARE(libusb_clear_halt(printer.handle(), 0x01), 0);
-    QCOMPARE(printer.write(shortFrame(0xFF21)), 0);
-    QCOMPARE(printer.read(reply), int(LIBUSB_ERROR_PIPE));
-    QCOMPARE(printer.read(reply), int(LIBUSB_ERROR_PIPE));
-    QCOMPARE(libusb_clear_halt(printer.handle(), 0x82), 0);
-    QCOMPARE(printer.write(shortFrame(0xFF21)), 0);
-    QCOMPARE(printer.read(reply), 0);
-    QCOMPARE(reply, wakeUpReply);
-}
-
 void UsbfsBedTest::takesNothingThatWasCalledBack()
 {
     m_bed->setScript(withFault(PrinterCommand::WakeUp, [](auto &fault) { fault.acceptDelay = 1h; }));
@@ -263,41 +238,6 @@ void UsbfsBedTest::takesNothingThatWasCalledBack()
     seize(printer);
     QCOMPARE(printer.write(shortFrame(0xFF21), 30), int(LIBUSB_ERROR_TIMEOUT));
     QVERIFY(m_bed->record().frames.empty());
-}
-
-void UsbfsBedTest::leavesInTheMiddle_data()
-{
-    QTest::addColumn<PrinterFault>("fault");
-    QTest::addColumn<int>("writeResult");
-    QTest::addColumn<int>("received");
-    QTest::newRow("of the frame") << PrinterFault{.command = PrinterCommand::Capability, .unplugOut = 40}
-                                  << int(LIBUSB_ERROR_NO_DEVICE) << 0;
-    QTest::newRow("before the reply") << PrinterFault{.command = PrinterCommand::Capability, .unplugIn = 0} << 0 << 0;
-    QTest::newRow("of the reply") << PrinterFault{.command = PrinterCommand::Capability, .unplugIn = 5} << 0 << 5;
-}
-
-void UsbfsBedTest::leavesInTheMiddle()
-{
-    QFETCH(const PrinterFault, fault);
-    PrinterScript script;
-    script.faults = {fault};
-    m_bed->setScript(script);
-    const QString node = m_bed->nodePath();
-    LibusbPrinter printer;
-    seize(printer);
-    QTEST(printer.write(shortFrame(0xFF81)), "writeResult");
-    QByteArray reply;
-    if (printer.read(reply) == 0)
-        QTEST(int(reply.size()), "received");
-    QCOMPARE(printer.read(reply), int(LIBUSB_ERROR_NO_DEVICE));
-    printer.close();
-
-    m_bed->plug();
-    QVERIFY(m_bed->nodePath() != node);
-    m_bed->setScript({});
-    LibusbPrinter again;
-    seize(again);
-    QCOMPARE(again.write(shortFrame(0xFF81)), 0);
 }
 
 void UsbfsBedTest::sharesItsBus()
