@@ -10,8 +10,6 @@
 #include "SpoolerPort.h"
 #include "UsbfsBed.h"
 
-#include <utility>
-
 /// A real spooler that is timed while it is asked.
 class TimedSpooler : public SpoolerPort
 {
@@ -24,17 +22,14 @@ public:
     std::vector<PrintDestination> destinations() override
     {
         std::vector<PrintDestination> answer;
-        Samples &samples = std::exchange(m_isAsked, true) ? questions : firstQuestion;
-        samples.measure([&] { answer = m_spooler.destinations(); });
+        questions.measure([&] { answer = m_spooler.destinations(); });
         return answer;
     }
 
-    Samples firstQuestion{1}; ///< It loads the spooler's library as well.
     Samples questions;
 
 private:
     CupsSpooler m_spooler{HostCapabilities{}};
-    bool m_isAsked = false;
 };
 
 /// The machine under the wizard: one printer on its bus that answers at once, one idle print queue, a radio that has

@@ -10,6 +10,7 @@
 #include "resourceFolder.h"
 #include "wt_main.h"
 
+#include <QThread>
 #include <cstdio>
 #include <string_view>
 
@@ -62,5 +63,7 @@ int main(int argc, char **argv)
         printVersion();
         return 0;
     }
+    // The toolkit takes the first thread that it meets for the main one, and the machine begins some work on others.
+    QThread::currentThread();
     return wt_main(argc, argv, RealMachine::machine());
 }

@@ -4,7 +4,6 @@
 
 #include <QProcess>
 #include <QSysInfo>
-#include <QThread>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -35,10 +34,8 @@ QString shortReport()
 } // namespace
 
 LinuxDesktop::LinuxDesktop(std::chrono::milliseconds reportLimit)
+    : m_report(std::async(std::launch::async, hostnameServiceReport, reportLimit))
 {
-    // The toolkit takes the first thread that it meets for the main one, and that must not be the report's.
-    QThread::currentThread();
-    m_report = std::async(std::launch::async, hostnameServiceReport, reportLimit);
 }
 
 QString LinuxDesktop::addPrinterCommandLine()

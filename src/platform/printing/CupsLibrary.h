@@ -2,8 +2,8 @@
 
 #include <cups/cups.h>
 
-/// The functions of libcups that the program calls. The library is loaded by the first who asks for them: it brings a
-/// dozen others along, and the window shows without any of them.
+/// The functions of libcups that the program calls. The library is loaded while the program runs: it brings a dozen
+/// others along, which the first window would otherwise wait for.
 struct CupsLibrary {
     decltype(&::cupsGetDests) getDests;
     decltype(&::cupsGetDests2) getDests2;

@@ -38,9 +38,15 @@ PrintDestination destinationOf(const CupsLibrary &cups, const cups_dest_t &queue
 
 } // namespace
 
+CupsSpooler::CupsSpooler(const HostCapabilities &host)
+    : m_hasConnection(host.spoolerHasConnection)
+    , m_library(std::async(std::launch::async, &CupsLibrary::load))
+{
+}
+
 std::vector<PrintDestination> CupsSpooler::destinations()
 {
-    const CupsLibrary *const cups = CupsLibrary::load();
+    const CupsLibrary *const cups = m_library.get();
     if (!cups)
         return {};
     const DestinationArray queues{*cups, m_hasConnection};

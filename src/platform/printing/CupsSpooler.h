@@ -3,18 +3,21 @@
 #include "HostCapabilities.h"
 #include "SpoolerPort.h"
 
+#include <future>
+
+struct CupsLibrary;
+
 /// The host's print spooler through libcups. "CUPS_SERVER" names another server than the host's own. A host without a
 /// spooler has no destinations, and says so at once.
 class CupsSpooler : public SpoolerPort
 {
 public:
-    explicit CupsSpooler(const HostCapabilities &host)
-        : m_hasConnection(host.spoolerHasConnection)
-    {
-    }
+    /// Begins to load libcups, on a thread of its own.
+    explicit CupsSpooler(const HostCapabilities &host);
 
     std::vector<PrintDestination> destinations() override;
 
 private:
     bool m_hasConnection;
+    std::shared_future<const CupsLibrary *> m_library;
 };
