@@ -80,6 +80,7 @@ class ProgramRun:
         written = self.written()
         assert b"next step" in written["journal"] or not self._journal.is_there, "the journal got nothing"
         assert any(name.startswith("com.") for name in written) and "WTCore-WiFiTool.log" in written, sorted(written)
+        assert b"main() thread" not in written["stderr"], "the toolkit took another thread for the main one"
         shown = secret_search.find(PASSWORD, written)
         assert not shown, f"the password is in {shown}"
 
