@@ -33,7 +33,7 @@ Screen *makeScreen(WTWindow &window, const Arguments &...arguments)
 
 } // namespace
 
-WizardScreens::WizardScreens(ProcessEnd processEnd)
+WizardScreens::WizardScreens(const ProcessEnd &processEnd)
     : m_window(std::make_unique<WTWindow>())
     , m_startView(makeScreen<WTStartView>(*m_window))
 {

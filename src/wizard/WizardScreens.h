@@ -12,7 +12,7 @@ class WizardScreens
 {
 public:
     /// @param processEnd how the WPS outcome screens end the process.
-    explicit WizardScreens(ProcessEnd processEnd = endProcess);
+    explicit WizardScreens(const ProcessEnd &processEnd = endProcess);
     ~WizardScreens();
 
     WTWindow &window() { return *m_window; }
