@@ -1,5 +1,5 @@
 # The headers of libcups, which Debian 12 ships without a pkg-config file: the target Cups::Headers. Nothing links the
-# library, it is loaded late.
+# library: the program loads it beside its start.
 find_path(Cups_INCLUDE_DIR cups/cups.h)
 include(FindPackageHandleStandardArgs)
 find_package_handle_standard_args(Cups REQUIRED_VARS Cups_INCLUDE_DIR)

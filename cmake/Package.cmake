@@ -16,7 +16,7 @@ set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION net)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # The linked libraries come with Qt's plug-ins and a font; what nothing links is the permission rule's package
-# and the spooler's library, which is loaded late.
+# and the spooler's library, which is loaded while the program starts.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "udev, libcups2")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "network-manager")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "fonts-noto-cjk, system-config-printer | gnome-control-center | plasma-desktop")
