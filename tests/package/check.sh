@@ -30,11 +30,15 @@ archives() {
   apt-get indextargets --format 'deb $(REPO_URI) $(CODENAME) $(COMPONENT)' 'Created-By: Packages' 'Origin: Debian' | sort -u
 }
 
+# Made anew when this recipe has changed.
 clean_tree() {
-  [ ! -f "$work/tree.tar" ] || return 0
-  archives | mmdebstrap --mode=root --variant=minbase --include=xvfb,xauth,xdotool,imagemagick,udev,passwd \
-    --aptopt='APT::Install-Recommends false' bookworm "$work/tree.tar.part" -
-  mv "$work/tree.tar.part" "$work/tree.tar"
+  local recipe
+  recipe=$(sha256sum <"${BASH_SOURCE[0]}")
+  [ ! -f "$work/recipe" ] || [ "$(cat "$work/recipe")" != "$recipe" ] || return 0
+  rm -f "$work/recipe"
+  archives | mmdebstrap --mode=root --format=tar --variant=minbase --include=xvfb,xauth,xdotool,imagemagick,udev,passwd \
+    --aptopt='APT::Install-Recommends false' bookworm "$work/tree.tar" -
+  echo "$recipe" >"$work/recipe"
 }
 
 in_tree() { chroot "$tree" /usr/bin/env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin DEBIAN_FRONTEND=noninteractive "$@"; }
