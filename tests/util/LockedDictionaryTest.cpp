@@ -7,16 +7,18 @@ using namespace Qt::Literals::StringLiterals;
 using Ages = BKThreadSafeDictionary<QString, int>;
 using PlainAges = QMap<QString, int>;
 
+// Every operation compiles, also those that nobody calls.
+template class BKThreadSafeDictionary<QString, int>;
+
 class LockedDictionaryTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void readsAndChanges();
-    void popsEntries();
     void sortsKeysByTheirValues();
     void describesItself();
-    void equalsOnlyItsOwnKind();
+    void copiesAndEqualsItsOwnKind();
 
 private:
     const PlainAges m_plain{{u"Ada"_s, 36}, {u"Bob"_s, 7}, {u"Cyd"_s, 36}};
@@ -25,25 +27,16 @@ private:
 void LockedDictionaryTest::readsAndChanges()
 {
     Ages ages(QList{36, 7}, QList{u"Ada"_s, u"Bob"_s});
-    QCOMPARE(ages.objectForKey(u"Bob"_s), 7);
-    QCOMPARE(ages.objectForKey(u"Eve"_s), std::nullopt);
     ages.setObject(8, u"Bob"_s);
     ages.addEntriesFromDictionary({{u"Ada"_s, 37}, {u"Eve"_s, 1}});
     QCOMPARE(ages.allKeys(), QList({u"Ada"_s, u"Bob"_s, u"Eve"_s}));
     QCOMPARE(ages.allValues(), QList({37, 8, 1}));
     QCOMPARE(ages.objectsForKeys({u"Eve"_s, u"Zoe"_s}, -1), QList({1, -1}));
-    ages.removeObjectForKey(u"Ada"_s);
-    QCOMPARE(ages.count(), 2);
-    QVERIFY_THROWS_EXCEPTION(std::out_of_range, Ages(QList{1}, QList<QString>()));
-}
-
-void LockedDictionaryTest::popsEntries()
-{
-    Ages ages(m_plain);
-    QCOMPARE(ages.popObjectForKey(u"Ada"_s), 36);
+    QCOMPARE(ages.popObjectForKey(u"Ada"_s), 37);
     QCOMPARE(ages.popObjectForKey(u"Ada"_s), std::nullopt);
-    QCOMPARE(ages.popEntriesForKeys({u"Bob"_s, u"Zoe"_s}), PlainAges({{u"Bob"_s, 7}}));
-    QCOMPARE(ages.allKeys(), QList({u"Cyd"_s}));
+    QCOMPARE(ages.popEntriesForKeys({u"Bob"_s, u"Zoe"_s}), PlainAges({{u"Bob"_s, 8}}));
+    QCOMPARE(ages.allKeys(), QList({u"Eve"_s}));
+    QVERIFY_THROWS_EXCEPTION(std::out_of_range, Ages(QList{1}, QList<QString>()));
 }
 
 void LockedDictionaryTest::sortsKeysByTheirValues()
@@ -65,7 +58,7 @@ void LockedDictionaryTest::describesItself()
     QCOMPARE(ages.jsonStringEncoded(), uR"({"Ada":36,"Bob":7})"_s);
 }
 
-void LockedDictionaryTest::equalsOnlyItsOwnKind()
+void LockedDictionaryTest::copiesAndEqualsItsOwnKind()
 {
     const Ages ages(m_plain);
     Ages copy = ages.copy();

@@ -16,7 +16,6 @@ class SerialQueueTest : public QObject
 
 private Q_SLOTS:
     void runsJobsOfManyThreadsInTheirOrder();
-    void waitsForASynchronousJob();
     void runsWhatIsQueuedBeforeItEnds();
     void survivesItsEndOnItself();
     void knowsWhereItRuns();
@@ -47,21 +46,6 @@ void SerialQueueTest::runsJobsOfManyThreadsInTheirOrder()
     std::array<int, writers> next{};
     for (const auto &[writer, job] : ran)
         QCOMPARE(job, next.at(static_cast<size_t>(writer))++);
-}
-
-void SerialQueueTest::waitsForASynchronousJob()
-{
-    SerialQueue queue;
-    QSemaphore mayRun;
-    int value = 0;
-    queue.async([&] {
-        mayRun.acquire();
-        value = 1;
-    });
-    std::thread opener([&] { mayRun.release(); });
-    queue.sync([&] { value *= 10; });
-    QCOMPARE(value, 10);
-    opener.join();
 }
 
 void SerialQueueTest::runsWhatIsQueuedBeforeItEnds()

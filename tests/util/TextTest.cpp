@@ -1,11 +1,11 @@
 #include "InfoList.h"
+#include "Rows.h"
 #include "TextFormat.h"
 #include "isSafe.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -16,64 +16,46 @@ class TextTest : public QObject
 private Q_SLOTS:
     void formats_data();
     void formats();
-    void describesBytesWithoutTheirMiddle_data();
-    void describesBytesWithoutTheirMiddle();
     void knowsUsableContent();
     void readsTheInformationList();
 };
 
 void TextTest::formats_data()
 {
-    QTest::addColumn<QString>("made");
-    QTest::addColumn<QString>("expected");
-
-    QTest::newRow("texts") << formatText("%@ and %s", u"a"_s, "ä") << u"a and ä"_s;
-    QTest::newRow("absent text") << formatText("[%@]", std::optional<QString>()) << u"[(null)]"_s;
-    QTest::newRow("empty text") << formatText("[%@]", std::optional(u""_s)) << u"[]"_s;
-    QTest::newRow("missing argument") << formatText("%@ %d", u"a"_s) << u"a (null)"_s;
-    QTest::newRow("spare argument") << formatText("%@", u"a"_s, 2) << u"a"_s;
-    QTest::newRow("numbers") << formatText("%d %ld %u %lu %hu %llu", -1, qint64{-2}, 3u, quint64{4}, quint16{5},
-                                           ~quint64{0})
-                             << u"-1 -2 3 4 5 18446744073709551615"_s;
-    QTest::newRow("hexadecimal") << formatText("0x%X %04X %x", 0xFF21, 0x2A, 0xAB) << u"0xFF21 002A ab"_s;
-    QTest::newRow("negative as bits") << formatText("%X %hu %lX", -1, -1, qint64{-1})
-                                      << u"FFFFFFFF 65535 FFFFFFFFFFFFFFFF"_s;
-    QTest::newRow("zeros behind the sign") << formatText("%04d %02d %04d", -5, -123, 5) << u"-005 -123 0005"_s;
-    QTest::newRow("right aligned") << formatText("TID:%6@|", u"42"_s) << u"TID:    42|"_s;
-    QTest::newRow("wider than its field") << formatText("%2@", u"long"_s) << u"long"_s;
-    QTest::newRow("number as object") << formatText("%@", 7) << u"7"_s;
-    QTest::newRow("text in a numeric place") << formatText("%d", u"seven"_s) << u"seven"_s;
-    QTest::newRow("per cent signs") << formatText("100%% of %@%", u"a"_s) << u"100% of a%"_s;
-    QTest::newRow("unknown letter") << formatText("%q %@", u"a"_s) << u"%q a"_s;
-    QTest::newRow("argument with placeholders") << formatText("%@ %@", u"%d"_s, u"b"_s) << u"%d b"_s;
-    QTest::newRow("cut short") << formatText("a%0", 1) << u"a%0"_s;
+    QByteArray bytes;
+    for (char value = 0; value < 25; ++value)
+        bytes.append(value);
+    constexpr quint64 all = ~quint64{0};
+    const Rows<QString, QString> row{"made", "expected"};
+    row("texts", formatText("%@ and %s", u"a"_s, "ä"), u"a and ä"_s);
+    row("absent text", formatText("[%@]", std::optional<QString>()), u"[(null)]"_s);
+    row("empty text", formatText("[%@]", std::optional(u""_s)), u"[]"_s);
+    row("missing argument", formatText("%@ %d", u"a"_s), u"a (null)"_s);
+    row("spare argument", formatText("%@", u"a"_s, 2), u"a"_s);
+    row("numbers", formatText("%d %ld %u %hu %llu", -1, qint64{-2}, 3u, quint16{5}, all),
+        u"-1 -2 3 5 18446744073709551615"_s);
+    row("hexadecimal", formatText("0x%X %04X %x", 0xFF21, 0x2A, 0xAB), u"0xFF21 002A ab"_s);
+    row("negative as bits", formatText("%X %hu %lX", -1, -1, qint64{-1}), u"FFFFFFFF 65535 FFFFFFFFFFFFFFFF"_s);
+    row("zeros behind the sign", formatText("%04d %02d %04d", -5, -123, 5), u"-005 -123 0005"_s);
+    row("right aligned", formatText("TID:%6@|", u"42"_s), u"TID:    42|"_s);
+    row("wider than its field", formatText("%2@", u"long"_s), u"long"_s);
+    row("number as object", formatText("%@", 7), u"7"_s);
+    row("text in a numeric place", formatText("%d", u"seven"_s), u"seven"_s);
+    row("per cent signs", formatText("100%% of %@%", u"a"_s), u"100% of a%"_s);
+    row("unknown letter", formatText("%q %@", u"a"_s), u"%q a"_s);
+    row("argument with placeholders", formatText("%@ %@", u"%d"_s, u"b"_s), u"%d b"_s);
+    row("cut short", formatText("a%0", 1), u"a%0"_s);
+    row("no bytes", formatText("%@", QByteArray()), u"{length = 0, bytes = 0x}"_s);
+    row("bytes", formatText("%@", bytes.first(24)),
+        u"{length = 24, bytes = 0x000102030405060708090a0b0c0d0e0f1011121314151617}"_s);
+    row("bytes without their middle", formatText("%@", bytes),
+        u"{length = 25, bytes = 0x000102030405060708090a0b0c0d0e0f ... 1112131415161718}"_s);
 }
 
 void TextTest::formats()
 {
     QFETCH(QString, made);
     QTEST(made, "expected");
-}
-
-void TextTest::describesBytesWithoutTheirMiddle_data()
-{
-    QTest::addColumn<qsizetype>("length");
-    QTest::addColumn<QString>("expected");
-
-    QTest::newRow("none") << qsizetype{0} << u"{length = 0, bytes = 0x}"_s;
-    QTest::newRow("whole") << qsizetype{24}
-                           << u"{length = 24, bytes = 0x000102030405060708090a0b0c0d0e0f1011121314151617}"_s;
-    QTest::newRow("cut") << qsizetype{25}
-                         << u"{length = 25, bytes = 0x000102030405060708090a0b0c0d0e0f ... 1112131415161718}"_s;
-}
-
-void TextTest::describesBytesWithoutTheirMiddle()
-{
-    QFETCH(qsizetype, length);
-    QByteArray bytes;
-    for (qsizetype value = 0; value < length; ++value)
-        bytes.append(static_cast<char>(value));
-    QTEST(formatText("%@", bytes), "expected");
 }
 
 void TextTest::knowsUsableContent()
