@@ -1,4 +1,4 @@
-#include "PrinterCommand.h"
+#include "EmulatedCommand.h"
 #include "RecordedSend.h"
 #include "SendWorkers.h"
 #include "UsbTestBench.h"
@@ -15,7 +15,7 @@ using HeadReaction = RecordedSend::HeadReaction;
 namespace
 {
 
-constexpr auto wakeUp = PrinterCommand::WakeUp;
+constexpr auto wakeUp = EmulatedCommand::WakeUp;
 constexpr int timeout = 6000;
 const auto printerURI = u"usb://Quillmark/QZ100?serial=QM0001"_s;
 

@@ -1,8 +1,8 @@
 #include "FrameReader.h"
 
 #include "ConfigurationPayload.h"
+#include "EmulatedCommand.h"
 #include "FrameLayout.h"
-#include "PrinterCommand.h"
 
 #include <algorithm>
 #include <iterator>
@@ -16,9 +16,9 @@ namespace
 quint16 payloadSizeOf(quint16 command)
 {
     switch (command) {
-    case PrinterCommand::Configuration:
+    case EmulatedCommand::Configuration:
         return ConfigurationPayload::size;
-    case PrinterCommand::InformationPage:
+    case EmulatedCommand::InformationPage:
         return 2;
     default:
         return 0;
@@ -27,7 +27,7 @@ quint16 payloadSizeOf(quint16 command)
 
 bool isKnown(quint16 command)
 {
-    return std::ranges::find(PrinterCommand::all, command) != std::end(PrinterCommand::all);
+    return std::ranges::find(EmulatedCommand::all, command) != std::end(EmulatedCommand::all);
 }
 } // namespace
 
@@ -98,7 +98,7 @@ void FrameReader::checkHeaderByte(qsizetype offset)
 
 void FrameReader::payloadByte(qsizetype offset)
 {
-    const bool pageWithoutPayload = offset == payloadOffset && m_frame.command == PrinterCommand::InformationPage &&
+    const bool pageWithoutPayload = offset == payloadOffset && m_frame.command == EmulatedCommand::InformationPage &&
                                     m_payloadSize == 2 && m_frame.bytes[offset] == universalExit.front();
     if (pageWithoutPayload)
         m_payloadSize = 0;
@@ -116,10 +116,10 @@ void FrameReader::payloadByte(qsizetype offset)
 void FrameReader::payloadComplete()
 {
     const QByteArrayView payload = QByteArrayView(m_frame.bytes).sliced(payloadOffset, m_payloadSize);
-    if (m_frame.command == PrinterCommand::InformationPage && m_payloadSize == 2) {
+    if (m_frame.command == EmulatedCommand::InformationPage && m_payloadSize == 2) {
         if (payload != QByteArrayView("\x00\x02", 2))
             m_frame.problems.push_back({payloadOffset, u"not 00 02"_s});
-    } else if (m_frame.command == PrinterCommand::Configuration && m_payloadSize == ConfigurationPayload::size) {
+    } else if (m_frame.command == EmulatedCommand::Configuration && m_payloadSize == ConfigurationPayload::size) {
         for (const FrameProblem &problem : ConfigurationPayload(payload).problems())
             m_frame.problems.push_back({payloadOffset + problem.offset, problem.what});
     }

@@ -1,8 +1,8 @@
 #include "PrinterModel.h"
 
 #include "ConfigurationPayload.h"
+#include "EmulatedCommand.h"
 #include "FrameLayout.h"
-#include "PrinterCommand.h"
 
 #include <algorithm>
 #include <utility>
@@ -129,23 +129,23 @@ PrinterReply PrinterModel::obey(const ReceivedFrame &frame, const PrinterFault &
     PrinterReply reply;
     reply.command = frame.command;
     switch (frame.command) {
-    case PrinterCommand::WakeUp:
+    case EmulatedCommand::WakeUp:
         reply.result = m_script.wakeUpResult;
         break;
-    case PrinterCommand::Capability:
+    case EmulatedCommand::Capability:
         reply.result = m_script.capabilityResult;
         break;
-    case PrinterCommand::Configuration:
+    case EmulatedCommand::Configuration:
         reply.result = configure(frame, fault, now);
         reply.time = m_script.joinTime;
         break;
-    case PrinterCommand::Address:
+    case EmulatedCommand::Address:
         if (hasAddress(now))
             reply.data = addressData();
         // The host reads data only when the result says that there is some.
         reply.result = fault.data.value_or(reply.data).isEmpty() ? 0 : 1;
         break;
-    case PrinterCommand::InformationPage:
+    case EmulatedCommand::InformationPage:
         reply.result = m_script.informationPageResult;
         break;
     }

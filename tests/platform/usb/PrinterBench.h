@@ -1,10 +1,10 @@
 #pragma once
 
-#include "PrinterCommand.h"
+#include "EmulatedCommand.h"
 #include "UsbTestBench.h"
 #include "commandFrame.h"
 
-inline constexpr auto wakeUp = PrinterCommand::WakeUp;
+inline constexpr auto wakeUp = EmulatedCommand::WakeUp;
 
 inline QByteArray someData(int size)
 {

@@ -1,5 +1,5 @@
 #include "EmulatedUsb.h"
-#include "PrinterCommand.h"
+#include "EmulatedCommand.h"
 #include "SystemTime.h"
 #include "TestFrames.h"
 #include "VirtualTime.h"
@@ -55,7 +55,7 @@ void EmulatedUsbTest::takesItsTime()
     VirtualTime time;
     PrinterScript script;
     script.joinTime = 2min;
-    script.events = {{BusEvent::Action::Unplug, BusEvent::Cause{PrinterCommand::Configuration, 1}, 3min}};
+    script.events = {{BusEvent::Action::Unplug, BusEvent::Cause{EmulatedCommand::Configuration, 1}, 3min}};
     EmulatedUsb usb(time, PrinterModel({}, script));
     const auto begin = time.now();
     auto reply = std::async(std::launch::async, [&] { return exchange(usb, configuration("Office", "secret-1")); });
@@ -86,7 +86,7 @@ void EmulatedUsbTest::forgetsWhatIsDiscarded()
 {
     SystemTime time;
     PrinterScript script;
-    script.faults = {{.command = PrinterCommand::Capability, .data = QByteArray(2000, 'd')}};
+    script.faults = {{.command = EmulatedCommand::Capability, .data = QByteArray(2000, 'd')}};
     EmulatedUsb usb(time, PrinterModel({}, script));
     auto connection = usb.open(usb.devices(vendors).front());
     QVERIFY(connection);
@@ -128,7 +128,7 @@ void EmulatedUsbTest::standsConcurrentUse()
 {
     SystemTime time;
     PrinterScript script;
-    script.faults = {{.command = PrinterCommand::WakeUp, .delay = 1ms, .sliceSeed = 3, .sliceDelay = 1ms}};
+    script.faults = {{.command = EmulatedCommand::WakeUp, .delay = 1ms, .sliceSeed = 3, .sliceDelay = 1ms}};
     EmulatedUsb usb(time, PrinterModel({}, script));
     auto user = std::async(std::launch::async, [&] {
         for (int round = 0; round < 100; ++round)

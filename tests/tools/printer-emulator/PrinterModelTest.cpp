@@ -1,5 +1,5 @@
 #include "PrinterModel.h"
-#include "PrinterCommand.h"
+#include "EmulatedCommand.h"
 #include "TestFrames.h"
 
 #include <QTest>
@@ -111,7 +111,7 @@ void PrinterModelTest::ignoresWhatIsWrong()
     QCOMPARE(ask(printer, frame), QString());
     QVERIFY(!printer.record().allSound());
     QVERIFY(!printer.record().networkName);
-    QCOMPARE(printer.record().count(PrinterCommand::Configuration), 1);
+    QCOMPARE(printer.record().count(EmulatedCommand::Configuration), 1);
     QVERIFY(printer.record().commands().empty());
 }
 
@@ -119,7 +119,7 @@ void PrinterModelTest::misbehavesAtTheRightTime()
 {
     PrinterScript script;
     PrinterFault second;
-    second.command = PrinterCommand::Capability;
+    second.command = EmulatedCommand::Capability;
     second.occurrence = 2;
     second.silent = true;
     PrinterFault first = second;
@@ -132,14 +132,14 @@ void PrinterModelTest::misbehavesAtTheRightTime()
     QCOMPARE(printer.plan(frame).after, OutPlan::After::Stall);
     QCOMPARE(ask(printer, frame), QString());
     QVERIFY(!ask(printer, frame).isEmpty());
-    QCOMPARE(printer.record().count(PrinterCommand::Capability), 3);
+    QCOMPARE(printer.record().count(EmulatedCommand::Capability), 3);
     QCOMPARE(printer.record().frames.size(), 2U);
 }
 
 void PrinterModelTest::reportsEventsAfterACommand()
 {
     PrinterScript script;
-    script.events = {{BusEvent::Action::Hold, BusEvent::Cause{PrinterCommand::WakeUp, 2}, 5ms},
+    script.events = {{BusEvent::Action::Hold, BusEvent::Cause{EmulatedCommand::WakeUp, 2}, 5ms},
                      {BusEvent::Action::Unplug, std::nullopt, 0ms}};
     PrinterModel printer({}, script);
     QVERIFY(printer.accept(shortFrame(0xFF21), start).events.empty());

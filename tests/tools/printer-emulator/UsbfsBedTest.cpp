@@ -1,6 +1,6 @@
 #include "UsbfsBed.h"
+#include "EmulatedCommand.h"
 #include "LibusbPrinter.h"
-#include "PrinterCommand.h"
 #include "SystemTime.h"
 #include "TestFrames.h"
 #include "VirtualTime.h"
@@ -127,7 +127,7 @@ void UsbfsBedTest::lendsItsInterface()
     QCOMPARE(m_bed->claims(), 1);
     QCOMPARE(libusb_release_interface(printer.handle(), 0), 0);
     QCOMPARE(m_bed->boundDriver(), u"usblp"_s);
-    QCOMPARE(m_bed->record().commands(), std::vector{PrinterCommand::WakeUp});
+    QCOMPARE(m_bed->record().commands(), std::vector{EmulatedCommand::WakeUp});
 }
 
 void UsbfsBedTest::hasNoDriverWhereThereIsNone()
@@ -216,7 +216,7 @@ void UsbfsBedTest::hasAlternateSettings()
 void UsbfsBedTest::saysWhatFitsInPackets()
 {
     // With its header, the first reply fills two packets, so that a zero-length one ends it.
-    m_bed->setScript(withFault(PrinterCommand::Capability, [](auto &fault) { fault.data = QByteArray(1008, 'd'); }));
+    m_bed->setScript(withFault(EmulatedCommand::Capability, [](auto &fault) { fault.data = QByteArray(1008, 'd'); }));
     LibusbPrinter printer;
     seize(printer);
     QByteArray reply;
@@ -233,7 +233,7 @@ void UsbfsBedTest::saysWhatFitsInPackets()
 
 void UsbfsBedTest::takesNothingThatWasCalledBack()
 {
-    m_bed->setScript(withFault(PrinterCommand::WakeUp, [](auto &fault) { fault.acceptDelay = 1h; }));
+    m_bed->setScript(withFault(EmulatedCommand::WakeUp, [](auto &fault) { fault.acceptDelay = 1h; }));
     LibusbPrinter printer;
     seize(printer);
     QCOMPARE(printer.write(shortFrame(0xFF21), 30), int(LIBUSB_ERROR_TIMEOUT));
@@ -263,7 +263,7 @@ void UsbfsBedTest::livesInThePortsTime()
     VirtualTime time;
     m_bed.reset();
     m_bed.emplace(time);
-    PrinterScript script = withFault(PrinterCommand::Configuration, [](auto &fault) {
+    PrinterScript script = withFault(EmulatedCommand::Configuration, [](auto &fault) {
         fault.slices = {7};
         fault.sliceDelay = 20s;
         fault.acceptDelay = 10s;
@@ -307,9 +307,9 @@ void UsbfsBedTest::followsItsEvents()
     PrinterScript script;
     using enum BusEvent::Action;
     script.events = {{Plug, std::nullopt, 2s},
-                     {Hold, BusEvent::Cause{PrinterCommand::WakeUp, 1}, 0s},
-                     {Release, BusEvent::Cause{PrinterCommand::WakeUp, 1}, 5s},
-                     {Unplug, BusEvent::Cause{PrinterCommand::WakeUp, 1}, 9s}};
+                     {Hold, BusEvent::Cause{EmulatedCommand::WakeUp, 1}, 0s},
+                     {Release, BusEvent::Cause{EmulatedCommand::WakeUp, 1}, 5s},
+                     {Unplug, BusEvent::Cause{EmulatedCommand::WakeUp, 1}, 9s}};
     m_bed->addPrinter(PrinterModel({}, script));
     time.advance(1999ms);
     QVERIFY(!m_bed->isPlugged());

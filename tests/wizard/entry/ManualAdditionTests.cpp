@@ -16,6 +16,7 @@
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace EmulatedCommand;
 
 Q_DECLARE_METATYPE(PrinterScript)
 

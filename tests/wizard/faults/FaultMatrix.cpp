@@ -1,11 +1,12 @@
 #include "FaultMatrix.h"
 
-#include "CommandCode.h"
+#include "EmulatedCommand.h"
 
 #include <array>
 #include <functional>
 
 using namespace std::chrono_literals;
+using namespace EmulatedCommand;
 
 namespace
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CommandCode.h"
+#include "EmulatedCommand.h"
 #include "LibusbPort.h"
 #include "SpoolerPort.h"
 #include "UsbfsBed.h"

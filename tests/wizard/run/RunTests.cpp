@@ -8,6 +8,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
+using namespace EmulatedCommand;
 
 namespace
 {
@@ -17,7 +18,7 @@ enum class Screen { Complete, Failed, ConfigFailed };
 const auto networkName = u"Home 网络"_s;
 const auto password = u"correct horse"_s;
 
-PrinterScript silentOn(Command command)
+PrinterScript silentOn(quint16 command)
 {
     return {.faults = {{.command = command, .silent = true}}};
 }

@@ -10,6 +10,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
+using namespace EmulatedCommand;
 
 namespace
 {
