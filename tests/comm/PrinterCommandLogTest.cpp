@@ -1,10 +1,9 @@
 #include "LogCollector.h"
 #include "PrinterBench.h"
 #include "PrinterOperation.h"
+#include "Rows.h"
 #include "TextFormat.h"
 #include "WTManager.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -29,47 +28,39 @@ private:
 
 void PrinterCommandLogTest::logsTheExchange_data()
 {
-    QTest::addColumn<Operation>("operation");
-    QTest::addColumn<PrinterFault>("fault");
-    QTest::addColumn<QStringList>("lines");
-
-    const auto row = [](const char *name, Operation operation, const PrinterFault &fault, const QStringList &lines) {
-        QTest::newRow(name) << operation << fault << lines;
+    const auto reply = [](const QString &command, const char *rest = "000000000000000000000000") {
+        return describeBytes(QByteArray::fromHex("00ac" + command.toLatin1() + rest));
     };
-    const auto described = [](const QByteArray &hex) { return describeBytes(QByteArray::fromHex(hex)); };
-    const QString frame = u"{length = 59, bytes = 0x"_s + u"1b252d31323334355840504a4c20454e ... 252d313233343558}"_s;
-    const QString mismatch = u"warning: CMD not matched! msg:acl 失败，失败原因：cmd not matched! "_s;
-
+    const auto sent = [](const QString &command, int size = 59) {
+        return u"info: send ACL:0x%1, uri:URI, data:{length = %2, "_s.arg(command).arg(size) +
+               u"bytes = 0x1b252d31323334355840504a4c20454e ... 252d313233343558}"_s;
+    };
+    const char *success = "000100000000000000000000";
+    const Rows<Operation, PrinterFault, QStringList> row{"operation", "fault", "lines"};
     row("wake-up", Operation::WakeUp, {},
-        {u"info: send ACL:0xFF21, uri:URI, data:"_s + frame,
-         u"info: 返回 ACL:0xFF21, headData:"_s + described("00acff21000000000000000000000000"),
+        {sent(u"FF21"_s), u"info: 返回 ACL:0xFF21, headData:"_s + reply(u"FF21"_s),
          u"info: ACL:0xFF21, uri:URI, 最终返回 👉 data:(null)"_s});
     row("capability", Operation::Capability, {},
-        {u"info: send ACL:0xFF81, uri:URI, data:"_s + frame,
-         u"info: 返回 ACL:0xFF81, headData:"_s + described("00acff81000100000000000000000000"),
-         u"info: send_cmd:0xFF81 header data:"_s + described("00acff81000100000000000000000000"),
-         u"info: recv_cmd:0xFF81 result:0x1"_s, u"info: cb_success!"_s});
+        {sent(u"FF81"_s), u"info: 返回 ACL:0xFF81, headData:"_s + reply(u"FF81"_s, success),
+         u"info: send_cmd:0xFF81 header data:"_s + reply(u"FF81"_s, success), u"info: recv_cmd:0xFF81 result:0x1"_s,
+         u"info: cb_success!"_s});
     row("capability, another command", Operation::Capability, with(&PrinterFault::echo, 0xFF82),
-        {u"info: send ACL:0xFF81, uri:URI, data:"_s + frame,
-         u"info: 返回 ACL:0xFF81, headData:"_s + described("00acff82000100000000000000000000"),
-         mismatch + u"send:0xFF81, recv:0xFF82"_s, u"info: send_cmd:0xFF81 header data:(null)"_s,
-         u"error: no header data!"_s});
+        {sent(u"FF81"_s), u"info: 返回 ACL:0xFF81, headData:"_s + reply(u"FF82"_s, success),
+         u"warning: CMD not matched! msg:acl 失败，失败原因：cmd not matched! send:0xFF81, recv:0xFF82"_s,
+         u"info: send_cmd:0xFF81 header data:(null)"_s, u"error: no header data!"_s});
     row("capability, a stall", Operation::Capability, with(&PrinterFault::stallIn, true),
-        {u"info: send ACL:0xFF81, uri:URI, data:"_s + frame, u"info: 返回 ACL:0xFF81, headData:(null)"_s,
-         u"error: FF81 返回错误：WTCOM"_s, u"info: send_cmd:0xFF81 header data:(null)"_s, u"error: no header data!"_s});
+        {sent(u"FF81"_s), u"info: 返回 ACL:0xFF81, headData:(null)"_s, u"error: FF81 返回错误：WTCOM"_s,
+         u"info: send_cmd:0xFF81 header data:(null)"_s, u"error: no header data!"_s});
     row("configuration", Operation::Configuration, {},
-        {u"info: send ACL:0xFF80, uri:URI, data:"_s + QString{frame}.replace(u"59"_s, u"267"_s),
-         u"info: recv ACL:0xFF80, header:"_s + described("00acff80000100000000000000000000")});
+        {sent(u"FF80"_s, 267), u"info: recv ACL:0xFF80, header:"_s + reply(u"FF80"_s, success)});
     row("address", Operation::Address, with(&PrinterFault::data, "10.0.0.7"_ba.leftJustified(16, '\0')),
-        {u"info: send ACL:0xFF0F, uri:URI, data:"_s + frame,
-         u"info: recv ACL:0xFF0F, header:"_s + described("00acff0f000100100000000000000000"), u"info: 0xFF0F:1"_s,
-         u"info: IP:10.0.0.7"_s, u"info: IPv4:10.0.0.7, IPv6:, unstatus:"_s});
+        {sent(u"FF0F"_s), u"info: recv ACL:0xFF0F, header:"_s + reply(u"FF0F"_s, "000100100000000000000000"),
+         u"info: 0xFF0F:1"_s, u"info: IP:10.0.0.7"_s, u"info: IPv4:10.0.0.7, IPv6:, unstatus:"_s});
     row("information page", Operation::InformationPage, {},
-        {u"info: send ACL:0xFF84, uri:URI, data:"_s + frame,
-         u"info: 返回 ACL:0xFF84, headData:"_s + described("00acff84000000000000000000000000"),
+        {sent(u"FF84"_s), u"info: 返回 ACL:0xFF84, headData:"_s + reply(u"FF84"_s),
          u"info: ACL:0xFF84, uri:URI, 最终返回 👉 data:(null) error:(null)"_s,
-         u"info: send_cmd:0xFF84 header data:"_s + described("00acff84000000000000000000000000"),
-         u"info: recv_cmd:0xFF84 result:0x0"_s, u"info: cb_success!"_s});
+         u"info: send_cmd:0xFF84 header data:"_s + reply(u"FF84"_s), u"info: recv_cmd:0xFF84 result:0x0"_s,
+         u"info: cb_success!"_s});
 }
 
 void PrinterCommandLogTest::logsTheExchange()

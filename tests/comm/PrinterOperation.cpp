@@ -7,23 +7,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-quint16 commandOf(Operation operation)
-{
-    switch (operation) {
-    case Operation::WakeUp:
-        return 0xFF21;
-    case Operation::Capability:
-        return 0xFF81;
-    case Operation::Configuration:
-        return 0xFF80;
-    case Operation::Address:
-        return 0xFF0F;
-    case Operation::InformationPage:
-        return 0xFF84;
-    }
-    return 0;
-}
-
 void Answer::give(const QString &text)
 {
     const std::lock_guard lock{m_mutex};
@@ -99,7 +82,7 @@ std::shared_ptr<Answer> start(Operation operation, const QString &uri)
 PrinterScript scriptWith(Operation operation, PrinterFault fault)
 {
     PrinterScript script;
-    fault.command = commandOf(operation);
+    fault.command = static_cast<quint16>(operation);
     script.joinedFromStart = true;
     script.faults.push_back(fault);
     return script;

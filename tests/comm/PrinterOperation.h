@@ -1,5 +1,6 @@
 #pragma once
 
+#include "EmulatedCommand.h"
 #include "PrinterScript.h"
 
 #include <QString>
@@ -9,9 +10,14 @@
 
 class QThread;
 
-enum class Operation { WakeUp, Capability, Configuration, Address, InformationPage };
-
-quint16 commandOf(Operation operation);
+/// The manager's operations, each by the command it sends.
+enum class Operation : quint16 {
+    WakeUp = EmulatedCommand::WakeUp,
+    Capability = EmulatedCommand::Capability,
+    Configuration = EmulatedCommand::Configuration,
+    Address = EmulatedCommand::Address,
+    InformationPage = EmulatedCommand::InformationPage,
+};
 
 /// What an operation's callback was given, as one text, and how it was called. Written on any thread.
 class Answer

@@ -1,10 +1,9 @@
 #include "LogCollector.h"
 #include "PrintQueueBusyCheck.h"
 #include "ResourceFolder.h"
+#include "Rows.h"
 #include "VirtualTime.h"
 #include "WTManager.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -47,13 +46,10 @@ private Q_SLOTS:
     void initTestCase();
     void derivesTextsOfTheUsbSide_data();
     void derivesTextsOfTheUsbSide();
-    void spellsNumbersInHexadecimal();
-    void keepsAStoredUri();
     void listsKnownPrintersWithWifi();
     void listsAllWithoutACatalogue();
     void describesTheReportInTheLog();
     void asksTheSpoolerForThePrintersQueue();
-    void logsTheLibrarysLogPath();
 
 private:
     ResourceFolder m_resources;
@@ -68,14 +64,8 @@ void PrinterRecordTest::initTestCase()
 
 void PrinterRecordTest::derivesTextsOfTheUsbSide_data()
 {
-    QTest::addColumn<std::optional<QString>>("serialNumber");
-    QTest::addColumn<QString>("uri");
-    QTest::addColumn<std::optional<QString>>("uuid");
-
     using Text = std::optional<QString>;
-    const auto row = [](const char *name, const Text &serialNumber, const QString &uri, const Text &uuid) {
-        QTest::newRow(name) << serialNumber << uri << uuid;
-    };
+    const Rows<Text, QString, Text> row{"serialNumber", "uri", "uuid"};
     row("plain", u"AB12CD"_s, u"usb://Quillmark/QZ100%20series?serial=AB12CD"_s, u"00000000-0000-4142-3132-4344"_s);
     row("two characters", u"AB"_s, u"usb://Quillmark/QZ100%20series?serial=AB"_s, u"00000000-0000-4142-"_s);
     row("absent", std::nullopt, u"usb://Quillmark/QZ100%20series?serial=(null)"_s, std::nullopt);
@@ -93,21 +83,6 @@ void PrinterRecordTest::derivesTextsOfTheUsbSide()
     usb.serialNumber = serialNumber;
     QTEST(usb.URI(), "uri");
     QTEST(usb.UUID(), "uuid");
-}
-
-void PrinterRecordTest::spellsNumbersInHexadecimal()
-{
-    QCOMPARE(WTUSB::ToHex(0x41), u"41"_s);
-    QCOMPARE(WTUSB::ToHex(0x3A9), u"3A9"_s);
-    QCOMPARE(WTUSB::ToHex(0), u"0"_s);
-    QCOMPARE(WTUSB::ToHex(0xFFFF), u"FFFF"_s);
-}
-
-void PrinterRecordTest::keepsAStoredUri()
-{
-    WTUSB usb;
-    usb.setURI(u"usb://stored as it is"_s);
-    QCOMPARE(usb.URI(), u"usb://stored as it is"_s);
 }
 
 void PrinterRecordTest::listsKnownPrintersWithWifi()
@@ -176,14 +151,6 @@ void PrinterRecordTest::asksTheSpoolerForThePrintersQueue()
     QCOMPARE(log.lines(), (QStringList{u"info: 查看本地是否有打印作业,打印机名称quillmark QZ100"_s,
                                        u"info: 打印机正在打印中,当前打印机为QZ200"_s,
                                        u"info: 打印机正在打印中,当前打印机为QZ100"_s, u"info: 打印机正在打印中"_s}));
-}
-
-void PrinterRecordTest::logsTheLibrarysLogPath()
-{
-    const LogCollector log;
-    WTManager::shared().setLogPath(u"/somewhere/WTCore-WiFiTool.log"_s);
-    QCOMPARE(WTManager::shared().logPath(), u"/somewhere/WTCore-WiFiTool.log"_s);
-    QCOMPARE(log.lines(), QStringList{u"debug: 设置中间日志的路径：/somewhere/WTCore-WiFiTool.log"_s});
 }
 
 QTEST_GUILESS_MAIN(PrinterRecordTest)
