@@ -44,16 +44,16 @@ void PrinterCommandLogTest::logsTheExchange_data()
         {sent(u"FF81"_s), u"info: 返回 ACL:0xFF81, headData:"_s + reply(u"FF81"_s, success),
          u"info: send_cmd:0xFF81 header data:"_s + reply(u"FF81"_s, success), u"info: recv_cmd:0xFF81 result:0x1"_s,
          u"info: cb_success!"_s});
-    row("capability, another command", Operation::Capability, with(&PrinterFault::echo, 0xFF82),
+    row("capability, another command", Operation::Capability, {.echo = 0xFF82},
         {sent(u"FF81"_s), u"info: 返回 ACL:0xFF81, headData:"_s + reply(u"FF82"_s, success),
          u"warning: CMD not matched! msg:acl 失败，失败原因：cmd not matched! send:0xFF81, recv:0xFF82"_s,
          u"info: send_cmd:0xFF81 header data:(null)"_s, u"error: no header data!"_s});
-    row("capability, a stall", Operation::Capability, with(&PrinterFault::stallIn, true),
+    row("capability, a stall", Operation::Capability, {.stallIn = true},
         {sent(u"FF81"_s), u"info: 返回 ACL:0xFF81, headData:(null)"_s, u"error: FF81 返回错误：WTCOM"_s,
          u"info: send_cmd:0xFF81 header data:(null)"_s, u"error: no header data!"_s});
     row("configuration", Operation::Configuration, {},
         {sent(u"FF80"_s, 267), u"info: recv ACL:0xFF80, header:"_s + reply(u"FF80"_s, success)});
-    row("address", Operation::Address, with(&PrinterFault::data, "10.0.0.7"_ba.leftJustified(16, '\0')),
+    row("address", Operation::Address, {.data = "10.0.0.7"_ba.leftJustified(16, '\0')},
         {sent(u"FF0F"_s), u"info: recv ACL:0xFF0F, header:"_s + reply(u"FF0F"_s, "000100100000000000000000"),
          u"info: 0xFF0F:1"_s, u"info: IP:10.0.0.7"_s, u"info: IPv4:10.0.0.7, IPv6:, unstatus:"_s});
     row("information page", Operation::InformationPage, {},

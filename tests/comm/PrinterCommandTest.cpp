@@ -43,7 +43,6 @@ void PrinterCommandTest::initTestCase()
 
 void PrinterCommandTest::answersWhateverThePrinterDoes_data()
 {
-    using Fault = PrinterFault;
     constexpr auto free = Obstacle::None;
     const QString awake = u"1, no message"_s;
     const QString failed = u"1, 0x0"_s;
@@ -54,14 +53,14 @@ void PrinterCommandTest::answersWhateverThePrinterDoes_data()
     const QStringList refused{awake, u"0, 0xfffb"_s, u"1, 0xfffb"_s, address, u"0, 0xfffb"_s};
     const Rows<PrinterFault, Obstacle, QStringList> row{"fault", "obstacle", "answers"};
     row("sound", {}, free, {awake, u"0, 0x1"_s, u"0, 0x1"_s, address, u"0, 0x0"_s});
-    row("another result", with(&Fault::result, 0xFFFB), free, refused);
-    row("wrong echo", with(&Fault::echo, 0xFF22), free, unanswered);
-    row("silent", with(&Fault::silent, true), free, unanswered);
-    row("short header", with(&Fault::cutAt, 10), free, unanswered);
-    row("stalls the frame", with(&Fault::stallOut, true), free, unanswered);
-    row("stalls the reply", with(&Fault::stallIn, true), free, unanswered);
-    row("unplugged in the frame", with(&Fault::unplugOut, 30), free, lost);
-    row("unplugged in the reply", with(&Fault::unplugIn, 8), free, lost);
+    row("another result", {.result = 0xFFFB}, free, refused);
+    row("wrong echo", {.echo = 0xFF22}, free, unanswered);
+    row("silent", {.silent = true}, free, unanswered);
+    row("short header", {.cutAt = 10}, free, unanswered);
+    row("stalls the frame", {.stallOut = true}, free, unanswered);
+    row("stalls the reply", {.stallIn = true}, free, unanswered);
+    row("unplugged in the frame", {.unplugOut = 30}, free, lost);
+    row("unplugged in the reply", {.unplugIn = 8}, free, lost);
     row("held by another", {}, Obstacle::Held, lost);
     row("not permitted", {}, Obstacle::Denied, lost);
     row("not on the bus", {}, Obstacle::Absent, lost);
@@ -94,23 +93,21 @@ void PrinterCommandTest::answersWhateverThePrinterDoes()
 
 void PrinterCommandTest::readsAddressReplies_data()
 {
-    using Fault = PrinterFault;
-    const auto padded = [](int size) { return with(&Fault::data, "10.0.0.7"_ba.leftJustified(size, '\0')); };
+    const auto padded = [](int size) { return "10.0.0.7"_ba.leftJustified(size, '\0'); };
     const QByteArray noAddress(176, 'x');
     const QString noData = u"7, acl 获取到的数据为空!!!!!"_s;
     const QString tooShort = u"5, acl 获取数据失败，失败原因：数据长度不够！"_s;
     const QStringList noDataLine{u"error: Null recv data"_s};
     const QStringList noAddressLine{u"error: 🤢🤢🤢"_s};
     const Rows<PrinterFault, QString, QStringList> row{"fault", "answer", "errors"};
-    row("zero result, data announced", with(&Fault::result, 0, padded(176)), noData, noDataLine);
-    row("no data announced", with(&Fault::data, QByteArray{}), noData, noDataLine);
-    row("announced data never comes", with(&Fault::noData, true), noData, noDataLine);
-    row("15 bytes", padded(15), tooShort, {u"error: data.length < 16"_s});
-    row("16 bytes", padded(16), u"0, 10.0.0.7"_s, {});
-    row("the two length bytes are added", with(&Fault::lengthField, 0x0110, padded(17)), u"0, 10.0.0.7"_s, {});
-    row("no address", with(&Fault::data, noAddress), u"6, "_s, noAddressLine);
-    row("510 bytes", with(&Fault::lengthField, 0xFFFF, with(&Fault::data, QByteArray(510, '\xFF'))), u"6, "_s,
-        noAddressLine);
+    row("zero result, data announced", {.result = 0, .data = padded(176)}, noData, noDataLine);
+    row("no data announced", {.data = QByteArray{}}, noData, noDataLine);
+    row("announced data never comes", {.noData = true}, noData, noDataLine);
+    row("15 bytes", {.data = padded(15)}, tooShort, {u"error: data.length < 16"_s});
+    row("16 bytes", {.data = padded(16)}, u"0, 10.0.0.7"_s, {});
+    row("the two length bytes are added", {.lengthField = 0x0110, .data = padded(17)}, u"0, 10.0.0.7"_s, {});
+    row("no address", {.data = noAddress}, u"6, "_s, noAddressLine);
+    row("510 bytes", {.lengthField = 0xFFFF, .data = QByteArray(510, '\xFF')}, u"6, "_s, noAddressLine);
 }
 
 void PrinterCommandTest::readsAddressReplies()
@@ -137,7 +134,7 @@ void PrinterCommandTest::waitsAsLongAsItsCommandMayTake_data()
 void PrinterCommandTest::waitsAsLongAsItsCommandMayTake()
 {
     QFETCH(Operation, operation);
-    m_bench.reset(scriptWith(operation, with(&PrinterFault::silent, true)));
+    m_bench.reset(scriptWith(operation, {.silent = true}));
     const auto before = m_bench.time.now();
     QCOMPARE(m_bench.perform(operation)->calls(), 1);
     QTEST(static_cast<int>(std::chrono::round<std::chrono::seconds>(m_bench.time.now() - before).count()), "seconds");

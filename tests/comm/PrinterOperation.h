@@ -48,13 +48,5 @@ bool tellsSecret(const QStringList &lines);
 /// Begins the operation; its answer fills when it calls back.
 std::shared_ptr<Answer> start(Operation operation, const QString &uri);
 
-/// `fault`, with one more field of it set.
-template <typename Field, typename Value>
-PrinterFault with(Field PrinterFault::*field, const Value &value, PrinterFault fault = {})
-{
-    fault.*field = value;
-    return fault;
-}
-
 /// A printer that has joined its network and does this to the operation's command.
 PrinterScript scriptWith(Operation operation, PrinterFault fault);

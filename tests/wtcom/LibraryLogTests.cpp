@@ -14,7 +14,6 @@ private Q_SLOTS:
     void maskChoosesTheLevels();
     void theFileStaysWithinItsLimit();
     void linesOfManyThreadsStayWhole();
-    void worksWithoutAFile_data();
     void worksWithoutAFile();
 
 private:
@@ -79,25 +78,18 @@ void LibraryLogTests::linesOfManyThreadsStayWhole()
         QVERIFY(line.endsWith(" info a line"));
 }
 
-void LibraryLogTests::worksWithoutAFile_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::newRow("no path") << QString();
-    QTest::newRow("a folder that does not exist") << m_folder.filePath(u"none/library.log"_s);
-    QTest::newRow("a folder in its place") << m_folder.path();
-}
-
 void LibraryLogTests::worksWithoutAFile()
 {
-    QFETCH(QString, path);
-    LibraryLog log;
-    log.configure(path, 255);
-    log.write(LibraryLog::Error, u"nowhere"_s);
-    // A path that can be written takes over later.
-    QFile::remove(m_path);
-    log.configure(m_path, 255);
-    log.write(LibraryLog::Error, u"here"_s);
-    QVERIFY(content().endsWith(" error here\n"));
+    for (const QString &path : {QString(), m_folder.filePath(u"none/library.log"_s), m_folder.path()}) {
+        LibraryLog log;
+        log.configure(path, 255);
+        log.write(LibraryLog::Error, u"nowhere"_s);
+        // A path that can be written takes over later.
+        QFile::remove(m_path);
+        log.configure(m_path, 255);
+        log.write(LibraryLog::Error, u"here"_s);
+        QVERIFY2(content().endsWith(" error here\n"), qPrintable(path));
+    }
 }
 
 QTEST_GUILESS_MAIN(LibraryLogTests)

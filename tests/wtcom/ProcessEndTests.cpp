@@ -6,7 +6,6 @@
 #include <QProcess>
 #include <QTest>
 #include <array>
-#include <condition_variable>
 #include <cstdio>
 #include <future>
 #include <sys/resource.h>
@@ -32,25 +31,17 @@ public:
     WTResult<QByteArray> read(qsizetype) override
     {
         m_reading.set_value();
-        std::unique_lock lock(m_mutex);
-        m_changed.wait(lock, [this] { return m_cancelled; });
+        m_cancelled.get_future().wait();
         return WTError{usbErrorDomain, static_cast<int>(UsbErrorCode::Cancelled), u"cancelled"_s};
     }
 
     void discardInput() override {}
 
-    void cancel() override
-    {
-        const std::lock_guard lock(m_mutex);
-        m_cancelled = true;
-        m_changed.notify_all();
-    }
+    void cancel() override { m_cancelled.set_value(); }
 
 private:
     std::promise<void> &m_reading;
-    std::mutex m_mutex;
-    std::condition_variable m_changed;
-    bool m_cancelled = false;
+    std::promise<void> m_cancelled;
 };
 
 class SilentBus final : public UsbPort

@@ -1,27 +1,33 @@
 #include "EmulatedCommand.h"
 #include "RecordedSend.h"
+#include "Rows.h"
 #include "SendWorkers.h"
 #include "UsbTestBench.h"
 #include "WTCServer.h"
 #include "commandFrame.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace std::chrono_literals;
 using namespace Qt::Literals::StringLiterals;
 using HeadReaction = RecordedSend::HeadReaction;
+using Faults = std::vector<PrinterFault>;
 
 namespace
 {
 
+using enum HeadReaction;
+using enum WTCErrorCode;
+
 constexpr auto wakeUp = EmulatedCommand::WakeUp;
+constexpr auto noError = WTCErrorCode{};
 constexpr int timeout = 6000;
+const QByteArray frame = commandFrame(wakeUp);
 const auto printerURI = u"usb://Quillmark/QZ100?serial=QM0001"_s;
 
 /// The library over an emulated bus with one printer that answers as the faults say.
 struct LibraryBench : UsbTestBench {
-    explicit LibraryBench(std::vector<PrinterFault> faults = {}, const QString &logFile = {})
+    explicit LibraryBench(Faults faults = {}, const QString &logFile = {})
     {
         for (PrinterFault &fault : faults) {
             if (fault.command == 0)
@@ -50,32 +56,21 @@ struct LibraryBench : UsbTestBench {
         return send.record();
     }
 
-    RecordedSend::Record send(HeadReaction reaction = HeadReaction::ReadAnnounced)
+    RecordedSend::Record send(HeadReaction reaction = ReadAnnounced)
     {
-        return finish(RecordedSend(printerURI, commandFrame(wakeUp), timeout, reaction));
+        return finish(RecordedSend(printerURI, frame, timeout, reaction));
     }
 };
 
-PrinterFault withData(int size)
+QByteArray data(int size)
 {
-    PrinterFault fault;
-    fault.data = QByteArray(size, 'd');
-    return fault;
-}
-
-PrinterFault changed(PrinterFault fault, const std::function<void(PrinterFault &)> &change)
-{
-    change(fault);
-    return fault;
+    return QByteArray(size, 'd');
 }
 
 enum class Bus { Sound, Empty, Denied, Held, HeldByProcess };
+using enum Bus;
 
 } // namespace
-
-Q_DECLARE_METATYPE(PrinterFault)
-Q_DECLARE_METATYPE(HeadReaction)
-Q_DECLARE_METATYPE(Bus)
 
 class SendTests : public QObject
 {
@@ -100,64 +95,38 @@ private Q_SLOTS:
 
 void SendTests::everySendEndsOnce_data()
 {
-    QTest::addColumn<PrinterFault>("fault");
-    QTest::addColumn<Bus>("bus");
-    QTest::addColumn<HeadReaction>("reaction");
-    QTest::addColumn<int>("headerSize");    // -1: absent
-    QTest::addColumn<int>("dataSize");      // -1: absent
-    QTest::addColumn<WTCErrorCode>("code"); // 0: no error
-    QTest::addColumn<QString>("cause");
-
-    const PrinterFault sound = withData(40);
-    constexpr auto none = WTCErrorCode{};
-    const auto exchange = [](const char *name, const PrinterFault &fault, int headerSize, int dataSize,
-                             WTCErrorCode code, const QString &cause,
-                             HeadReaction reaction = HeadReaction::ReadAnnounced) {
-        QTest::newRow(name) << fault << Bus::Sound << reaction << headerSize << dataSize << code << cause;
-    };
-    const auto noExchange = [&](const char *name, Bus bus, const QString &cause) {
-        QTest::newRow(name) << sound << bus << HeadReaction::ReadAnnounced << -1 << -1 << WTCErrorCode::Unreachable
-                            << cause;
-    };
-
-    exchange("header and data", sound, 16, 40, none, {});
-    exchange("announced length 0", withData(0), 16, -1, none, {});
-    exchange("no data wanted", withData(0), 16, -1, none, {}, HeadReaction::ReadNone);
-    exchange("stopped by the head callback", sound, 16, -1, none, {}, HeadReaction::Stop);
-    exchange("the head callback throws", sound, 16, -1, WTCErrorCode::TransferFailed,
-             u"the head callback threw an exception"_s, HeadReaction::Throw);
-    exchange("zero-length packets", changed(sound, [](auto &fault) { fault.slices = {0, 0, 9, 0, 30, 0}; }), 16, 40,
-             none, {});
-
+    const QByteArray some = data(40);
     const QString timedOut = u"timed out after 6000 ms"_s;
-    exchange("time-out while writing", changed(sound, [](auto &fault) { fault.acceptOnly = 30; }), -1, -1,
-             WTCErrorCode::TimedOut, timedOut);
-    exchange("silence", changed(sound, [](auto &fault) { fault.silent = true; }), -1, -1, WTCErrorCode::TimedOut,
-             timedOut);
-    exchange("time-out in the header", changed(sound, [](auto &fault) { fault.cutAt = 7; }), 7, -1,
-             WTCErrorCode::TimedOut, timedOut);
-    exchange("time-out in the data", changed(sound, [](auto &fault) { fault.cutAt = 30; }), 16, -1,
-             WTCErrorCode::TimedOut, timedOut);
-
-    exchange("unplugged while writing", changed(sound, [](auto &fault) { fault.unplugOut = 30; }), -1, -1,
-             WTCErrorCode::Unreachable, u"writing to %1: unplugged"_s);
-    exchange("unplugged before the header", changed(sound, [](auto &fault) { fault.unplugIn = 0; }), -1, -1,
-             WTCErrorCode::Unreachable, u"reading from %1: unplugged"_s);
-    exchange("unplugged in the header", changed(sound, [](auto &fault) { fault.unplugIn = 15; }), 15, -1,
-             WTCErrorCode::Unreachable, u"reading from %1: unplugged"_s);
-    exchange("unplugged in the data", changed(sound, [](auto &fault) { fault.unplugIn = 30; }), 16, -1,
-             WTCErrorCode::Unreachable, u"reading from %1: unplugged"_s);
-
-    exchange("stall while writing", changed(sound, [](auto &fault) { fault.stallOut = true; }), -1, -1,
-             WTCErrorCode::TransferFailed, u"writing to %1: stalled"_s);
-    exchange("stall in place of a reply", changed(sound, [](auto &fault) { fault.stallIn = true; }), -1, -1,
-             WTCErrorCode::TransferFailed, u"reading from %1: stalled"_s);
-
-    noExchange("no printer", Bus::Empty, u"no such printer on the USB bus"_s);
-    noExchange("may not be opened", Bus::Denied, u"permission denied on %1: "_s);
-    noExchange("held", Bus::Held, u"claiming interface 0 of %1: held by another program"_s);
-    noExchange("held by a process", Bus::HeldByProcess,
-               u"claiming interface 0 of %1: held by another program (ipp-usb, pid "_s);
+    const QString thrown = u"the head callback threw an exception"_s;
+    const QString leftWriting = u"writing to %1: unplugged"_s;
+    const QString leftReading = u"reading from %1: unplugged"_s;
+    const QString stalledWriting = u"writing to %1: stalled"_s;
+    const QString stalledReading = u"reading from %1: stalled"_s;
+    const QString held = u"claiming interface 0 of %1: held by another program"_s;
+    // Sizes are -1 for what is absent.
+    const Rows<PrinterFault, Bus, HeadReaction, int, int, WTCErrorCode, QString> row{
+        "fault", "bus", "reaction", "headerSize", "dataSize", "code", "cause"};
+    row("header and data", {.data = some}, Sound, ReadAnnounced, 16, 40, noError, {});
+    row("announced length 0", {.data = data(0)}, Sound, ReadAnnounced, 16, -1, noError, {});
+    row("no data wanted", {.data = data(0)}, Sound, ReadNone, 16, -1, noError, {});
+    row("stopped by the head callback", {.data = some}, Sound, Stop, 16, -1, noError, {});
+    row("the head callback throws", {.data = some}, Sound, Throw, 16, -1, TransferFailed, thrown);
+    row("zero-length packets", {.data = some, .slices = {0, 9, 0, 30, 0}}, Sound, ReadAnnounced, 16, 40, noError, {});
+    row("time-out while writing", {.acceptOnly = 30}, Sound, ReadAnnounced, -1, -1, TimedOut, timedOut);
+    row("silence", {.silent = true}, Sound, ReadAnnounced, -1, -1, TimedOut, timedOut);
+    row("time-out in the header", {.data = some, .cutAt = 7}, Sound, ReadAnnounced, 7, -1, TimedOut, timedOut);
+    row("time-out in the data", {.data = some, .cutAt = 30}, Sound, ReadAnnounced, 16, -1, TimedOut, timedOut);
+    row("unplugged while writing", {.unplugOut = 30}, Sound, ReadAnnounced, -1, -1, Unreachable, leftWriting);
+    row("unplugged before the header", {.unplugIn = 0}, Sound, ReadAnnounced, -1, -1, Unreachable, leftReading);
+    row("unplugged in the header", {.unplugIn = 15}, Sound, ReadAnnounced, 15, -1, Unreachable, leftReading);
+    row("unplugged in the data", {.data = some, .unplugIn = 30}, Sound, ReadAnnounced, 16, -1, Unreachable,
+        leftReading);
+    row("stall while writing", {.stallOut = true}, Sound, ReadAnnounced, -1, -1, TransferFailed, stalledWriting);
+    row("stall in place of a reply", {.stallIn = true}, Sound, ReadAnnounced, -1, -1, TransferFailed, stalledReading);
+    row("no printer", {}, Empty, ReadAnnounced, -1, -1, Unreachable, u"no such printer on the USB bus"_s);
+    row("may not be opened", {}, Denied, ReadAnnounced, -1, -1, Unreachable, u"permission denied on %1: "_s);
+    row("held", {}, Held, ReadAnnounced, -1, -1, Unreachable, held);
+    row("held by a process", {}, HeldByProcess, ReadAnnounced, -1, -1, Unreachable, held + u" (ipp-usb, pid "_s);
 }
 
 void SendTests::everySendEndsOnce()
@@ -172,18 +141,18 @@ void SendTests::everySendEndsOnce()
     LibraryBench bench({fault});
     const QString node = bench.bed.nodePath();
     switch (bus) {
-    case Bus::Sound:
+    case Sound:
         break;
-    case Bus::Empty:
+    case Empty:
         bench.bed.unplug();
         break;
-    case Bus::Denied:
+    case Denied:
         bench.bed.deny();
         break;
-    case Bus::Held:
+    case Held:
         bench.bed.hold();
         break;
-    case Bus::HeldByProcess:
+    case HeldByProcess:
         bench.bed.holdByProcess();
         break;
     }
@@ -193,7 +162,7 @@ void SendTests::everySendEndsOnce()
     QVERIFY(!record.onMainThread);
     QCOMPARE(record.header ? record.header->size() : -1, headerSize);
     QCOMPARE(record.data ? record.data->size() : -1, dataSize);
-    QCOMPARE(record.error ? static_cast<WTCErrorCode>(record.error->code) : WTCErrorCode{}, code);
+    QCOMPARE(record.error ? static_cast<WTCErrorCode>(record.error->code) : noError, code);
     if (record.error) {
         QCOMPARE(record.error->domain, QString(wtcErrorDomain));
         const QString message = printerURI + u": "_s + (cause.contains(u'%') ? cause.arg(node) : cause);
@@ -205,28 +174,18 @@ void SendTests::everySendEndsOnce()
 void SendTests::aThrowingDataCallbackHarmsNothing()
 {
     LibraryBench bench;
-    const auto record =
-        bench.finish(RecordedSend(printerURI, commandFrame(wakeUp), timeout, HeadReaction::ReadAnnounced, true));
+    const auto record = bench.finish(RecordedSend(printerURI, frame, timeout, ReadAnnounced, true));
     QCOMPARE(record.calls, QStringList({u"head"_s, u"data"_s}));
     QVERIFY(!bench.send().error);
 }
 
 void SendTests::theDeadlineCoversTheWholeExchange_data()
 {
-    QTest::addColumn<PrinterFault>("fault");
-    QTest::newRow("slow to take the frame, then silent") << changed(withData(8), [](PrinterFault &fault) {
-        fault.acceptDelay = 4s;
-        fault.silent = true;
-    });
-    QTest::newRow("header in time, data too late") << changed(withData(8), [](PrinterFault &fault) {
-        fault.delay = 4s;
-        fault.slices = {16};
-        fault.sliceDelay = 4s;
-    });
-    QTest::newRow("a byte a second") << changed(withData(8), [](PrinterFault &fault) {
-        fault.slices = std::vector<qsizetype>(24, 1);
-        fault.sliceDelay = 1s;
-    });
+    const std::vector<qsizetype> single(24, 1);
+    const Rows<PrinterFault> row{"fault"};
+    row("slow to take the frame, then silent", {.acceptDelay = 4s, .silent = true});
+    row("header in time, data too late", {.data = data(8), .delay = 4s, .slices = {16}, .sliceDelay = 4s});
+    row("a byte a second", {.data = data(8), .slices = single, .sliceDelay = 1s});
 }
 
 void SendTests::theDeadlineCoversTheWholeExchange()
@@ -235,7 +194,7 @@ void SendTests::theDeadlineCoversTheWholeExchange()
     LibraryBench bench({fault});
     const auto start = bench.time.now();
     const auto record = bench.send();
-    QCOMPARE(record.error->code, static_cast<int>(WTCErrorCode::TimedOut));
+    QCOMPARE(record.error->code, static_cast<int>(TimedOut));
     QCOMPARE(bench.time.now() - start, TimePort::Duration(timeout));
 }
 
@@ -244,7 +203,7 @@ void SendTests::aDeadlineThatPassesWhileOpeningSendsNothing()
     LibraryBench bench;
     bench.bed.hold();
     const auto release = bench.time.after(700ms, [&] { bench.bed.release(); });
-    const auto record = bench.finish(RecordedSend(printerURI, commandFrame(wakeUp), 500));
+    const auto record = bench.finish(RecordedSend(printerURI, frame, 500));
     QVERIFY(record.error);
     QCOMPARE(record.error->message, printerURI + u": timed out after 500 ms"_s);
     QCOMPARE(bench.bed.record().count(wakeUp), 0);
@@ -252,18 +211,13 @@ void SendTests::aDeadlineThatPassesWhileOpeningSendsNothing()
 
 void SendTests::aLateReplyIsNotTheNextOnes_data()
 {
-    QTest::addColumn<PrinterFault>("fault");
-    QTest::addColumn<HeadReaction>("reaction");
-    const auto read = HeadReaction::ReadAnnounced;
-    QTest::newRow("it came after the time-out")
-        << changed(withData(3000), [](PrinterFault &fault) { fault.delay = 7s; }) << read;
-    QTest::newRow("its data was not wanted") << withData(3000) << HeadReaction::Stop;
-    QTest::newRow("less was wanted than was announced") << withData(3000) << HeadReaction::ReadNone;
-    QTest::newRow("the head callback threw") << withData(3000) << HeadReaction::Throw;
-    QTest::newRow("its data came too late") << changed(withData(3000), [](PrinterFault &fault) {
-        fault.slices = {16};
-        fault.sliceDelay = 6500ms;
-    }) << read;
+    const QByteArray much = data(3000);
+    const Rows<PrinterFault, HeadReaction> row{"fault", "reaction"};
+    row("it came after the time-out", {.data = much, .delay = 7s}, ReadAnnounced);
+    row("its data was not wanted", {.data = much}, Stop);
+    row("less was wanted than was announced", {.data = much}, ReadNone);
+    row("the head callback threw", {.data = much}, Throw);
+    row("its data came too late", {.data = much, .slices = {16}, .sliceDelay = 6500ms}, ReadAnnounced);
 }
 
 void SendTests::aLateReplyIsNotTheNextOnes()
@@ -271,27 +225,25 @@ void SendTests::aLateReplyIsNotTheNextOnes()
     QFETCH(PrinterFault, fault);
     QFETCH(HeadReaction, reaction);
     fault.occurrence = 1;
-    PrinterFault second = withData(5);
-    second.occurrence = 2;
-    LibraryBench bench({fault, second});
+    LibraryBench bench({fault, {.occurrence = 2, .data = data(5)}});
     bench.send(reaction);
     // Whatever the printer still had to say of the first command has arrived by now.
     bench.time.advance(10s);
     const auto record = bench.send();
     QVERIFY(!record.error);
-    QCOMPARE(record.data, QByteArray(5, 'd'));
+    QCOMPARE(record.data, data(5));
 }
 
 void SendTests::sendsToOnePrinterTakeTurns()
 {
-    LibraryBench bench({changed(withData(4), [](PrinterFault &fault) { fault.delay = 2s; })});
+    LibraryBench bench(Faults{{.data = data(4), .delay = 2s}});
     const auto start = bench.time.now();
-    const RecordedSend first(printerURI, commandFrame(wakeUp), timeout);
-    const RecordedSend second(printerURI, commandFrame(wakeUp), timeout);
+    const RecordedSend first(printerURI, frame, timeout);
+    const RecordedSend second(printerURI, frame, timeout);
     for (const RecordedSend *send : {&first, &second}) {
         const auto record = bench.finish(*send);
         QVERIFY(!record.error);
-        QCOMPARE(record.data, QByteArray(4, 'd'));
+        QCOMPARE(record.data, data(4));
     }
     QCOMPARE(bench.time.now() - start, TimePort::Duration(4s));
     QVERIFY(bench.bed.record().allSound());
@@ -299,11 +251,11 @@ void SendTests::sendsToOnePrinterTakeTurns()
 
 void SendTests::waitingForATurnIsBounded()
 {
-    LibraryBench bench({changed(withData(4), [](PrinterFault &fault) { fault.silent = true; })});
-    const RecordedSend first(printerURI, commandFrame(wakeUp), 60000);
+    LibraryBench bench(Faults{{.silent = true}});
+    const RecordedSend first(printerURI, frame, 60000);
     bench.runUntil([&] { return bench.bed.record().count(wakeUp) == 1; });
     const auto start = bench.time.now();
-    const RecordedSend second(printerURI, commandFrame(wakeUp), 1000);
+    const RecordedSend second(printerURI, frame, 1000);
     QCOMPARE(bench.finish(second).error->message, printerURI + u": timed out after 1000 ms"_s);
     QCOMPARE(bench.time.now() - start, TimePort::Duration(1s));
     QVERIFY(!first.hasEnded());
@@ -334,7 +286,7 @@ void SendTests::aNameGivenBeforeTheDeviceIDWasKnownStays()
     QVERIFY(name != printerURI);
     bench.bed.release();
     QCOMPARE(deviceFromUsb(list().at(0)).URI, printerURI);
-    const auto record = bench.finish(RecordedSend(name, commandFrame(wakeUp), timeout));
+    const auto record = bench.finish(RecordedSend(name, frame, timeout));
     QVERIFY2(!record.error, qPrintable(record.error.value_or(WTError()).message));
 }
 
@@ -343,7 +295,7 @@ void SendTests::theDriverIsBackWhenTheDataCallbackRuns()
     LibraryBench bench;
     std::promise<QString> driver;
     auto seen = driver.get_future();
-    WTCUSBPrinter::IOKit_sendACLWithURI(printerURI, commandFrame(wakeUp), kACLHeadSize, timeout, {},
+    WTCUSBPrinter::IOKit_sendACLWithURI(printerURI, frame, kACLHeadSize, timeout, {},
                                         [&](const auto &, const auto &) { driver.set_value(bench.bed.boundDriver()); });
     QVERIFY(bench.runUntil([&] { return seen.wait_for(0s) == std::future_status::ready; }));
     QCOMPARE(seen.get(), u"usblp"_s);
@@ -356,11 +308,11 @@ void SendTests::theLogTellsCountsAndNoBytes()
     // What is encoded looks like a placeholder.
     const QString absentURI = u"usb://Quillmark/QZ100%2B?serial=QM0001"_s;
     {
-        LibraryBench bench({withData(40)}, path);
+        LibraryBench bench(Faults{{.data = data(40)}}, path);
         const QByteArray secret = "correct horse battery";
-        bench.finish(RecordedSend(printerURI, commandFrame(wakeUp) + secret, timeout));
+        bench.finish(RecordedSend(printerURI, frame + secret, timeout));
         bench.bed.unplug();
-        bench.finish(RecordedSend(absentURI, commandFrame(wakeUp), timeout));
+        bench.finish(RecordedSend(absentURI, frame, timeout));
     }
     WTCServer::sharedWithDelegate(nullptr, 255, {}, {}, {});
     QFile file(path);
