@@ -1,9 +1,9 @@
 #include "FakeHost.h"
 #include "LogCollector.h"
+#include "Rows.h"
 #include "WTApp.h"
 #include "WTWiFi.h"
 
-#include <QTest>
 #include <limits>
 
 using namespace Qt::Literals::StringLiterals;
@@ -16,11 +16,8 @@ private Q_SLOTS:
     void initTestCase();
     void init();
 
-    void ratesSignals_data();
     void ratesSignals();
-    void numbersSecurityModes_data();
     void numbersSecurityModes();
-    void labelsSecurity_data();
     void labelsSecurity();
     void refreshes_data();
     void refreshes();
@@ -52,90 +49,51 @@ void HostStateTest::init()
     m_hostWiFi.askedSecrets.clear();
 }
 
-void HostStateTest::ratesSignals_data()
-{
-    QTest::addColumn<qint64>("rssi");
-    QTest::addColumn<qint64>("quality");
-
-    const auto row = [](qint64 rssi, qint64 quality) { QTest::addRow("%lld", rssi) << rssi << quality; };
-    row(std::numeric_limits<qint64>::min(), 0);
-    row(-100, 0);
-    row(-99, 2);
-    row(-75, 50);
-    row(-51, 98);
-    row(-50, 100);
-    row(0, 100);
-}
-
 void HostStateTest::ratesSignals()
 {
-    QFETCH(qint64, rssi);
-    QTEST(WTApp::_qualityStringWithRSSI(rssi), "quality");
-}
-
-void HostStateTest::numbersSecurityModes_data()
-{
-    QTest::addColumn<qint64>("mode");
-    QTest::addColumn<qint64>("number");
-
-    const auto row = [](qint64 mode, qint64 number) { QTest::addRow("%lld", mode) << mode << number; };
-    row(0, 0);
-    row(1, 1);
-    for (qint64 mode = 2; mode <= 13; ++mode)
-        row(mode, mode == 6 ? 1 : 2);
-    row(14, 6);
-    row(-1, 6);
-    row(std::numeric_limits<qint64>::max(), 6);
+    QCOMPARE(WTApp::_qualityStringWithRSSI(std::numeric_limits<qint64>::min()), 0);
+    QCOMPARE(WTApp::_qualityStringWithRSSI(-100), 0);
+    QCOMPARE(WTApp::_qualityStringWithRSSI(-99), 2);
+    QCOMPARE(WTApp::_qualityStringWithRSSI(-51), 98);
+    QCOMPARE(WTApp::_qualityStringWithRSSI(-50), 100);
+    QCOMPARE(WTApp::_qualityStringWithRSSI(0), 100);
 }
 
 void HostStateTest::numbersSecurityModes()
 {
-    QFETCH(qint64, mode);
-    QTEST(WTApp::intNumberForSecurityMode(quint64(mode)), "number");
-}
-
-void HostStateTest::labelsSecurity_data()
-{
-    QTest::addColumn<qint64>("security");
-    QTest::addColumn<std::optional<QString>>("label");
-
-    const auto row = [](qint64 security, const std::optional<QString> &label) {
-        QTest::addRow("%lld", security) << security << label;
-    };
-    row(-1, std::nullopt);
-    row(0, u"Other"_s);
-    row(3, u"WPA-Personal"_s);
-    row(9, u"WPA2/WPA3-Personal"_s);
-    row(13, u"OWE"_s);
-    row(14, std::nullopt);
+    const QList<qint64> numbers{0, 1, 2, 2, 2, 2, 1, 2, 2, 2, 2, 2, 2, 2, 6};
+    for (qsizetype mode = 0; mode < numbers.size(); ++mode)
+        QCOMPARE(WTApp::intNumberForSecurityMode(quint64(mode)), numbers.at(mode));
+    QCOMPARE(WTApp::intNumberForSecurityMode(~quint64{0}), 6);
 }
 
 void HostStateTest::labelsSecurity()
 {
-    QFETCH(qint64, security);
     WTWiFi wifi;
-    wifi.security = security;
     wifi.setAuthModeLabel(u"something else"_s);
-    QTEST(wifi.authModeLabel(), "label");
+    const auto label = [&](qint64 security) {
+        wifi.security = security;
+        return wifi.authModeLabel();
+    };
+    QCOMPARE(label(-1), std::nullopt);
+    QCOMPARE(label(0), u"Other"_s);
+    QCOMPARE(label(9), u"WPA2/WPA3-Personal"_s);
+    QCOMPARE(label(13), u"OWE"_s);
+    QCOMPARE(label(14), std::nullopt);
 }
 
 void HostStateTest::refreshes_data()
 {
-    QTest::addColumn<bool>("poweredOn");
-    QTest::addColumn<std::optional<QString>>("ssid");
-    QTest::addColumn<QStringList>("lines");
-
-    const auto row = [](const char *name, bool poweredOn, const std::optional<QString> &ssid, const char *power,
-                        const char *shown, const char *connected) {
-        QTest::newRow(name) << poweredOn << ssid
-                            << QStringList{u"info: powerOnWifi:"_s + QString::fromUtf8(power),
-                                           u"info: selectedSSID:"_s + QString::fromUtf8(shown),
-                                           u"info: isMacWiFiConnected:"_s + QString::fromUtf8(connected)};
+    const auto lines = [](const char *power, const char *shown, const char *connected) {
+        return QStringList{u"info: powerOnWifi:"_s + QString::fromUtf8(power),
+                           u"info: selectedSSID:"_s + QString::fromUtf8(shown),
+                           u"info: isMacWiFiConnected:"_s + QString::fromUtf8(connected)};
     };
-    row("joined", true, u"Quill House"_s, "✅", "Quill House", "✅");
-    row("not joined", true, std::nullopt, "✅", "(null)", "❌");
-    row("an empty name", true, u""_s, "✅", "", "❌");
-    row("radio off", false, u"Quill House"_s, "❌", "Quill House", "❌");
+    const Rows<bool, std::optional<QString>, QStringList> row{"poweredOn", "ssid", "lines"};
+    row("joined", true, u"Quill House"_s, lines("✅", "Quill House", "✅"));
+    row("not joined", true, std::nullopt, lines("✅", "(null)", "❌"));
+    row("an empty name", true, u""_s, lines("✅", "", "❌"));
+    row("radio off", false, u"Quill House"_s, lines("❌", "Quill House", "❌"));
 }
 
 void HostStateTest::refreshes()
@@ -184,20 +142,13 @@ void HostStateTest::leavesAllAloneWithoutInterface()
 
 void HostStateTest::fetchesThePassword_data()
 {
-    QTest::addColumn<qint64>("security");
-    QTest::addColumn<SecretStatus>("status");
-    QTest::addColumn<QString>("password");
-    QTest::addColumn<QStringList>("lines");
-
     const QString mark = u"info: 🏷"_s;
-    QTest::newRow("open") << qint64{0} << SecretStatus::Success << u"before"_s << QStringList{};
-    QTest::newRow("stored") << qint64{4} << SecretStatus::Success << u"secret of Quill House"_s << QStringList{mark};
-    QTest::newRow("not permitted") << qint64{4} << SecretStatus::PermissionDenied << u""_s
-                                   << QStringList{mark, u"info: 鉴权失败，请检查密码"_s};
-    QTest::newRow("cancelled") << qint64{4} << SecretStatus::PromptCancelled << u""_s
-                               << QStringList{mark, u"info: 用户取消了鉴权"_s};
-    QTest::newRow("not stored") << qint64{4} << SecretStatus::NotStored << u""_s
-                                << QStringList{mark, u"info: 获取密码失败，错误代码: -25300"_s};
+    const Rows<qint64, SecretStatus, QString, QStringList> row{"security", "status", "password", "lines"};
+    row("open", 0, SecretStatus::Success, u"before"_s, {});
+    row("stored", 4, SecretStatus::Success, u"secret of Quill House"_s, {mark});
+    row("not permitted", 4, SecretStatus::PermissionDenied, {}, {mark, u"info: 鉴权失败，请检查密码"_s});
+    row("cancelled", 4, SecretStatus::PromptCancelled, {}, {mark, u"info: 用户取消了鉴权"_s});
+    row("not stored", 4, SecretStatus::NotStored, {}, {mark, u"info: 获取密码失败，错误代码: -25300"_s});
 }
 
 void HostStateTest::fetchesThePassword()

@@ -4,6 +4,7 @@
 #include "InfoList.h"
 #include "Localized.h"
 #include "LogCollector.h"
+#include "Rows.h"
 #include "WTApp.h"
 
 #include <QDir>
@@ -11,7 +12,6 @@
 #include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QTest>
 #include <cstdio>
 
 using namespace Qt::Literals::StringLiterals;
@@ -62,24 +62,21 @@ private Q_SLOTS:
     void setsTheLanguage();
 
 private:
-    void makeFolder(const QString &language);
-
     QTemporaryDir m_folder;
     FakeHostWiFi m_hostWiFi;
     FakeDesktop m_desktop;
-    QString m_ownResources;
 };
 
 void LanguageTest::initTestCase()
 {
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_folder.filePath(u"config"_s)));
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.filePath(u"config"_s));
-    m_ownResources = QStringLiteral(WT_RESOURCES);
     WTApp::usePorts(m_hostWiFi, m_desktop, {});
 
     for (const QString &language : {u"en"_s, u"zh-Hans"_s, u"zh-Hant"_s, u"ja"_s})
-        makeFolder(language);
-    QVERIFY(QFile::copy(m_ownResources + u"/en.lproj/wifitool.qm"_s, m_folder.filePath(u"res/en.lproj/wifitool.qm"_s)));
+        QVERIFY(QDir().mkpath(m_folder.filePath(u"res/%1.lproj"_s.arg(language))));
+    QVERIFY(QFile::copy(QStringLiteral(WT_RESOURCES "/en.lproj/wifitool.qm"),
+                        m_folder.filePath(u"res/en.lproj/wifitool.qm"_s)));
     QVERIFY(QFile(m_folder.filePath(u"res/catalogue.json"_s)).open(QIODevice::WriteOnly));
 }
 
@@ -90,19 +87,9 @@ void LanguageTest::init()
     BundleEx::showLanguage(std::nullopt);
 }
 
-void LanguageTest::makeFolder(const QString &language)
-{
-    QVERIFY(QDir().mkpath(m_folder.filePath(u"res/%1.lproj"_s.arg(language))));
-}
-
 void LanguageTest::readsPreferredLanguages_data()
 {
-    QTest::addColumn<Environment>("environment");
-    QTest::addColumn<QStringList>("languages");
-
-    const auto row = [](const char *name, const Environment &environment, const QStringList &languages) {
-        QTest::newRow(name) << environment << languages;
-    };
+    const Rows<Environment, QStringList> row{"environment", "languages"};
     row("nothing", {}, {});
     row("the C locale", {{u"LANG"_s, u"C.UTF-8"_s}, {u"LC_ALL"_s, u"POSIX"_s}}, {});
     row("script in front of territory alone", {{u"LANG"_s, u"zh_SG.UTF-8"_s}}, {u"zh-Hans-SG"_s, u"zh-SG"_s});
@@ -124,54 +111,41 @@ void LanguageTest::readsPreferredLanguages()
 
 void LanguageTest::decidesByTheLocale_data()
 {
-    QTest::addColumn<Environment>("environment");
-    QTest::addColumn<QStringList>("stored");
-    QTest::addColumn<QString>("decided");
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("cancel");
-    QTest::addColumn<QString>("lastLine");
+    const auto told = [](const QString &decided) { return u"info: App Language:"_s + decided; };
+    const QString english = u"en"_s;
+    const QString simplified = u"zh-Hans"_s;
+    const QString traditional = u"zh-Hant"_s;
+    const QString otherLine = u"info: OS Language:fr, App Lang:en"_s;
+    const Rows<QString, QStringList, QString, QString, QString> row{"locale", "stored", "decided", "cancel",
+                                                                    "lastLine"};
+    row("English", u"en_GB.UTF-8"_s, {}, english, u"Cancel"_s, told(english));
+    row("the C locale", u"C"_s, {}, english, u"Cancel"_s, u"error: Error LanguageCode"_s);
+    row("mainland", u"zh_CN.UTF-8"_s, {}, simplified, u"取消"_s, told(simplified));
+    row("Singapore", u"zh_SG.UTF-8"_s, {}, simplified, u"取消"_s, told(simplified));
+    row("Hong Kong", u"zh_HK.UTF-8"_s, {}, traditional, u"取消"_s, told(traditional));
+    row("a folder without texts", u"ja_JP.UTF-8"_s, {}, u"ja"_s, u"取消"_s, told(u"ja"_s));
+    row("no folder", u"fr_FR.UTF-8"_s, {}, english, u"Cancel"_s, otherLine);
+    row("an entry that is no language", u"ca_ES.UTF-8"_s, {}, u"ca"_s, u"Cancel"_s, told(u"ca"_s));
 
-    const auto row = [](const char *name, const Environment &environment, const QString &decided,
-                        const QString &language, const QString &cancel, const QString &lastLine) {
-        QTest::newRow(name) << environment << QStringList() << decided << language << cancel << lastLine;
-    };
-    const auto lang = [](const QString &locale) { return Environment{{u"LANG"_s, locale}}; };
-    row("English", lang(u"en_GB.UTF-8"_s), u"en"_s, u"en"_s, u"Cancel"_s, u"info: App Language:en"_s);
-    row("the C locale", lang(u"C"_s), u"en"_s, u"en"_s, u"Cancel"_s, u"error: Error LanguageCode"_s);
-    row("mainland", lang(u"zh_CN.UTF-8"_s), u"zh-Hans"_s, u"zh-Hans"_s, u"取消"_s, u"info: App Language:zh-Hans"_s);
-    row("Singapore", lang(u"zh_SG.UTF-8"_s), u"zh-Hans"_s, u"zh-Hans"_s, u"取消"_s, u"info: App Language:zh-Hans"_s);
-    row("Taiwan", lang(u"zh_TW.UTF-8"_s), u"zh-Hant"_s, u"zh-Hant"_s, u"取消"_s, u"info: App Language:zh-Hant"_s);
-    row("Hong Kong", lang(u"zh_HK.UTF-8"_s), u"zh-Hant"_s, u"zh-Hant"_s, u"取消"_s, u"info: App Language:zh-Hant"_s);
-    row("a folder without texts", lang(u"ja_JP.UTF-8"_s), u"ja"_s, u"ja"_s, u"取消"_s, u"info: App Language:ja"_s);
-    row("no folder", lang(u"fr_FR.UTF-8"_s), u"en"_s, u"en"_s, u"Cancel"_s, u"info: OS Language:fr, App Lang:en"_s);
-    row("an entry that is no language", lang(u"ca_ES.UTF-8"_s), u"ca"_s, u"ca"_s, u"Cancel"_s,
-        u"info: App Language:ca"_s);
-
-    const auto storedRow = [&](const char *name, const QStringList &stored, const QString &decided,
-                               const QString &cancel) {
-        QTest::newRow(name) << lang(u"zh_CN.UTF-8"_s) << stored << decided << decided << cancel
-                            << u"info: App Language:%1"_s.arg(decided);
-    };
-    storedRow("the user's list: Hant", {u"en"_s, u"zh-Hant-TW"_s, u"zh-CN"_s}, u"zh-Hant"_s, u"取消"_s);
-    storedRow("the user's list: CN", {u"zh-CN"_s}, u"zh-Hans"_s, u"取消"_s);
-    storedRow("the user's list: HK", {u"zh-HK"_s}, u"zh-Hant"_s, u"取消"_s);
-    storedRow("the user's list: no Chinese", {u"en"_s, u"ja"_s}, u"en"_s, u"Cancel"_s);
+    const QString locale = u"zh_CN.UTF-8"_s;
+    row("the user's list: Hant", locale, {u"en"_s, u"zh-Hant-TW"_s, u"zh-CN"_s}, traditional, u"取消"_s,
+        told(traditional));
+    row("the user's list: CN", locale, {u"zh-CN"_s}, simplified, u"取消"_s, told(simplified));
+    row("the user's list: HK", locale, {u"zh-HK"_s}, traditional, u"取消"_s, told(traditional));
+    row("the user's list: no Chinese", locale, {u"en"_s, u"ja"_s}, english, u"Cancel"_s, told(english));
 }
 
 void LanguageTest::decidesByTheLocale()
 {
-    QFETCH(Environment, environment);
+    QFETCH(QString, locale);
     QFETCH(QStringList, stored);
     if (!stored.isEmpty())
         QSettings(u"wifitool"_s, u"wifitool"_s).setValue(u"AppleLanguages", stored);
 
     QProcessEnvironment process = QProcessEnvironment::systemEnvironment();
-    for (const QString &variable : {u"LANGUAGE"_s, u"LC_ALL"_s, u"LC_MESSAGES"_s, u"LANG"_s}) {
-        if (environment.contains(variable))
-            process.insert(variable, environment.value(variable));
-        else
-            process.remove(variable);
-    }
+    for (const QString &variable : {u"LANGUAGE"_s, u"LC_ALL"_s, u"LC_MESSAGES"_s})
+        process.remove(variable);
+    process.insert(u"LANG"_s, locale);
     QProcess probe;
     probe.setProcessEnvironment(process);
     probe.start(QCoreApplication::applicationFilePath(), {probeArgument, m_folder.filePath(u"res"_s)});
@@ -179,22 +153,18 @@ void LanguageTest::decidesByTheLocale()
     const QStringList told = QString::fromUtf8(probe.readAllStandardOutput()).trimmed().split(u'\n');
     QVERIFY2(told.size() > 3, probe.readAllStandardError().constData());
     QTEST(told[0], "decided");
-    QTEST(told[1], "language");
+    QTEST(told[1], "decided");
     QTEST(told[2], "cancel");
     QTEST(told.last(), "lastLine");
 }
 
 void LanguageTest::reordersPreferredLanguages_data()
 {
-    QTest::addColumn<QString>("code");
-    QTest::addColumn<QStringList>("languages");
-
-    const QStringList before{u"en"_s, u"zh-Hans-CN"_s, u"zh-Hant-TW"_s};
-    QTest::newRow("the beginning of an entry") << u"zh"_s << QStringList{u"zh-Hans-CN"_s, u"en"_s, u"zh-Hant-TW"_s};
-    QTest::newRow("an entry") << u"zh-Hant-TW"_s << QStringList{u"zh-Hant-TW"_s, u"en"_s, u"zh-Hans-CN"_s};
-    QTest::newRow("the first entry") << u"en"_s << before;
-    QTest::newRow("unknown") << u"ja"_s << QStringList{u"ja"_s} + before;
-    QTest::newRow("empty") << u""_s << before;
+    const Rows<QString, QStringList> row{"code", "languages"};
+    row("the beginning of an entry", u"zh"_s, {u"zh-Hans-CN"_s, u"en"_s, u"zh-Hant-TW"_s});
+    row("an entry", u"zh-Hant-TW"_s, {u"zh-Hant-TW"_s, u"en"_s, u"zh-Hans-CN"_s});
+    row("unknown", u"ja"_s, {u"ja"_s, u"en"_s, u"zh-Hans-CN"_s, u"zh-Hant-TW"_s});
+    row("empty", {}, {u"en"_s, u"zh-Hans-CN"_s, u"zh-Hant-TW"_s});
 }
 
 void LanguageTest::reordersPreferredLanguages()

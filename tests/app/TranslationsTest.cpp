@@ -77,9 +77,14 @@ QStringList placeholders(const QString &text)
     return found;
 }
 
-bool isChinese(const QString &language)
+/// The languages and their tables.
+QMap<QString, Table> tables()
 {
-    return language == u"zh-Hans"_s;
+    QMap<QString, Table> found;
+    for (const QString &folder : QDir(QStringLiteral(WT_TABLES)).entryList({u"*.lproj"_s}, QDir::Dirs))
+        found.insert(folder.section(u'.', 0, 0),
+                     readTable(u"%1/%2/wifitool.ts"_s.arg(QStringLiteral(WT_TABLES), folder)));
+    return found;
 }
 
 } // namespace
@@ -89,71 +94,37 @@ class TranslationsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void hasEveryKey_data();
-    void hasEveryKey();
-    void keepsPlaceholders_data();
-    void keepsPlaceholders();
+    void haveEveryKey();
+    void keepPlaceholders();
 
 private:
-    void addLanguages();
-    Table table(const QString &language) const;
-
-    QMap<QString, QString> m_keys;
+    const QMap<QString, Table> m_tables = tables();
 };
 
-void TranslationsTest::initTestCase()
+void TranslationsTest::haveEveryKey()
 {
-    m_keys = keysInSources();
-    QVERIFY(m_keys.contains(u"是否退出Wi-Fi配置工具?"_s));
-}
-
-void TranslationsTest::addLanguages()
-{
-    QTest::addColumn<QString>("language");
-    for (const QString &folder : QDir(QStringLiteral(WT_TABLES)).entryList({u"*.lproj"_s}, QDir::Dirs)) {
-        const QString language = folder.section(u'.', 0, 0);
-        QTest::newRow(qPrintable(language)) << language;
-    }
-}
-
-Table TranslationsTest::table(const QString &language) const
-{
-    return readTable(QStringLiteral(WT_TABLES "/%1.lproj/wifitool.ts").arg(language));
-}
-
-void TranslationsTest::hasEveryKey_data()
-{
-    addLanguages();
-}
-
-void TranslationsTest::hasEveryKey()
-{
-    QFETCH(QString, language);
     static const QRegularExpression chinese(u"\\p{Han}"_s);
-    const Table texts = table(language);
+    const QMap<QString, QString> keys = keysInSources();
+    QVERIFY(keys.contains(u"是否退出Wi-Fi配置工具?"_s) && m_tables.contains(u"en"_s));
     QStringList missing;
-    for (auto key = m_keys.cbegin(); key != m_keys.cend(); ++key) {
-        const bool speaksForItself = isChinese(language) && key.key().contains(chinese);
-        if (!speaksForItself && texts.value(key.key()).isEmpty())
-            missing << u"%1: %2"_s.arg(key.value(), key.key());
+    for (const auto &[language, table] : m_tables.asKeyValueRange()) {
+        for (auto key = keys.cbegin(); key != keys.cend(); ++key) {
+            const bool speaksForItself = language == u"zh-Hans"_s && key.key().contains(chinese);
+            if (!speaksForItself && table.value(key.key()).isEmpty())
+                missing << u"%1, %2: %3"_s.arg(language, key.value(), key.key());
+        }
     }
     QVERIFY2(missing.isEmpty(), qPrintable(u'\n' + missing.join(u'\n')));
 }
 
-void TranslationsTest::keepsPlaceholders_data()
+void TranslationsTest::keepPlaceholders()
 {
-    addLanguages();
-}
-
-void TranslationsTest::keepsPlaceholders()
-{
-    QFETCH(QString, language);
-    const Table texts = table(language);
     QStringList broken;
-    for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
-        if (placeholders(text.key()) != placeholders(text.value()))
-            broken << u"%1 -> %2"_s.arg(text.key(), text.value());
+    for (const auto &[language, table] : m_tables.asKeyValueRange()) {
+        for (auto text = table.cbegin(); text != table.cend(); ++text) {
+            if (placeholders(text.key()) != placeholders(text.value()))
+                broken << u"%1: %2 -> %3"_s.arg(language, text.key(), text.value());
+        }
     }
     QVERIFY2(broken.isEmpty(), qPrintable(u'\n' + broken.join(u'\n')));
 }

@@ -1,8 +1,8 @@
+#include "Rows.h"
 #include "WTUITestService.h"
 
 #include <QCoreApplication>
 #include <QJsonObject>
-#include <QTest>
 #include <stdexcept>
 
 using namespace Qt::Literals::StringLiterals;
@@ -42,30 +42,21 @@ class UITestServiceTest : public QObject
 private Q_SLOTS:
     void readsArguments_data();
     void readsArguments();
-    void parsesData_data();
     void parsesData();
-    void refusesWhatIsNoJson_data();
-    void refusesWhatIsNoJson();
     void readsSwitches();
 };
 
 void UITestServiceTest::readsArguments_data()
 {
-    QTest::addColumn<Arguments>("arguments");
-    QTest::addColumn<bool>("uiTest");
-    QTest::addColumn<bool>("printing");
-    QTest::addColumn<Text>("appended");
-    QTest::addColumn<Text>("appendedToNothing");
-
-    const Text empty = u""_s;
-    QTest::newRow("none") << Arguments{} << false << false << empty << empty;
-    QTest::newRow("without UITest") << Arguments{"printing", "passwordError"} << false << false << empty << empty;
-    QTest::newRow("not a whole argument") << Arguments{"UITests"} << false << false << empty << empty;
-    QTest::newRow("UITest") << Arguments{"UITest"} << true << false << Text(uR"(lp password "5550123")"_s) << Text();
-    QTest::newRow("printing") << Arguments{"printing", "UITest"} << true << true << Text(uR"(lp password "5550123")"_s)
-                              << Text();
-    QTest::newRow("wrong password") << Arguments{"UITest", "passwordError"} << true << false
-                                    << Text(uR"(lp password "24682468")"_s) << Text();
+    const Text right = uR"(lp password "5550123")"_s;
+    const Text wrong = uR"(lp password "24682468")"_s;
+    const Rows<Arguments, bool, bool, Text, Text> row{"arguments", "uiTest", "printing", "appended",
+                                                      "appendedToNothing"};
+    row("without UITest", {"printing", "passwordError"}, false, false, u""_s, u""_s);
+    row("not a whole argument", {"UITests"}, false, false, u""_s, u""_s);
+    row("UITest", {"UITest"}, true, false, right, {});
+    row("printing", {"printing", "UITest"}, true, true, right, {});
+    row("wrong password", {"UITest", "passwordError"}, true, false, wrong, {});
 }
 
 void UITestServiceTest::readsArguments()
@@ -78,43 +69,16 @@ void UITestServiceTest::readsArguments()
     QTEST(WTUITestService::addPassWord(std::nullopt), "appendedToNothing");
 }
 
-void UITestServiceTest::parsesData_data()
-{
-    QTest::addColumn<std::optional<QByteArray>>("value");
-    QTest::addColumn<QJsonArray>("data");
-
-    QTest::newRow("absent") << std::optional<QByteArray>() << QJsonArray{};
-    QTest::newRow("two objects") << std::optional<QByteArray>(R"({"name":"a"};{"name":"b"})")
-                                 << QJsonArray{QJsonObject{{u"name"_s, u"a"_s}}, QJsonObject{{u"name"_s, u"b"_s}}};
-    // Braces around a single array mean a copy to one compiler and an array of arrays to the other.
-    QJsonArray array;
-    array.append(QJsonArray{1});
-    QTest::newRow("an array") << std::optional<QByteArray>("[1]") << array;
-}
-
 void UITestServiceTest::parsesData()
 {
-    QFETCH(std::optional<QByteArray>, value);
-    if (value)
-        qputenv("USBPrinterInfo", *value);
-    else
-        qunsetenv("USBPrinterInfo");
-    QTEST(WTUITestService::environmentDataForUSB(), "data");
-}
-
-void UITestServiceTest::refusesWhatIsNoJson_data()
-{
-    QTest::addColumn<QByteArray>("value");
-    QTest::newRow("empty") << QByteArray("");
-    QTest::newRow("no JSON") << QByteArray("{}; name");
-    QTest::newRow("a last separator") << QByteArray("{};");
-}
-
-void UITestServiceTest::refusesWhatIsNoJson()
-{
-    QFETCH(QByteArray, value);
-    qputenv("NETPrinterInfo", value);
-    QVERIFY_THROWS_EXCEPTION(std::invalid_argument, WTUITestService::environmentDataForNet());
+    qunsetenv("USBPrinterInfo");
+    QCOMPARE(WTUITestService::environmentDataForUSB(), QJsonArray());
+    qputenv("USBPrinterInfo", R"({"name":"a"};[1])");
+    QCOMPARE(WTUITestService::environmentDataForUSB(), QJsonArray({QJsonObject{{u"name"_s, u"a"_s}}, QJsonArray{1}}));
+    for (const char *value : {"", "{}; name", "{};"}) {
+        qputenv("NETPrinterInfo", value);
+        QVERIFY_THROWS_EXCEPTION(std::invalid_argument, WTUITestService::environmentDataForNet());
+    }
 }
 
 void UITestServiceTest::readsSwitches()
@@ -135,7 +99,6 @@ void UITestServiceTest::readsSwitches()
     };
     for (std::size_t index = 0; index < switches.size(); ++index) {
         const auto &[variable, isOn] = switches[index];
-        QVERIFY2(!isOn(), variable);
         qputenv(variable, "yes");
         QVERIFY2(!isOn(), variable);
         qputenv(variable, "YES");
