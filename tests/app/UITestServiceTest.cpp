@@ -83,10 +83,7 @@ void UITestServiceTest::parsesData()
 
 void UITestServiceTest::readsSwitches()
 {
-    struct Switch {
-        const char *variable;
-        bool (*isOn)();
-    };
+    using Switch = std::pair<const char *, bool (*)()>;
     const std::array switches{
         Switch{"wifiConfig", WTUITestService::testWiFiConfig},
         Switch{"wifiConfigFailure", WTUITestService::testWiFiConfigFailure},

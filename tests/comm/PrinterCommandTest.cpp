@@ -7,13 +7,8 @@
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
 
-namespace
-{
-
 /// What keeps the program from the printer before the operation begins.
-enum class Obstacle { None, Held, Denied, Absent };
-
-} // namespace
+using Obstacle = std::function<void(UsbfsBed &)>;
 
 /// The printer commands through the real library and real libusb, against the emulated printer.
 class PrinterCommandTest : public QObject
@@ -43,7 +38,10 @@ void PrinterCommandTest::initTestCase()
 
 void PrinterCommandTest::answersWhateverThePrinterDoes_data()
 {
-    constexpr auto free = Obstacle::None;
+    const Obstacle none = [](UsbfsBed &) {};
+    const Obstacle held = [](UsbfsBed &bed) { bed.hold(); };
+    const Obstacle denied = [](UsbfsBed &bed) { bed.deny(); };
+    const Obstacle absent = [](UsbfsBed &bed) { bed.unplug(); };
     const QString awake = u"1, no message"_s;
     const QString failed = u"1, 0x0"_s;
     const QString address = u"0, 192.168.1.77"_s;
@@ -52,18 +50,18 @@ void PrinterCommandTest::answersWhateverThePrinterDoes_data()
     const QStringList lost{awake, failed, u"2, 0x1f"_s, noData, failed};
     const QStringList refused{awake, u"0, 0xfffb"_s, u"1, 0xfffb"_s, address, u"0, 0xfffb"_s};
     const Rows<PrinterFault, Obstacle, QStringList> row{"fault", "obstacle", "answers"};
-    row("sound", {}, free, {awake, u"0, 0x1"_s, u"0, 0x1"_s, address, u"0, 0x0"_s});
-    row("another result", {.result = 0xFFFB}, free, refused);
-    row("wrong echo", {.echo = 0xFF22}, free, unanswered);
-    row("silent", {.silent = true}, free, unanswered);
-    row("short header", {.cutAt = 10}, free, unanswered);
-    row("stalls the frame", {.stallOut = true}, free, unanswered);
-    row("stalls the reply", {.stallIn = true}, free, unanswered);
-    row("unplugged in the frame", {.unplugOut = 30}, free, lost);
-    row("unplugged in the reply", {.unplugIn = 8}, free, lost);
-    row("held by another", {}, Obstacle::Held, lost);
-    row("not permitted", {}, Obstacle::Denied, lost);
-    row("not on the bus", {}, Obstacle::Absent, lost);
+    row("sound", {}, none, {awake, u"0, 0x1"_s, u"0, 0x1"_s, address, u"0, 0x0"_s});
+    row("another result", {.result = 0xFFFB}, none, refused);
+    row("wrong echo", {.echo = 0xFF22}, none, unanswered);
+    row("silent", {.silent = true}, none, unanswered);
+    row("short header", {.cutAt = 10}, none, unanswered);
+    row("stalls the frame", {.stallOut = true}, none, unanswered);
+    row("stalls the reply", {.stallIn = true}, none, unanswered);
+    row("unplugged in the frame", {.unplugOut = 30}, none, lost);
+    row("unplugged in the reply", {.unplugIn = 8}, none, lost);
+    row("held by another", {}, held, lost);
+    row("not permitted", {}, denied, lost);
+    row("not on the bus", {}, absent, lost);
 }
 
 void PrinterCommandTest::answersWhateverThePrinterDoes()
@@ -74,13 +72,7 @@ void PrinterCommandTest::answersWhateverThePrinterDoes()
     for (const Operation operation : {Operation::WakeUp, Operation::Capability, Operation::Configuration,
                                       Operation::Address, Operation::InformationPage}) {
         m_bench.reset(scriptWith(operation, fault));
-        if (obstacle == Obstacle::Held)
-            m_bench.bed.hold();
-        else if (obstacle == Obstacle::Denied)
-            m_bench.bed.deny();
-        else if (obstacle == Obstacle::Absent)
-            m_bench.bed.unplug();
-
+        obstacle(m_bench.bed);
         const LogCollector log;
         const auto answer = m_bench.perform(operation);
         answers << answer->text();

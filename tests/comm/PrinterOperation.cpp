@@ -7,40 +7,26 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-void Answer::give(const QString &text)
-{
-    const std::lock_guard lock{m_mutex};
-    ++m_calls;
-    m_text = text;
-    m_thread = QThread::currentThread();
-}
-
 void Answer::give(int status, const QString &text)
 {
-    give(u"%1, %2"_s.arg(status).arg(text));
-}
-
-void Answer::give(int status, quint16 result)
-{
-    give(status, u"0x%1"_s.arg(result, 0, 16));
+    m_given.change([&](Given &given) {
+        given = {given.calls + 1, u"%1, %2"_s.arg(status).arg(text), QThread::currentThread()};
+    });
 }
 
 int Answer::calls() const
 {
-    const std::lock_guard lock{m_mutex};
-    return m_calls;
+    return m_given.read([](const Given &given) { return given.calls; });
 }
 
 QString Answer::text() const
 {
-    const std::lock_guard lock{m_mutex};
-    return m_text;
+    return m_given.read([](const Given &given) { return given.text; });
 }
 
 bool Answer::wasGivenOn(const QThread *thread) const
 {
-    const std::lock_guard lock{m_mutex};
-    return m_thread == thread;
+    return m_given.read([&](const Given &given) { return given.thread == thread; });
 }
 
 bool tellsSecret(const QStringList &lines)

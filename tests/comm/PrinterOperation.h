@@ -1,12 +1,12 @@
 #pragma once
 
 #include "EmulatedCommand.h"
+#include "Locked.h"
 #include "PrinterScript.h"
 
 #include <QString>
 #include <QStringList>
 #include <memory>
-#include <mutex>
 
 class QThread;
 
@@ -23,19 +23,20 @@ enum class Operation : quint16 {
 class Answer
 {
 public:
-    void give(const QString &text);
     void give(int status, const QString &text);
-    void give(int status, quint16 result);
+    void give(int status, quint16 result) { give(status, QStringLiteral("0x%1").arg(result, 0, 16)); }
 
     int calls() const;
     QString text() const;
     bool wasGivenOn(const QThread *thread) const;
 
 private:
-    mutable std::mutex m_mutex;
-    int m_calls = 0;
-    QString m_text;
-    QThread *m_thread = nullptr;
+    struct Given {
+        int calls = 0;
+        QString text;
+        QThread *thread = nullptr;
+    };
+    Locked<Given> m_given;
 };
 
 /// What the configurations of these tests tell the printer.

@@ -16,7 +16,6 @@ private Q_SLOTS:
     void checksAReplyHeader_data();
     void checksAReplyHeader();
     void needsNoCallbackForAMatchingHeader();
-    void judgesAFinishedConfiguration_data();
     void judgesAFinishedConfiguration();
     void acceptsOnlyWholeHeadersOfTheCommand();
 };
@@ -64,30 +63,16 @@ void ReplyCheckTest::needsNoCallbackForAMatchingHeader()
                                        u"info: recv_cmd:0xFF21 result:0x0"_s}));
 }
 
-void ReplyCheckTest::judgesAFinishedConfiguration_data()
-{
-    using Status = WTPrinterStatus;
-    const Rows<bool, int, int, Status, quint16> row{"hasData", "errorCode", "result", "status", "given"};
-    row("joined", false, 0, 1, Status::Success, 1);
-    row("refused", false, 0, 7, Status::NoHeader, 7);
-    row("no matching header", false, 0, 0, Status::NoHeader, 0);
-    row("unreachable", false, 31, 0, Status::LibraryError31, 31);
-    row("unreachable after it said joined", false, 31, 1, Status::LibraryError31, 31);
-    row("unreachable after it sent data", true, 31, 1, Status::Success, 1);
-    row("timed out after it said joined", false, 32, 1, Status::Success, 1);
-    row("timed out", false, 32, 0, Status::NoHeader, 0);
-}
-
 void ReplyCheckTest::judgesAFinishedConfiguration()
 {
-    QFETCH(bool, hasData);
-    QFETCH(int, errorCode);
-    QFETCH(int, result);
-    QFETCH(WTPrinterStatus, status);
-    QFETCH(quint16, given);
-    const auto error = errorCode ? std::optional{WTError{wtcErrorDomain, errorCode, {}}} : std::nullopt;
-    const ConfigurationOutcome outcome{status, given};
-    QVERIFY(configurationOutcome(hasData, error, static_cast<quint16>(result)) == outcome);
+    using Status = WTPrinterStatus;
+    const WTError unreachable{wtcErrorDomain, 31, {}};
+    const WTError timedOut{wtcErrorDomain, 32, {}};
+    QVERIFY(configurationOutcome(false, {}, 7) == (ConfigurationOutcome{Status::NoHeader, 7}));
+    QVERIFY(configurationOutcome(false, unreachable, 1) == (ConfigurationOutcome{Status::LibraryError31, 31}));
+    QVERIFY(configurationOutcome(true, unreachable, 1) == (ConfigurationOutcome{Status::Success, 1}));
+    QVERIFY(configurationOutcome(false, timedOut, 1) == (ConfigurationOutcome{Status::Success, 1}));
+    QVERIFY(configurationOutcome(false, timedOut, 0) == (ConfigurationOutcome{Status::NoHeader, 0}));
 }
 
 void ReplyCheckTest::acceptsOnlyWholeHeadersOfTheCommand()

@@ -74,12 +74,10 @@ void SerialQueueTest::survivesItsEndOnItself()
 void SerialQueueTest::knowsWhereItRuns()
 {
     SerialQueue queue(u"a label that is longer than a thread's name"_s);
-    QVERIFY(!queue.isCurrent());
-    QVERIFY(!queue.runsOnThread(gettid()));
+    QVERIFY(!queue.isCurrent() && !queue.runsOnThread(gettid()));
     QCOMPARE(SerialQueue::currentLabel(), u"main"_s);
     queue.sync([&] {
-        QVERIFY(queue.isCurrent());
-        QVERIFY(queue.runsOnThread(gettid()));
+        QVERIFY(queue.isCurrent() && queue.runsOnThread(gettid()));
         QCOMPARE(SerialQueue::currentLabel(), queue.label());
     });
     std::thread([] { QCOMPARE(SerialQueue::currentLabel(), QString()); }).join();
@@ -94,14 +92,12 @@ void SerialQueueTest::lendsItselfToAVisitor()
     qint64 thread = 0;
     QTRY_VERIFY((queue.visit([&] { thread = gettid(); }), thread == gettid()));
     queue.visit([&] {
-        QVERIFY(queue.isCurrent());
-        QVERIFY(queue.runsOnThread(gettid()));
+        QVERIFY(queue.isCurrent() && queue.runsOnThread(gettid()));
         QCOMPARE(SerialQueue::currentLabel(), u"visited"_s);
         queue.async([&] { order += u'b'; });
         order += u'a';
     });
-    QVERIFY(!queue.isCurrent());
-    QVERIFY(!queue.runsOnThread(gettid()));
+    QVERIFY(!queue.isCurrent() && !queue.runsOnThread(gettid()));
 
     // With work ahead of it, a visitor waits for its turn.
     queue.async([&] {

@@ -67,8 +67,8 @@ QByteArray data(int size)
     return QByteArray(size, 'd');
 }
 
-enum class Bus { Sound, Empty, Denied, Held, HeldByProcess };
-using enum Bus;
+/// What happens on the bus before the send.
+using Event = std::function<void(UsbfsBed &)>;
 
 } // namespace
 
@@ -103,36 +103,40 @@ void SendTests::everySendEndsOnce_data()
     const QString stalledWriting = u"writing to %1: stalled"_s;
     const QString stalledReading = u"reading from %1: stalled"_s;
     const QString held = u"claiming interface 0 of %1: held by another program"_s;
+    const Event none = [](UsbfsBed &) {};
+    const Event unplug = [](UsbfsBed &bed) { bed.unplug(); };
+    const Event deny = [](UsbfsBed &bed) { bed.deny(); };
+    const Event hold = [](UsbfsBed &bed) { bed.hold(); };
+    const Event holdByProcess = [](UsbfsBed &bed) { bed.holdByProcess(); };
     // Sizes are -1 for what is absent.
-    const Rows<PrinterFault, Bus, HeadReaction, int, int, WTCErrorCode, QString> row{
-        "fault", "bus", "reaction", "headerSize", "dataSize", "code", "cause"};
-    row("header and data", {.data = some}, Sound, ReadAnnounced, 16, 40, noError, {});
-    row("announced length 0", {.data = data(0)}, Sound, ReadAnnounced, 16, -1, noError, {});
-    row("no data wanted", {.data = data(0)}, Sound, ReadNone, 16, -1, noError, {});
-    row("stopped by the head callback", {.data = some}, Sound, Stop, 16, -1, noError, {});
-    row("the head callback throws", {.data = some}, Sound, Throw, 16, -1, TransferFailed, thrown);
-    row("zero-length packets", {.data = some, .slices = {0, 9, 0, 30, 0}}, Sound, ReadAnnounced, 16, 40, noError, {});
-    row("time-out while writing", {.acceptOnly = 30}, Sound, ReadAnnounced, -1, -1, TimedOut, timedOut);
-    row("silence", {.silent = true}, Sound, ReadAnnounced, -1, -1, TimedOut, timedOut);
-    row("time-out in the header", {.data = some, .cutAt = 7}, Sound, ReadAnnounced, 7, -1, TimedOut, timedOut);
-    row("time-out in the data", {.data = some, .cutAt = 30}, Sound, ReadAnnounced, 16, -1, TimedOut, timedOut);
-    row("unplugged while writing", {.unplugOut = 30}, Sound, ReadAnnounced, -1, -1, Unreachable, leftWriting);
-    row("unplugged before the header", {.unplugIn = 0}, Sound, ReadAnnounced, -1, -1, Unreachable, leftReading);
-    row("unplugged in the header", {.unplugIn = 15}, Sound, ReadAnnounced, 15, -1, Unreachable, leftReading);
-    row("unplugged in the data", {.data = some, .unplugIn = 30}, Sound, ReadAnnounced, 16, -1, Unreachable,
-        leftReading);
-    row("stall while writing", {.stallOut = true}, Sound, ReadAnnounced, -1, -1, TransferFailed, stalledWriting);
-    row("stall in place of a reply", {.stallIn = true}, Sound, ReadAnnounced, -1, -1, TransferFailed, stalledReading);
-    row("no printer", {}, Empty, ReadAnnounced, -1, -1, Unreachable, u"no such printer on the USB bus"_s);
-    row("may not be opened", {}, Denied, ReadAnnounced, -1, -1, Unreachable, u"permission denied on %1: "_s);
-    row("held", {}, Held, ReadAnnounced, -1, -1, Unreachable, held);
-    row("held by a process", {}, HeldByProcess, ReadAnnounced, -1, -1, Unreachable, held + u" (ipp-usb, pid "_s);
+    const Rows<PrinterFault, Event, HeadReaction, int, int, WTCErrorCode, QString> row{
+        "fault", "event", "reaction", "headerSize", "dataSize", "code", "cause"};
+    row("header and data", {.data = some}, none, ReadAnnounced, 16, 40, noError, {});
+    row("announced length 0", {.data = data(0)}, none, ReadAnnounced, 16, -1, noError, {});
+    row("no data wanted", {.data = data(0)}, none, ReadNone, 16, -1, noError, {});
+    row("stopped by the head callback", {.data = some}, none, Stop, 16, -1, noError, {});
+    row("the head callback throws", {.data = some}, none, Throw, 16, -1, TransferFailed, thrown);
+    row("zero-length packets", {.data = some, .slices = {0, 9, 0, 30, 0}}, none, ReadAnnounced, 16, 40, noError, {});
+    row("time-out while writing", {.acceptOnly = 30}, none, ReadAnnounced, -1, -1, TimedOut, timedOut);
+    row("silence", {.silent = true}, none, ReadAnnounced, -1, -1, TimedOut, timedOut);
+    row("time-out in the header", {.data = some, .cutAt = 7}, none, ReadAnnounced, 7, -1, TimedOut, timedOut);
+    row("time-out in the data", {.data = some, .cutAt = 30}, none, ReadAnnounced, 16, -1, TimedOut, timedOut);
+    row("unplugged while writing", {.unplugOut = 30}, none, ReadAnnounced, -1, -1, Unreachable, leftWriting);
+    row("unplugged before the header", {.unplugIn = 0}, none, ReadAnnounced, -1, -1, Unreachable, leftReading);
+    row("unplugged in the header", {.unplugIn = 15}, none, ReadAnnounced, 15, -1, Unreachable, leftReading);
+    row("unplugged in the data", {.data = some, .unplugIn = 30}, none, ReadAnnounced, 16, -1, Unreachable, leftReading);
+    row("stall while writing", {.stallOut = true}, none, ReadAnnounced, -1, -1, TransferFailed, stalledWriting);
+    row("stall in place of a reply", {.stallIn = true}, none, ReadAnnounced, -1, -1, TransferFailed, stalledReading);
+    row("no printer", {}, unplug, ReadAnnounced, -1, -1, Unreachable, u"no such printer on the USB bus"_s);
+    row("may not be opened", {}, deny, ReadAnnounced, -1, -1, Unreachable, u"permission denied on %1: "_s);
+    row("held", {}, hold, ReadAnnounced, -1, -1, Unreachable, held);
+    row("held by a process", {}, holdByProcess, ReadAnnounced, -1, -1, Unreachable, held + u" (ipp-usb, pid "_s);
 }
 
 void SendTests::everySendEndsOnce()
 {
     QFETCH(PrinterFault, fault);
-    QFETCH(Bus, bus);
+    QFETCH(Event, event);
     QFETCH(HeadReaction, reaction);
     QFETCH(int, headerSize);
     QFETCH(int, dataSize);
@@ -140,22 +144,7 @@ void SendTests::everySendEndsOnce()
     QFETCH(QString, cause);
     LibraryBench bench({fault});
     const QString node = bench.bed.nodePath();
-    switch (bus) {
-    case Sound:
-        break;
-    case Empty:
-        bench.bed.unplug();
-        break;
-    case Denied:
-        bench.bed.deny();
-        break;
-    case Held:
-        bench.bed.hold();
-        break;
-    case HeldByProcess:
-        bench.bed.holdByProcess();
-        break;
-    }
+    event(bench.bed);
 
     const RecordedSend::Record record = bench.send(reaction);
     QCOMPARE(record.calls, QStringList({u"head"_s, u"data"_s}));
