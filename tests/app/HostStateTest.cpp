@@ -30,6 +30,7 @@ private Q_SLOTS:
 private:
     FakeHostWiFi m_hostWiFi;
     FakeDesktop m_desktop;
+    WTApp &m_app = WTApp::shared();
 };
 
 void HostStateTest::initTestCase()
@@ -47,6 +48,7 @@ void HostStateTest::init()
                       .security = 4};
     m_hostWiFi.secretStatus = SecretStatus::Success;
     m_hostWiFi.askedSecrets.clear();
+    m_app.checkPcNetState();
 }
 
 void HostStateTest::ratesSignals()
@@ -103,41 +105,38 @@ void HostStateTest::refreshes()
     QFETCH(QStringList, lines);
     m_hostWiFi.now.poweredOn = poweredOn;
     m_hostWiFi.now.ssid = ssid;
-    WTApp &app = WTApp::shared();
-    app.selectedPassword = u"of an earlier network"_s;
+    m_app.selectedPassword = u"of an earlier network"_s;
 
     const LogCollector log;
-    app.checkPcNetState();
+    m_app.checkPcNetState();
     QCOMPARE(log.lines(), lines);
-    QCOMPARE(app.currentInterface->interfaceName, u"wlan0"_s);
-    QCOMPARE(app.powerOnWifi, poweredOn);
-    QCOMPARE(app.selectedSSID, ssid);
-    QCOMPARE(app.isMacWiFiConnected, lines.last().endsWith(u"✅"_s));
-    QCOMPARE(app.channelWifi, 2);
-    QCOMPARE(app.selectedRssi, 80);
-    QCOMPARE(app.secureWifi, 4);
-    QCOMPARE(app.selectedAuthMode, 4);
-    QCOMPARE(app.selectedPassword, u"of an earlier network"_s);
+    QCOMPARE(m_app.currentInterface->interfaceName, u"wlan0"_s);
+    QCOMPARE(m_app.powerOnWifi, poweredOn);
+    QCOMPARE(m_app.selectedSSID, ssid);
+    QCOMPARE(m_app.isMacWiFiConnected, lines.last().endsWith(u"✅"_s));
+    QCOMPARE(m_app.channelWifi, 2);
+    QCOMPARE(m_app.selectedRssi, 80);
+    QCOMPARE(m_app.secureWifi, 4);
+    QCOMPARE(m_app.selectedAuthMode, 4);
+    QCOMPARE(m_app.selectedPassword, u"of an earlier network"_s);
 }
 
 void HostStateTest::leavesAllAloneWithoutInterface()
 {
-    WTApp &app = WTApp::shared();
-    app.checkPcNetState();
     m_hostWiFi.now = {};
 
     const LogCollector log;
     WTApp::usePorts(m_hostWiFi, m_desktop, {.hasDefaultInterface = false});
-    app.checkPcNetState();
+    m_app.checkPcNetState();
     QCOMPARE(log.lines(), QStringList());
-    QVERIFY(app.powerOnWifi);
+    QVERIFY(m_app.powerOnWifi);
 
     WTApp::usePorts(m_hostWiFi, m_desktop, {});
-    app.checkPcNetState();
-    QVERIFY(!app.currentInterface);
-    QVERIFY(!app.powerOnWifi);
-    QVERIFY(!app.selectedSSID);
-    QCOMPARE(app.selectedRssi, 100);
+    m_app.checkPcNetState();
+    QVERIFY(!m_app.currentInterface);
+    QVERIFY(!m_app.powerOnWifi);
+    QVERIFY(!m_app.selectedSSID);
+    QCOMPARE(m_app.selectedRssi, 100);
 }
 
 void HostStateTest::fetchesThePassword_data()
@@ -159,49 +158,44 @@ void HostStateTest::fetchesThePassword()
     QFETCH(SecretStatus, status);
     m_hostWiFi.now.security = security;
     m_hostWiFi.secretStatus = status;
-    WTApp &app = WTApp::shared();
-    app.checkPcNetState();
-    app.selectedPassword = u"before"_s;
+    m_app.checkPcNetState();
+    m_app.selectedPassword = u"before"_s;
 
     const LogCollector log;
-    app.fetchWIFIPWD();
-    QCOMPARE(app.selectedPassword, u"before"_s);
-    QTRY_COMPARE(app.selectedPassword, password);
+    m_app.fetchWIFIPWD();
+    QCOMPARE(m_app.selectedPassword, u"before"_s);
+    QTRY_COMPARE(m_app.selectedPassword, password);
     QCOMPARE(log.lines(), lines);
     QCOMPARE(m_hostWiFi.askedSecrets.isEmpty(), security == 0);
 }
 
 void HostStateTest::readsTheSelectedNetworksPassword()
 {
-    WTApp &app = WTApp::shared();
-    app.checkPcNetState();
     QStringList answers;
     const auto keep = [&](const QString &password) { answers << password; };
 
-    app.pwdBySSID(std::nullopt, keep);
+    m_app.pwdBySSID(std::nullopt, keep);
     QCOMPARE(answers, QStringList{u""_s});
 
-    app.pwdBySSID(u"Another"_s, keep);
+    m_app.pwdBySSID(u"Another"_s, keep);
     QCOMPARE(answers.size(), 1);
-    app.selectedSSID = u"Chosen since"_s;
+    m_app.selectedSSID = u"Chosen since"_s;
     QTRY_COMPARE(answers.size(), 2);
     QCOMPARE(answers.last(), u"secret of Chosen since"_s);
 }
 
 void HostStateTest::showsNoPasswordOfAnotherNetwork()
 {
-    WTApp &app = WTApp::shared();
-    app.checkPcNetState();
-    app.fetchWIFIPWD();
-    QTRY_COMPARE(app.selectedPassword, u"secret of Quill House"_s);
-    app.fetchWIFIPWD();
-    QCOMPARE(app.selectedPassword, u"secret of Quill House"_s);
+    m_app.fetchWIFIPWD();
+    QTRY_COMPARE(m_app.selectedPassword, u"secret of Quill House"_s);
+    m_app.fetchWIFIPWD();
+    QCOMPARE(m_app.selectedPassword, u"secret of Quill House"_s);
 
     m_hostWiFi.now.ssid = u"Next Door"_s;
-    app.checkPcNetState();
-    app.fetchWIFIPWD();
-    QCOMPARE(app.selectedPassword, std::nullopt);
-    QTRY_COMPARE(app.selectedPassword, u"secret of Next Door"_s);
+    m_app.checkPcNetState();
+    m_app.fetchWIFIPWD();
+    QCOMPARE(m_app.selectedPassword, std::nullopt);
+    QTRY_COMPARE(m_app.selectedPassword, u"secret of Next Door"_s);
 }
 
 QTEST_GUILESS_MAIN(HostStateTest)

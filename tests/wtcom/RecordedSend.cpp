@@ -22,31 +22,27 @@ RecordedSend::RecordedSend(const QString &URI, const QByteArray &frame, int time
 {
     WTCUSBPrinter::IOKit_sendACLWithURI(
         URI, frame, kACLHeadSize, timeout,
-        [state = m_state, reaction](const std::optional<QByteArray> &header, quint32 *dataLength, bool *stop) {
-            const std::lock_guard lock(state->mutex);
-            state->record.calls += u"head"_s;
-            state->record.header = header;
-            state->record.onMainThread |= isOnMainThread();
+        [kept = m_record, reaction](const std::optional<QByteArray> &header, quint32 *dataLength, bool *stop) {
+            kept->change([&](Record &record) {
+                record.calls += u"head"_s;
+                record.header = header;
+                record.onMainThread |= isOnMainThread();
+            });
             if (reaction == HeadReaction::Throw)
                 throw std::runtime_error("head");
             *stop = reaction == HeadReaction::Stop;
             if (reaction == HeadReaction::ReadAnnounced && header && header->size() == kACLHeadSize)
                 *dataLength = qFromBigEndian<quint16>(header->constData() + 6);
         },
-        [state = m_state, dataCallbackThrows](const std::optional<QByteArray> &data,
+        [kept = m_record, dataCallbackThrows](const std::optional<QByteArray> &data,
                                               const std::optional<WTError> &error) {
-            const std::lock_guard lock(state->mutex);
-            state->record.calls += u"data"_s;
-            state->record.data = data;
-            state->record.error = error;
-            state->record.onMainThread |= isOnMainThread();
+            kept->change([&](Record &record) {
+                record.calls += u"data"_s;
+                record.data = data;
+                record.error = error;
+                record.onMainThread |= isOnMainThread();
+            });
             if (dataCallbackThrows)
                 throw std::runtime_error("data");
         });
-}
-
-RecordedSend::Record RecordedSend::record() const
-{
-    const std::lock_guard lock(m_state->mutex);
-    return m_state->record;
 }

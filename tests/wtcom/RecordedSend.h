@@ -1,10 +1,10 @@
 #pragma once
 
+#include "Locked.h"
 #include "WTCUSBPrinter.h"
 
 #include <QStringList>
 #include <memory>
-#include <mutex>
 
 /// One send and everything its callbacks were told, as it came.
 class RecordedSend
@@ -28,13 +28,12 @@ public:
     RecordedSend(const QString &URI, const QByteArray &frame, int timeout,
                  HeadReaction reaction = HeadReaction::ReadAnnounced, bool dataCallbackThrows = false);
 
-    Record record() const;
+    Record record() const
+    {
+        return m_record->read([](const Record &record) { return record; });
+    }
     bool hasEnded() const { return record().calls.contains(QLatin1String("data")); }
 
 private:
-    struct State {
-        mutable std::mutex mutex;
-        Record record;
-    };
-    const std::shared_ptr<State> m_state = std::make_shared<State>();
+    const std::shared_ptr<Locked<Record>> m_record = std::make_shared<Locked<Record>>();
 };
