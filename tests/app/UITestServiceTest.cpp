@@ -7,33 +7,8 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace
-{
-
-/// The program as if it had been started with these arguments.
-class Launched
-{
-public:
-    explicit Launched(const QList<QByteArray> &arguments)
-        : m_arguments(QList<QByteArray>{"program"} + arguments)
-    {
-        for (QByteArray &argument : m_arguments)
-            m_pointers << argument.data();
-        m_count = int(m_pointers.size());
-        m_application.emplace(m_count, m_pointers.data());
-    }
-
-private:
-    QList<QByteArray> m_arguments;
-    QList<char *> m_pointers;
-    int m_count = 0;
-    std::optional<QCoreApplication> m_application;
-};
-
 using Arguments = QList<QByteArray>;
 using Text = std::optional<QString>;
-
-} // namespace
 
 class UITestServiceTest : public QObject
 {
@@ -62,7 +37,12 @@ void UITestServiceTest::readsArguments_data()
 void UITestServiceTest::readsArguments()
 {
     QFETCH(Arguments, arguments);
-    const Launched program(arguments);
+    arguments.prepend("program");
+    QList<char *> pointers;
+    for (QByteArray &argument : arguments)
+        pointers << argument.data();
+    int count = int(pointers.size());
+    const QCoreApplication program(count, pointers.data());
     QTEST(WTUITestService::startUITest(), "uiTest");
     QTEST(WTUITestService::testPrinting(), "printing");
     QTEST(WTUITestService::addPassWord(u"lp"_s), "appended");
