@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Measures the first window of the release build beside a bare one, and beside Debian's tool for one maker's printers
-# where it is installed, on an X server and with a home of their own.
+# where it is installed, on an X server, a session bus and with a home of their own.
 # usage: tools/bench-startup.sh [turns]
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../build/release/bin"
@@ -14,4 +14,4 @@ if peer=$(command -v hp-wificonfig); then
 else
   echo "hp-wificonfig is not installed (./dev setup bench): measured without it" >&2
 fi
-xvfb-run --auto-servernum --server-args='-screen 0 1280x900x24' ./bench_startup "${1:-20}" "${programs[@]}"
+xvfb-run --auto-servernum --server-args='-screen 0 1280x900x24' dbus-run-session -- ./bench_startup "${1:-20}" "${programs[@]}"
