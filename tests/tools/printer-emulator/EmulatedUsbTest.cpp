@@ -2,7 +2,6 @@
 #include "EmulatedCommand.h"
 #include "SystemTime.h"
 #include "TestFrames.h"
-#include "VirtualTime.h"
 
 #include <QTest>
 #include <future>
@@ -43,29 +42,10 @@ class EmulatedUsbTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void takesItsTime();
     void endsAWaitThatIsCancelled();
-    void forgetsWhatIsDiscarded();
     void reportsEveryChange();
     void standsConcurrentUse();
 };
-
-void EmulatedUsbTest::takesItsTime()
-{
-    VirtualTime time;
-    PrinterScript script;
-    script.joinTime = 2min;
-    script.events = {{BusEvent::Action::Unplug, BusEvent::Cause{EmulatedCommand::Configuration, 1}, 3min}};
-    EmulatedUsb usb(time, PrinterModel({}, script));
-    const auto begin = time.now();
-    auto reply = std::async(std::launch::async, [&] { return exchange(usb, configuration("Office", "secret-1")); });
-    QVERIFY(time.runUntil([&] { return reply.wait_for(0s) == std::future_status::ready; }, {}));
-    QCOMPARE(reply.get(), u"00acff80000100000000000000000000"_s);
-    QCOMPARE(time.now() - begin, TimePort::Instant::duration(2min));
-    QCOMPARE(usb.record().networkName, QByteArray("Office"));
-    time.advance(1min);
-    QVERIFY(usb.devices(vendors).empty());
-}
 
 void EmulatedUsbTest::endsAWaitThatIsCancelled()
 {
@@ -80,21 +60,6 @@ void EmulatedUsbTest::endsAWaitThatIsCancelled()
     QCOMPARE(codeOf(connection.value()->write(shortFrame(0xFF21))), int(UsbErrorCode::Cancelled));
     connection.value().reset();
     QCOMPARE(exchange(usb, shortFrame(0xFF21)).toLatin1(), wakeUpReply.toHex());
-}
-
-void EmulatedUsbTest::forgetsWhatIsDiscarded()
-{
-    SystemTime time;
-    PrinterScript script;
-    script.faults = {{.command = EmulatedCommand::Capability, .data = QByteArray(2000, 'd')}};
-    EmulatedUsb usb(time, PrinterModel({}, script));
-    auto connection = usb.open(usb.devices(vendors).front());
-    QVERIFY(connection);
-    QCOMPARE(codeOf(connection.value()->write(shortFrame(0xFF81))), 0);
-    QCOMPARE(connection.value()->read(512).value().size(), 512);
-    connection.value()->discardInput();
-    QCOMPARE(codeOf(connection.value()->write(shortFrame(0xFF21))), 0);
-    QCOMPARE(connection.value()->read(512).value(), wakeUpReply);
 }
 
 void EmulatedUsbTest::reportsEveryChange()

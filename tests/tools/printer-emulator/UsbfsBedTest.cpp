@@ -7,11 +7,8 @@
 
 #include <QFile>
 #include <QTest>
-#include <fcntl.h>
 #include <future>
 #include <optional>
-#include <sys/stat.h>
-#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace TestFrames;
@@ -55,15 +52,8 @@ private Q_SLOTS:
 
     void showsItself();
     void lendsItsInterface();
-    void hasNoDriverWhereThereIsNone();
-    void isHeldByAnother();
-    void isHeldByAProcess();
-    void forgetsWhoClosedIt();
-    void mayNotBeOpened();
-    void hasAlternateSettings();
     void saysWhatFitsInPackets();
     void takesNothingThatWasCalledBack();
-    void sharesItsBus();
     void livesInThePortsTime();
     void followsItsEvents();
 
@@ -130,89 +120,6 @@ void UsbfsBedTest::lendsItsInterface()
     QCOMPARE(m_bed->record().commands(), std::vector{EmulatedCommand::WakeUp});
 }
 
-void UsbfsBedTest::hasNoDriverWhereThereIsNone()
-{
-    m_bed->setKernelDriver(false);
-    m_bed->replug();
-    LibusbPrinter printer;
-    QCOMPARE(printer.open(), 0);
-    QCOMPARE(libusb_kernel_driver_active(printer.handle(), 0), 0);
-    QCOMPARE(libusb_detach_kernel_driver(printer.handle(), 0), int(LIBUSB_ERROR_NOT_FOUND));
-    QCOMPARE(libusb_claim_interface(printer.handle(), 0), 0);
-    QCOMPARE(libusb_release_interface(printer.handle(), 0), 0);
-    QCOMPARE(libusb_attach_kernel_driver(printer.handle(), 0), int(LIBUSB_ERROR_NOT_FOUND));
-}
-
-void UsbfsBedTest::isHeldByAnother()
-{
-    LibusbPrinter printer;
-    seize(printer);
-    m_bed->hold();
-    QCOMPARE(printer.write(shortFrame(0xFF21)), 0);
-    QCOMPARE(libusb_release_interface(printer.handle(), 0), 0);
-    QCOMPARE(libusb_claim_interface(printer.handle(), 0), int(LIBUSB_ERROR_BUSY));
-    QCOMPARE(m_bed->claims(), 0);
-    m_bed->release();
-    QCOMPARE(m_bed->boundDriver(), u"usblp"_s);
-    QCOMPARE(libusb_claim_interface(printer.handle(), 0), 0);
-}
-
-void UsbfsBedTest::isHeldByAProcess()
-{
-    const QString process = u"/proc/%1/"_s.arg(m_bed->holdByProcess());
-    QCOMPARE(sysfs(process + u"comm"_s), QByteArray("ipp-usb\n"));
-    struct stat node {
-    };
-    struct stat held {
-    };
-    QCOMPARE(::stat(m_bed->nodePath().toUtf8().constData(), &node), 0);
-    QCOMPARE(::stat((process + u"fd/1"_s).toUtf8().constData(), &held), 0);
-    QVERIFY(node.st_dev == held.st_dev && node.st_ino == held.st_ino);
-    LibusbPrinter printer;
-    QCOMPARE(printer.open(), 0);
-    QCOMPARE(libusb_claim_interface(printer.handle(), 0), int(LIBUSB_ERROR_BUSY));
-    m_bed->release();
-    QVERIFY(!QFile::exists(process));
-}
-
-void UsbfsBedTest::forgetsWhoClosedIt()
-{
-    LibusbPrinter printer;
-    seize(printer);
-    printer.close();
-    seize(printer);
-}
-
-void UsbfsBedTest::mayNotBeOpened()
-{
-    m_bed->deny();
-    LibusbPrinter printer;
-    QCOMPARE(printer.open(), int(LIBUSB_ERROR_ACCESS));
-    m_bed->replug();
-    QCOMPARE(printer.open(), int(LIBUSB_ERROR_ACCESS));
-    QCOMPARE(sysfs(m_bed->sysfsPath() + u"/product"_s), QByteArray("Quillmark QZ100\n"));
-    m_bed->permit();
-    seize(printer);
-}
-
-void UsbfsBedTest::hasAlternateSettings()
-{
-    const UsbShape::AlternateSetting unidirectional{.protocol = 1, .bulkIn = false};
-    const int second = m_bed->addPrinter(PrinterModel(), UsbShape{.interfaces = {{unidirectional, {}}}});
-    m_bed->unplug();
-    m_bed->plug(second);
-    LibusbPrinter printer;
-    seize(printer);
-    QByteArray reply;
-    QCOMPARE(printer.write(shortFrame(0xFF21)), 0);
-    QCOMPARE(printer.read(reply), int(LIBUSB_ERROR_IO));
-    QCOMPARE(libusb_set_interface_alt_setting(printer.handle(), 0, 2), int(LIBUSB_ERROR_NOT_FOUND));
-    QCOMPARE(libusb_set_interface_alt_setting(printer.handle(), 0, 1), 0);
-    QCOMPARE(m_bed->alternateSetting(second), 1);
-    QCOMPARE(printer.read(reply), 0);
-    QCOMPARE(reply, wakeUpReply);
-}
-
 void UsbfsBedTest::saysWhatFitsInPackets()
 {
     // With its header, the first reply fills two packets, so that a zero-length one ends it.
@@ -238,24 +145,6 @@ void UsbfsBedTest::takesNothingThatWasCalledBack()
     seize(printer);
     QCOMPARE(printer.write(shortFrame(0xFF21), 30), int(LIBUSB_ERROR_TIMEOUT));
     QVERIFY(m_bed->record().frames.empty());
-}
-
-void UsbfsBedTest::sharesItsBus()
-{
-    const int second = m_bed->addPrinter(PrinterModel({.model = u"QZ200"_s, .serialNumber = u"QM0002"_s}));
-    m_bed->plug(second);
-    LibusbPrinter printer;
-    libusb_context *context = nullptr;
-    QCOMPARE(libusb_init(&context), 0);
-    libusb_device **list = nullptr;
-    QCOMPARE(libusb_get_device_list(context, &list), ssize_t(3)); // With the root hub.
-    libusb_free_device_list(list, 1);
-    libusb_exit(context);
-    QVERIFY(m_bed->nodePath() != m_bed->nodePath(second));
-    QCOMPARE(m_bed->locationID(second), 0x01200000U);
-    m_bed->unplug(second);
-    seize(printer);
-    QCOMPARE(m_bed->boundDriver(second), QString());
 }
 
 void UsbfsBedTest::livesInThePortsTime()
