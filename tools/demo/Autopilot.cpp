@@ -18,6 +18,8 @@ namespace
 {
 
 constexpr auto reactionTime = 5s;
+constexpr int settlingTime =
+    50; ///< Milliseconds. Texts that came with a screen find their room within some turns of the loop.
 
 /// Lets the event loop run until `condition` holds; false when `limit` has passed before.
 template <typename Condition>
@@ -129,6 +131,7 @@ QWidget *Autopilot::visibleWidget(const QString &name) const
 
 void Autopilot::savePicture(QWidget &shown, const QString &name)
 {
+    QTest::qWait(settlingTime);
     const QString file = u"%1-%2.png"_s.arg(++m_pictureCount, 2, 10, QLatin1Char('0')).arg(name);
     if (!shown.grab().save(m_pictures.filePath(file)))
         std::fprintf(stderr, "%s could not be saved\n", qPrintable(m_pictures.filePath(file)));
