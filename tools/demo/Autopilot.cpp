@@ -18,8 +18,8 @@ namespace
 {
 
 constexpr auto reactionTime = 5s;
-constexpr int settlingTime =
-    50; ///< Milliseconds. Texts that came with a screen find their room within some turns of the loop.
+/// Milliseconds. Texts that came with a screen find their room within some turns of the loop.
+constexpr int settlingTime = 50;
 
 /// Lets the event loop run until `condition` holds; false when `limit` has passed before.
 template <typename Condition>
