@@ -38,6 +38,7 @@ class ScreenMapTests : public QObject
 private Q_SLOTS:
     void forwardAndBack_data();
     void forwardAndBack();
+    void doubleClickActsOnce();
     void radioRuleAndItsLogLine_data();
     void radioRuleAndItsLogLine();
     void usbLeadsToTheFirstPrinter();
@@ -92,6 +93,16 @@ void ScreenMapTests::forwardAndBack()
         QCOMPARE(log.lines().filter(u"pre step"_s).last(),
                  u"info: pre step👉🏻"_s + QString::fromLatin1(way.last()));
     }
+}
+
+void ScreenMapTests::doubleClickActsOnce()
+{
+    WizardBed bed;
+    bed.click("selectWPS");
+    const QWidget *next = bed.widget("netxtBtn");
+    const QPoint middle = next->mapTo(&bed.window(), next->rect().center());
+    QTest::mouseDClick(bed.window().windowHandle(), Qt::LeftButton, Qt::NoModifier, middle);
+    QCOMPARE(bed.shown(), "WTSetWPSMethodView");
 }
 
 void ScreenMapTests::radioRuleAndItsLogLine_data()

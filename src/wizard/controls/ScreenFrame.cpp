@@ -96,12 +96,14 @@ void ScreenFrame::setCenteredContent(QWidget *widget)
 void ScreenFrame::setBackButton(QAbstractButton *button)
 {
     m_back = button;
+    button->installEventFilter(this);
     m_bar->insertWidget(0, button);
 }
 
 void ScreenFrame::setMainButton(QAbstractButton *button)
 {
     m_main = button;
+    button->installEventFilter(this);
     if (auto *pushButton = qobject_cast<QPushButton *>(button))
         pushButton->setDefault(true);
     m_bar->addWidget(button);
@@ -116,6 +118,11 @@ void ScreenFrame::showEvent(QShowEvent *)
 {
     if (m_firstFocus && !m_screen->focusWidget())
         m_firstFocus->setFocus();
+}
+
+bool ScreenFrame::eventFilter(QObject *, QEvent *event)
+{
+    return event->type() == QEvent::MouseButtonDblClick;
 }
 
 void ScreenFrame::keyPressEvent(QKeyEvent *event)

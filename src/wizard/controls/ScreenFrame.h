@@ -12,7 +12,8 @@ enum class WizardStep { Connect, Network, SetUp, Done };
 
 /// What every screen has: step marks, heading, instruction, a content area, and the bar with the way back on the left
 /// and the main action on the right. It fills its screen. Enter is the main action unless another
-/// push button has the keyboard, Escape the way back.
+/// push button has the keyboard, Escape the way back. The second press of a double-click does nothing on the two
+/// buttons: the first one may have brought the screen under the pointer.
 ///
 ///     auto *frame = new ScreenFrame(this, WizardStep::Network);
 ///     frame->setHeading(localized(u"..."_s));
@@ -49,6 +50,7 @@ public:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    bool eventFilter(QObject *button, QEvent *event) override;
 
 private:
     /// The push button with the keyboard, else the main action.
