@@ -1,5 +1,6 @@
 #include "ResultPanel.h"
 
+#include "LinkLabel.h"
 #include "LiveLabel.h"
 #include "Localized.h"
 #include "Palette.h"
@@ -36,7 +37,7 @@ ResultPanel::ResultPanel(const QString &markName, QWidget *parent)
     : QWidget(parent)
     , m_message(new LiveLabel({}, TextStyle::Size::Large, Palette::heading))
     , m_advice(TextStyle::makeLabel({}, TextStyle::Size::Body, Palette::label))
-    , m_log(TextStyle::makeLabel({}, TextStyle::Size::Small, Palette::label))
+    , m_log(new LinkLabel)
     , m_texts(new QVBoxLayout)
 {
     m_message->setObjectName(u"message"_s);
@@ -44,6 +45,7 @@ ResultPanel::ResultPanel(const QString &markName, QWidget *parent)
     auto *adviceTitle = TextStyle::makeLabel(localized(u"您可以这样做"_s), TextStyle::Size::Body, Palette::heading);
     adviceTitle->setFont(TextStyle::font(TextStyle::Size::Body, QFont::DemiBold));
     m_log->setObjectName(u"logFolder"_s);
+    TextStyle::apply(*m_log, TextStyle::Size::Small, Palette::label);
     m_log->setTextFormat(Qt::RichText);
     m_log->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     m_log->setOpenExternalLinks(true);
