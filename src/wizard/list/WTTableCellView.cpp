@@ -78,7 +78,7 @@ void WTTableCellView::paint(QPainter *painter, const QStyleOptionViewItem &optio
     painter->setFont(TextStyle::font(TextStyle::Size::Body, chosen ? QFont::DemiBold : QFont::Normal));
     painter->setPen(Palette::heading);
     painter->drawText(
-        upper, Qt::AlignLeft | Qt::AlignVCenter,
+        upper, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
         painter->fontMetrics().elidedText(index.data(NetworkRows::NameRole).toString(), Qt::ElideRight, upper.width()));
     painter->restore();
 }

@@ -67,6 +67,7 @@ void WTWiFiListView::layOut()
     resetFieldFrames();
     m_ssidView->setHelp(localized(u"请从列表中选择，或在此输入名称。"_s));
     m_passwordView->setHelp(localized(u"没有密码的网络请留空。"_s));
+    m_activeView->setWordWrap(false);
     m_activeView->hide();
 
     auto *header = new QHBoxLayout;
