@@ -5,11 +5,11 @@
     <name>wifitool</name>
     <message>
         <source>温馨提示：</source>
-        <translation>Remarque :</translation>
+        <translation>Remarque :</translation>
     </message>
     <message>
         <source>是否退出Wi-Fi配置工具?</source>
-        <translation>Quitter l'outil de configuration Wi-Fi ?</translation>
+        <translation>Quitter l'outil de configuration Wi-Fi ?</translation>
     </message>
     <message>
         <source>确定</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>正在发送网络名称和密码，打印机正在加入网络…</source>
-        <translation>Envoi du nom et du mot de passe ; l'imprimante rejoint le réseau…</translation>
+        <translation>Envoi du nom et du mot de passe ; l'imprimante rejoint le réseau…</translation>
     </message>
     <message>
         <source>正在等待打印机的网络地址（第 %d 次，共 %d 次）…</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>与路由器上显示的名称完全一致，区分大小写。</source>
-        <translation>Exactement comme sur votre routeur ; majuscules et minuscules comptent.</translation>
+        <translation>Exactement comme sur votre routeur ; majuscules et minuscules comptent.</translation>
     </message>
     <message>
         <source>没有密码的网络请留空。</source>
@@ -149,11 +149,11 @@
     </message>
     <message>
         <source>此电脑的无线网络已关闭，无法列出附近的网络。请输入打印机要连接的网络。</source>
-        <translation>Le Wi-Fi de cet ordinateur est désactivé : il ne peut pas lister les réseaux alentour. Saisissez le réseau que l'imprimante doit rejoindre.</translation>
+        <translation>Le Wi-Fi de cet ordinateur est désactivé : il ne peut pas lister les réseaux alentour. Saisissez le réseau que l'imprimante doit rejoindre.</translation>
     </message>
     <message>
         <source>名称太长：最多 32 个字节。</source>
-        <translation>Ce nom est trop long : 32 octets au plus.</translation>
+        <translation>Ce nom est trop long : 32 octets au plus.</translation>
     </message>
     <message>
         <source>打印端口被占用，无法打印无线网络信息页。</source>
@@ -189,7 +189,7 @@
     </message>
     <message>
         <source>第%d步，共%d步：%@</source>
-        <translation>Étape %d sur %d : %@</translation>
+        <translation>Étape %d sur %d : %@</translation>
     </message>
     <message>
         <source>第%d步</source>
@@ -241,11 +241,11 @@
     </message>
     <message>
         <source>从哪里启动WPS？</source>
-        <translation>Où voulez-vous lancer WPS ?</translation>
+        <translation>Où voulez-vous lancer WPS ?</translation>
     </message>
     <message>
         <source>看一看您的打印机：它有显示屏和菜单，还是只有Wi-Fi按钮？</source>
-        <translation>Regardez votre imprimante : a-t-elle un écran avec un menu, ou seulement un bouton Wi-Fi ?</translation>
+        <translation>Regardez votre imprimante : a-t-elle un écran avec un menu, ou seulement un bouton Wi-Fi ?</translation>
     </message>
     <message>
         <source>按钮方式（PBC）</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>路由器没有WPS按钮时，在它的设置页面输入PIN码。</source>
-        <translation>Pour les routeurs sans bouton WPS : vous saisissez le code PIN sur la page de réglages du routeur.</translation>
+        <translation>Pour les routeurs sans bouton WPS : vous saisissez le code PIN sur la page de réglages du routeur.</translation>
     </message>
     <message>
         <source>选择WPS的方式</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>等待最多两分钟。指示灯不再闪烁时，点击“下一步”。</source>
-        <translation>Attendez jusqu'à deux minutes. Quand le voyant ne clignote plus, appuyez sur « Suivant ».</translation>
+        <translation>Attendez jusqu'à deux minutes. Quand le voyant ne clignote plus, appuyez sur « Suivant ».</translation>
     </message>
     <message>
         <source>在打印机菜单中使用按钮方式</source>
@@ -301,7 +301,7 @@
     </message>
     <message>
         <source>等待最多两分钟。显示屏显示结果后，点击“下一步”。</source>
-        <translation>Attendez jusqu'à deux minutes. Quand l'écran affiche le résultat, appuyez sur « Suivant ».</translation>
+        <translation>Attendez jusqu'à deux minutes. Quand l'écran affiche le résultat, appuyez sur « Suivant ».</translation>
     </message>
     <message>
         <source>在打印机菜单中使用PIN码</source>
@@ -309,7 +309,7 @@
     </message>
     <message>
         <source>PIN码几分钟后失效，请先准备好路由器的设置页面。</source>
-        <translation>Le code PIN expire après quelques minutes : ouvrez d'abord la page de réglages du routeur.</translation>
+        <translation>Le code PIN expire après quelques minutes : ouvrez d'abord la page de réglages du routeur.</translation>
     </message>
     <message>
         <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PIN，显示屏会显示一个8位数字。</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>打印机的显示屏显示什么？</source>
-        <translation>Que dit l'écran de l'imprimante ?</translation>
+        <translation>Que dit l'écran de l'imprimante ?</translation>
     </message>
     <message>
         <source>请看打印机的显示屏，选择您看到的结果。</source>
@@ -345,7 +345,7 @@
     </message>
     <message>
         <source>打印机的Wi-Fi指示灯怎么样？</source>
-        <translation>Que fait le voyant Wi-Fi de l'imprimante ?</translation>
+        <translation>Que fait le voyant Wi-Fi de l'imprimante ?</translation>
     </message>
     <message>
         <source>请看打印机的Wi-Fi指示灯，选择您看到的样子。</source>
@@ -369,15 +369,15 @@
     </message>
     <message>
         <source>打开系统的添加打印机窗口</source>
-        <translation>&amp;Ouvrir la fenêtre « ajouter une imprimante » du système</translation>
+        <translation>&amp;Ouvrir la fenêtre « ajouter une imprimante » du système</translation>
     </message>
     <message>
         <source>恭喜，您完成了无线网络配置！</source>
-        <translation>Félicitations, vous avez configuré le réseau sans fil !</translation>
+        <translation>Félicitations, vous avez configuré le réseau sans fil !</translation>
     </message>
     <message>
         <source>现在可以拔掉USB数据线了。要在这台电脑上打印，请把打印机添加到系统：勾选下面的选项，然后点击“完成并退出”。</source>
-        <translation>Vous pouvez débrancher le câble USB. Pour imprimer depuis cet ordinateur, ajoutez l'imprimante au système : cochez la case ci-dessous et appuyez sur « Terminer et quitter ».</translation>
+        <translation>Vous pouvez débrancher le câble USB. Pour imprimer depuis cet ordinateur, ajoutez l'imprimante au système : cochez la case ci-dessous et appuyez sur « Terminer et quitter ».</translation>
     </message>
     <message>
         <source>打印机已连上无线网络</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>打印机配置失败，当前打印机网络未开启，无法进行配网。</source>
-        <translation>La configuration a échoué : le réseau de l'imprimante est désactivé.</translation>
+        <translation>La configuration a échoué : le réseau de l'imprimante est désactivé.</translation>
     </message>
     <message>
         <source>配网失败</source>
@@ -397,15 +397,15 @@
     </message>
     <message>
         <source>打印机配置失败，当前打印机Wi-Fi模块未装配，无法进行配网。</source>
-        <translation>La configuration a échoué : l'imprimante n'a pas de module Wi-Fi.</translation>
+        <translation>La configuration a échoué : l'imprimante n'a pas de module Wi-Fi.</translation>
     </message>
     <message>
         <source>Wi-Fi故障，打印机配置失败。</source>
-        <translation>La configuration a échoué : le Wi-Fi de l'imprimante est en panne.</translation>
+        <translation>La configuration a échoué : le Wi-Fi de l'imprimante est en panne.</translation>
     </message>
     <message>
         <source>打印机配置失败，系统升级过程中，不允许配置网络。</source>
-        <translation>La configuration a échoué : l'imprimante se met à jour et n'accepte pas de configuration réseau pendant ce temps.</translation>
+        <translation>La configuration a échoué : l'imprimante se met à jour et n'accepte pas de configuration réseau pendant ce temps.</translation>
     </message>
     <message>
         <source>请检查打印机是否已开机、数据线是否插好、网络名称和密码是否正确，然后重新打开本工具再试一次。</source>
@@ -433,7 +433,7 @@
     </message>
     <message>
         <source>运行日志：%@</source>
-        <translation>Fichiers journaux : %@</translation>
+        <translation>Fichiers journaux : %@</translation>
     </message>
     <message>
         <source>配置没有成功</source>
