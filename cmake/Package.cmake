@@ -7,8 +7,8 @@ set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "put a USB-connected printer onto a wirele
 set(CPACK_PACKAGE_DESCRIPTION
 "Finds a printer that is plugged in by USB, shows the wireless networks that
 the computer sees with the stored password filled in, sends both to the
-printer, waits until the printer has its address, and opens the desktop's
-panel for adding printers.
+printer, waits until the printer has its address, and opens, if asked to,
+the desktop's panel for adding printers.
 .
 Printers with a WPS button are guided through without a cable.")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
