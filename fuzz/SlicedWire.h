@@ -33,6 +33,7 @@ public:
     {
         return std::unique_ptr<UsbConnection>(std::make_unique<Connection>(*this));
     }
+    std::optional<WTError> obstacle(const UsbDevice &) override { return std::nullopt; }
 
 private:
     class Connection : public UsbConnection

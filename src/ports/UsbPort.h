@@ -10,20 +10,6 @@
 #include <optional>
 #include <vector>
 
-/// Codes of the domain "USB" (`usbErrorDomain`): every failure of the USB stack, after the gate of its library.
-enum class UsbErrorCode : int {
-    NotFound = 1,     ///< No such device, or no printer interface on it.
-    PermissionDenied, ///< The device node may not be opened.
-    Busy,             ///< Another program or driver holds the interface.
-    Unplugged,        ///< The device left the bus.
-    Stalled,          ///< The endpoint answered with a stall; it has been cleared.
-    Cancelled,        ///< `UsbConnection::cancel` was called.
-    Overflow,         ///< The device sent more than was asked for.
-    Failed,           ///< Anything else; the message tells.
-};
-
-inline constexpr QLatin1StringView usbErrorDomain{"USB"};
-
 /// What is known of a device without talking to it. Complete also for a device that may not be opened.
 struct UsbDevice {
     quint16 vendorID = 0;
@@ -82,4 +68,10 @@ public:
     /// Opens the device and claims its printer interface (class 7, subclass 1, protocol 2, else protocol 1), detaching
     /// a kernel driver for as long as the connection lives. A busy interface is tried again a few times first.
     virtual WTResult<std::unique_ptr<UsbConnection>> open(const UsbDevice &device) = 0;
+
+    /// What `open` would fail with now, its cause included; absent when the device is free. Neither claims anything nor
+    /// talks to the device, and does not wait: a device that another program holds for a moment is held. A device that
+    /// this program has open itself is free. Looks through the running processes for the holder's name, so not on the
+    /// main thread.
+    virtual std::optional<WTError> obstacle(const UsbDevice &device) = 0;
 };

@@ -1,15 +1,21 @@
 #pragma once
 
+#include "UsbCause.h"
+
 #include <QString>
+#include <optional>
 #include <utility>
 #include <variant>
 
 /// A failure as a value: which library or room it comes from, its code there, and a message that names what failed, on
-/// what, and why. The message is a diagnostic for the log, in English; it never holds a password.
+/// what, and why. The message is a diagnostic for the log, in English; it never holds a password. Whoever decides by a
+/// failure, or tells a person about it, reads code and cause, not the message.
 struct WTError {
     QString domain; ///< Who numbers the code: "WTCOM", "USB", ...
     int code = 0;   ///< One of the domain's enum.
     QString message;
+    /// What happened on the USB bus; absent for a failure that has nothing to do with it.
+    std::optional<UsbCause> cause{};
 
     bool operator==(const WTError &) const = default;
 };

@@ -1,34 +1,16 @@
 #include "AclExchange.h"
 
+#include "LibraryError.h"
 #include "LibraryLog.h"
 #include "WTCDevice.h"
 
 #include <QtEndian>
-#include <algorithm>
 #include <exception>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-
-/// The bus's reason as the library reports it. A cancelled transfer has a reason of the exchange's own.
-WTCErrorCode codeOf(UsbErrorCode code)
-{
-    switch (code) {
-    case UsbErrorCode::NotFound:
-    case UsbErrorCode::PermissionDenied:
-    case UsbErrorCode::Busy:
-    case UsbErrorCode::Unplugged:
-        return WTCErrorCode::Unreachable;
-    case UsbErrorCode::Stalled:
-    case UsbErrorCode::Cancelled:
-    case UsbErrorCode::Overflow:
-    case UsbErrorCode::Failed:
-        break;
-    }
-    return WTCErrorCode::TransferFailed;
-}
 
 /// How many bytes of data the printer sends behind this header, asked for or not; big-endian.
 quint16 announcedLength(const QByteArray &header)
@@ -37,15 +19,6 @@ quint16 announcedLength(const QByteArray &header)
     if (header.size() < offset + static_cast<qsizetype>(sizeof(quint16)))
         return 0;
     return qFromBigEndian<quint16>(header.constData() + offset);
-}
-
-/// A printer's device ID may have come to be known after the search had named it by its texts.
-bool isNamed(UsbDevice device, const QString &URI)
-{
-    if (deviceFromUsb(device).URI == URI)
-        return true;
-    device.ieee1284DeviceID.clear();
-    return deviceFromUsb(device).URI == URI;
 }
 
 } // namespace
@@ -102,18 +75,20 @@ void AclExchange::run()
     makeDataCallback();
 }
 
-void AclExchange::refuse(const QString &cause)
+void AclExchange::refuse(const QString &why)
 {
-    fail(WTCErrorCode::TransferFailed, cause);
+    fail(WTCErrorCode::TransferFailed, why);
     m_environment.log.write(LibraryLog::Error, m_reply.error->message);
     makeDataCallback();
 }
 
 void AclExchange::exchange()
 {
-    const auto device = find();
-    if (!device)
-        return fail(WTCErrorCode::Unreachable, u"no such printer on the USB bus"_s);
+    const auto device = deviceNamed(m_request.URI, m_environment.usb.devices(m_environment.vendorIDs));
+    if (!device) {
+        m_reply.error = noSuchPrinter(m_request.URI);
+        return;
+    }
     const auto turn = m_environment.turns.wait(device->locationID, [this] { return brokenOff() != BreakOff::None; });
     if (!turn)
         return failBrokenOff();
@@ -122,16 +97,6 @@ void AclExchange::exchange()
         return failOnBus(connection.error());
     const BreakOffReach reach(*this, *connection.value());
     converse(*connection.value(), *turn);
-}
-
-std::optional<UsbDevice> AclExchange::find() const
-{
-    const auto devices = m_environment.usb.devices(m_environment.vendorIDs);
-    const auto found =
-        std::ranges::find_if(devices, [this](const UsbDevice &device) { return isNamed(device, m_request.URI); });
-    if (found == devices.end())
-        return std::nullopt;
-    return *found;
 }
 
 void AclExchange::converse(UsbConnection &connection, DeviceTurns::Turn &turn)
@@ -228,22 +193,22 @@ AclExchange::BreakOff AclExchange::brokenOff() const
     return m_breakOff;
 }
 
-void AclExchange::fail(WTCErrorCode code, const QString &cause)
+void AclExchange::fail(WTCErrorCode code, const QString &why, const std::optional<UsbCause> &cause)
 {
-    m_reply.error = WTError{wtcErrorDomain, static_cast<int>(code), u"%1: %2"_s.arg(m_request.URI, cause)};
+    m_reply.error = libraryError(code, m_request.URI, why, cause);
 }
 
 void AclExchange::failOnBus(const WTError &usbError)
 {
-    const auto code = static_cast<UsbErrorCode>(usbError.code);
-    if (code == UsbErrorCode::Cancelled)
+    if (static_cast<UsbErrorCode>(usbError.code) == UsbErrorCode::Cancelled)
         return failBrokenOff();
-    fail(codeOf(code), usbError.message);
+    m_reply.error = libraryErrorFromBus(m_request.URI, usbError);
 }
 
 void AclExchange::failBrokenOff()
 {
     if (brokenOff() == BreakOff::TimedOut)
-        return fail(WTCErrorCode::TimedOut, u"timed out after %1 ms"_s.arg(m_request.timeout.count()));
-    fail(WTCErrorCode::TransferFailed, u"cancelled"_s);
+        return fail(WTCErrorCode::TimedOut, u"timed out after %1 ms"_s.arg(m_request.timeout.count()),
+                    UsbCause{UsbErrorCode::TimedOut});
+    fail(WTCErrorCode::TransferFailed, u"cancelled"_s, UsbCause{UsbErrorCode::Cancelled});
 }

@@ -42,7 +42,7 @@ public:
     void run();
 
     /// Both callbacks for an exchange that cannot run at all, on the calling thread. In place of `run`.
-    void refuse(const QString &cause);
+    void refuse(const QString &why);
 
     /// Breaks the exchange off; `run` then ends soon. Any thread.
     void cancel();
@@ -59,7 +59,6 @@ private:
     };
 
     void exchange();
-    std::optional<UsbDevice> find() const;
     void converse(UsbConnection &connection, DeviceTurns::Turn &turn);
     bool readHeader(UsbConnection &connection);
     /// Appends to `bytes` until it has `size` of them.
@@ -69,7 +68,7 @@ private:
 
     void breakOff(BreakOff reason);
     BreakOff brokenOff() const;
-    void fail(WTCErrorCode code, const QString &cause);
+    void fail(WTCErrorCode code, const QString &why, const std::optional<UsbCause> &cause = std::nullopt);
     void failOnBus(const WTError &usbError);
     void failBrokenOff();
 

@@ -3,6 +3,7 @@
 #include "Ieee1284DeviceID.h"
 
 #include <QUrl>
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -17,6 +18,14 @@ QString firstUsable(const QString &preferred, const QString &otherwise)
 QString encoded(const QString &text)
 {
     return QString::fromLatin1(QUrl::toPercentEncoding(text));
+}
+
+bool isNamed(UsbDevice device, const QString &URI)
+{
+    if (deviceFromUsb(device).URI == URI)
+        return true;
+    device.ieee1284DeviceID.clear();
+    return deviceFromUsb(device).URI == URI;
 }
 
 } // namespace
@@ -34,4 +43,10 @@ WTCDevice deviceFromUsb(const UsbDevice &device)
     printer.URI = u"usb://%1/%2?serial=%3"_s.arg(encoded(printer.manufacturer), encoded(printer.printerType),
                                                  encoded(printer.serialNumber));
     return printer;
+}
+
+std::optional<UsbDevice> deviceNamed(const QString &URI, const UsbDeviceList &devices)
+{
+    const auto found = std::ranges::find_if(devices, [&URI](const UsbDevice &device) { return isNamed(device, URI); });
+    return found == devices.end() ? std::nullopt : std::optional(*found);
 }

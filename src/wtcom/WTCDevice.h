@@ -3,6 +3,7 @@
 #include "UsbPort.h"
 
 #include <QString>
+#include <optional>
 
 /// A printer on the bus, as the search service reports it.
 struct WTCDevice {
@@ -19,3 +20,6 @@ struct WTCDevice {
 
 /// Keys of the IEEE 1284 device ID count in their short and long forms (MDL or MODEL, MFG or MANUFACTURER).
 WTCDevice deviceFromUsb(const UsbDevice &device);
+
+/// The first device of the list with this URI, or that had it while its device ID was not known yet.
+std::optional<UsbDevice> deviceNamed(const QString &URI, const UsbDeviceList &devices);

@@ -9,9 +9,10 @@
 /// Bytes of an ACL reply header.
 inline constexpr quint8 kACLHeadSize = 16;
 
-/// Codes of the domain "WTCOM".
+/// Codes of the domain "WTCOM". An error's cause tells what happened on the bus: behind Unreachable stand NotFound,
+/// PermissionDenied, Busy (with its holder) and Unplugged.
 enum class WTCErrorCode : int {
-    Unreachable = 31, ///< The printer is absent, held, not permitted, or gone; the message names which.
+    Unreachable = 31, ///< The printer is absent, held, not permitted, or gone.
     TimedOut = 32,
     TransferFailed = 33,
 };
@@ -40,4 +41,8 @@ public:
     /// @param timeout milliseconds for the whole exchange.
     static void IOKit_sendACLWithURI(const QString &URI, const QByteArray &data, quint8 headSize, int timeout,
                                      HeadCallback headCallback, DataCallback dataCallback);
+
+    /// What a send to this printer would be refused with now, code 31; absent when the printer is there and free.
+    /// Nothing is sent or claimed, but the answer may take a second: not on the main thread.
+    static std::optional<WTError> obstacle(const QString &URI);
 };

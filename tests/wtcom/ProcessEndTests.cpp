@@ -57,6 +57,7 @@ public:
     {
         return std::unique_ptr<UsbConnection>(std::make_unique<SilentConnection>(m_reading));
     }
+    std::optional<WTError> obstacle(const UsbDevice &) override { return std::nullopt; }
 
     void waitForReader() { m_reading.get_future().wait(); }
 

@@ -108,29 +108,42 @@ void SendTests::everySendEndsOnce_data()
     const Event deny = [](UsbfsBed &bed) { bed.deny(); };
     const Event hold = [](UsbfsBed &bed) { bed.hold(); };
     const Event holdByProcess = [](UsbfsBed &bed) { bed.holdByProcess(); };
+    using Bus = UsbErrorCode;
     // Sizes are -1 for what is absent.
-    const Rows<PrinterFault, Event, HeadReaction, int, int, WTCErrorCode, QString> row{
-        "fault", "event", "reaction", "headerSize", "dataSize", "code", "cause"};
-    row("header and data", {.data = some}, none, ReadAnnounced, 16, 40, noError, {});
-    row("announced length 0", {.data = data(0)}, none, ReadAnnounced, 16, -1, noError, {});
-    row("no data wanted", {.data = data(0)}, none, ReadNone, 16, -1, noError, {});
-    row("stopped by the head callback", {.data = some}, none, Stop, 16, -1, noError, {});
-    row("the head callback throws", {.data = some}, none, Throw, 16, -1, TransferFailed, thrown);
-    row("zero-length packets", {.data = some, .slices = {0, 9, 0, 30, 0}}, none, ReadAnnounced, 16, 40, noError, {});
-    row("time-out while writing", {.acceptOnly = 30}, none, ReadAnnounced, -1, -1, TimedOut, timedOut);
-    row("silence", {.silent = true}, none, ReadAnnounced, -1, -1, TimedOut, timedOut);
-    row("time-out in the header", {.data = some, .cutAt = 7}, none, ReadAnnounced, 7, -1, TimedOut, timedOut);
-    row("time-out in the data", {.data = some, .cutAt = 30}, none, ReadAnnounced, 16, -1, TimedOut, timedOut);
-    row("unplugged while writing", {.unplugOut = 30}, none, ReadAnnounced, -1, -1, Unreachable, leftWriting);
-    row("unplugged before the header", {.unplugIn = 0}, none, ReadAnnounced, -1, -1, Unreachable, leftReading);
-    row("unplugged in the header", {.unplugIn = 15}, none, ReadAnnounced, 15, -1, Unreachable, leftReading);
-    row("unplugged in the data", {.data = some, .unplugIn = 30}, none, ReadAnnounced, 16, -1, Unreachable, leftReading);
-    row("stall while writing", {.stallOut = true}, none, ReadAnnounced, -1, -1, TransferFailed, stalledWriting);
-    row("stall in place of a reply", {.stallIn = true}, none, ReadAnnounced, -1, -1, TransferFailed, stalledReading);
-    row("no printer", {}, unplug, ReadAnnounced, -1, -1, Unreachable, u"no such printer on the USB bus"_s);
-    row("may not be opened", {}, deny, ReadAnnounced, -1, -1, Unreachable, u"permission denied on %1: "_s);
-    row("held", {}, hold, ReadAnnounced, -1, -1, Unreachable, held);
-    row("held by a process", {}, holdByProcess, ReadAnnounced, -1, -1, Unreachable, held + u" (ipp-usb, pid "_s);
+    const Rows<PrinterFault, Event, HeadReaction, int, int, WTCErrorCode, UsbErrorCode, QString> row{
+        "fault", "event", "reaction", "headerSize", "dataSize", "code", "cause", "why"};
+    row("header and data", {.data = some}, none, ReadAnnounced, 16, 40, noError, {}, {});
+    row("announced length 0", {.data = data(0)}, none, ReadAnnounced, 16, -1, noError, {}, {});
+    row("no data wanted", {.data = data(0)}, none, ReadNone, 16, -1, noError, {}, {});
+    row("stopped by the head callback", {.data = some}, none, Stop, 16, -1, noError, {}, {});
+    row("the head callback throws", {.data = some}, none, Throw, 16, -1, TransferFailed, {}, thrown);
+    row("zero-length packets", {.data = some, .slices = {0, 9, 0, 30, 0}}, none, ReadAnnounced, 16, 40, noError, {},
+        {});
+    row("time-out while writing", {.acceptOnly = 30}, none, ReadAnnounced, -1, -1, TimedOut, Bus::TimedOut, timedOut);
+    row("silence", {.silent = true}, none, ReadAnnounced, -1, -1, TimedOut, Bus::TimedOut, timedOut);
+    row("time-out in the header", {.data = some, .cutAt = 7}, none, ReadAnnounced, 7, -1, TimedOut, Bus::TimedOut,
+        timedOut);
+    row("time-out in the data", {.data = some, .cutAt = 30}, none, ReadAnnounced, 16, -1, TimedOut, Bus::TimedOut,
+        timedOut);
+    row("unplugged while writing", {.unplugOut = 30}, none, ReadAnnounced, -1, -1, Unreachable, Bus::Unplugged,
+        leftWriting);
+    row("unplugged before the header", {.unplugIn = 0}, none, ReadAnnounced, -1, -1, Unreachable, Bus::Unplugged,
+        leftReading);
+    row("unplugged in the header", {.unplugIn = 15}, none, ReadAnnounced, 15, -1, Unreachable, Bus::Unplugged,
+        leftReading);
+    row("unplugged in the data", {.data = some, .unplugIn = 30}, none, ReadAnnounced, 16, -1, Unreachable,
+        Bus::Unplugged, leftReading);
+    row("stall while writing", {.stallOut = true}, none, ReadAnnounced, -1, -1, TransferFailed, Bus::Stalled,
+        stalledWriting);
+    row("stall in place of a reply", {.stallIn = true}, none, ReadAnnounced, -1, -1, TransferFailed, Bus::Stalled,
+        stalledReading);
+    row("no printer", {}, unplug, ReadAnnounced, -1, -1, Unreachable, Bus::NotFound,
+        u"no such printer on the USB bus"_s);
+    row("may not be opened", {}, deny, ReadAnnounced, -1, -1, Unreachable, Bus::PermissionDenied,
+        u"permission denied on %1: "_s);
+    row("held", {}, hold, ReadAnnounced, -1, -1, Unreachable, Bus::Busy, held);
+    row("held by a process", {}, holdByProcess, ReadAnnounced, -1, -1, Unreachable, Bus::Busy,
+        held + u" (ipp-usb, pid "_s);
 }
 
 void SendTests::everySendEndsOnce()
@@ -141,10 +154,12 @@ void SendTests::everySendEndsOnce()
     QFETCH(int, headerSize);
     QFETCH(int, dataSize);
     QFETCH(WTCErrorCode, code);
-    QFETCH(QString, cause);
+    QFETCH(UsbErrorCode, cause);
+    QFETCH(QString, why);
     LibraryBench bench({fault});
     const QString node = bench.bed.nodePath();
     event(bench.bed);
+    const auto obstacle = bench.await([] { return WTCUSBPrinter::obstacle(printerURI); });
 
     const RecordedSend::Record record = bench.send(reaction);
     QCOMPARE(record.calls, QStringList({u"head"_s, u"data"_s}));
@@ -154,9 +169,13 @@ void SendTests::everySendEndsOnce()
     QCOMPARE(record.error ? static_cast<WTCErrorCode>(record.error->code) : noError, code);
     if (record.error) {
         QCOMPARE(record.error->domain, QString(wtcErrorDomain));
-        const QString message = printerURI + u": "_s + (cause.contains(u'%') ? cause.arg(node) : cause);
+        QCOMPARE(record.error->cause.value_or(UsbCause{UsbErrorCode{}}).code, cause);
+        const QString message = printerURI + u": "_s + (why.contains(u'%') ? why.arg(node) : why);
         QVERIFY2(record.error->message.startsWith(message), qPrintable(record.error->message));
     }
+    // What is known beforehand is said beforehand, in the same words.
+    const bool knownBefore = record.error && code == Unreachable && cause != UsbErrorCode::Unplugged;
+    QCOMPARE(obstacle, knownBefore ? record.error : std::nullopt);
     QCOMPARE(bench.bed.claims(), 0);
 }
 

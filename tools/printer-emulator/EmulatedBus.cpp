@@ -11,7 +11,7 @@ constexpr quint32 locationID = 0x01100000; ///< Bus 1, port 1.
 
 WTError error(UsbErrorCode code, const QString &message)
 {
-    return {usbErrorDomain, int(code), message};
+    return {usbErrorDomain, int(code), message, UsbCause{code}};
 }
 } // namespace
 
@@ -147,15 +147,30 @@ UsbDeviceList EmulatedBus::devices(const std::vector<quint16> &vendorIDs) const
     return m_plugged && wanted ? UsbDeviceList{facts()} : UsbDeviceList{};
 }
 
-std::optional<WTError> EmulatedBus::claim(const UsbDevice &device)
+std::optional<WTError> EmulatedBus::obstacle(const UsbDevice &device) const
 {
-    const TimedLock::Turn turn(m_lock);
+    const std::lock_guard lock(m_lock.mutex());
+    return refusal(device);
+}
+
+std::optional<WTError> EmulatedBus::refusal(const UsbDevice &device) const
+{
     if (!m_plugged || device.locationID != locationID)
         return error(UsbErrorCode::NotFound, u"opening the emulated printer: not on the bus"_s);
     if (!m_permitted)
         return error(UsbErrorCode::PermissionDenied, u"permission denied on the emulated printer"_s);
-    if (m_held || m_claimed)
+    if (m_held)
         return error(UsbErrorCode::Busy, u"the emulated printer is held by another program"_s);
+    return std::nullopt;
+}
+
+std::optional<WTError> EmulatedBus::claim(const UsbDevice &device)
+{
+    const TimedLock::Turn turn(m_lock);
+    if (auto refused = refusal(device))
+        return refused;
+    if (m_claimed)
+        return error(UsbErrorCode::Busy, u"the emulated printer is in use"_s);
     m_claimed = true;
     m_gone = m_cancelled = false;
     return std::nullopt;

@@ -28,6 +28,7 @@ public:
     void stopWatching();
     UsbDeviceList devices(const std::vector<quint16> &vendorIDs) const;
 
+    std::optional<WTError> obstacle(const UsbDevice &device) const;
     /// Claims the printer; absent when that succeeded. What is claimed is released by `release`.
     std::optional<WTError> claim(const UsbDevice &device);
     void release();
@@ -53,6 +54,7 @@ private:
     void received(const ReceivedFrame &) override {}
     void scheduled(const BusEvent &event) override;
 
+    std::optional<WTError> refusal(const UsbDevice &device) const;
     void applyNow(BusEvent::Action action);
     void scheduleStart();
     void setPlugged(bool plugged);

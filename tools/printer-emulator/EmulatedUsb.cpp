@@ -97,3 +97,8 @@ WTResult<std::unique_ptr<UsbConnection>> EmulatedUsb::open(const UsbDevice &devi
         return *std::move(failed);
     return std::unique_ptr<UsbConnection>(std::make_unique<EmulatedConnection>(m_bus));
 }
+
+std::optional<WTError> EmulatedUsb::obstacle(const UsbDevice &device)
+{
+    return m_bus->obstacle(device);
+}

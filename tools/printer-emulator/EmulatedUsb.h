@@ -27,6 +27,7 @@ public:
     void stopWatching() override;
     UsbDeviceList devices(const std::vector<quint16> &vendorIDs) override;
     WTResult<std::unique_ptr<UsbConnection>> open(const UsbDevice &device) override;
+    std::optional<WTError> obstacle(const UsbDevice &device) override;
 
 private:
     std::shared_ptr<EmulatedBus> m_bus;

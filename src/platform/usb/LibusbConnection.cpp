@@ -16,7 +16,7 @@ constexpr int mostDiscardedTransfers = 64;
 
 } // namespace
 
-LibusbConnection::LibusbConnection(TimePort &time, UsbHandle handle, std::unique_ptr<ClaimedInterface> claim,
+LibusbConnection::LibusbConnection(TimePort &time, UsbHandle handle, std::shared_ptr<ClaimedInterface> claim,
                                    const PrinterInterface &interface, const QString &node)
     : m_time(time)
     , m_handle(std::move(handle))
@@ -39,7 +39,7 @@ std::optional<WTError> LibusbConnection::write(QByteArrayView bytes)
         if (outcome.failure)
             return outcome.failure;
         if (outcome.transferred == 0)
-            return usbError(UsbErrorCode::Failed, u"writing to %1"_s.arg(m_node), u"the device takes no bytes"_s);
+            return usbError({UsbErrorCode::Failed}, u"writing to %1"_s.arg(m_node), u"the device takes no bytes"_s);
         bytes = bytes.sliced(outcome.transferred);
     }
     return std::nullopt;

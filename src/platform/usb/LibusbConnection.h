@@ -14,7 +14,7 @@ class LibusbConnection final : public UsbConnection
 {
 public:
     /// @param node names the device in messages. @param time outlives the connection.
-    LibusbConnection(TimePort &time, UsbHandle handle, std::unique_ptr<ClaimedInterface> claim,
+    LibusbConnection(TimePort &time, UsbHandle handle, std::shared_ptr<ClaimedInterface> claim,
                      const PrinterInterface &interface, const QString &node);
     ~LibusbConnection() override;
 
@@ -38,7 +38,7 @@ private:
 
     TimePort &m_time;
     const UsbHandle m_handle;
-    const std::unique_ptr<ClaimedInterface> m_claim; ///< Released before the handle closes.
+    const std::shared_ptr<ClaimedInterface> m_claim; ///< Released before the handle closes.
     const PrinterInterface m_interface;
     const QString m_node;
 

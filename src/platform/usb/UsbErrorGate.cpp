@@ -2,9 +2,9 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-WTError usbError(UsbErrorCode code, const QString &what, const QString &cause)
+WTError usbError(const UsbCause &cause, const QString &what, const QString &why)
 {
-    return {usbErrorDomain, static_cast<int>(code), u"%1: %2"_s.arg(what, cause)};
+    return {usbErrorDomain, static_cast<int>(cause.code), u"%1: %2"_s.arg(what, why), cause};
 }
 
 bool isUsbError(const WTError &error, UsbErrorCode code)
@@ -16,21 +16,21 @@ WTError usbErrorFromLibrary(int code, const QString &what)
 {
     switch (static_cast<libusb_error>(code)) {
     case LIBUSB_ERROR_ACCESS:
-        return usbError(UsbErrorCode::PermissionDenied, what, u"permission denied"_s);
+        return usbError({UsbErrorCode::PermissionDenied}, what, u"permission denied"_s);
     case LIBUSB_ERROR_NO_DEVICE:
-        return usbError(UsbErrorCode::Unplugged, what, u"unplugged"_s);
+        return usbError({UsbErrorCode::Unplugged}, what, u"unplugged"_s);
     case LIBUSB_ERROR_NOT_FOUND:
-        return usbError(UsbErrorCode::NotFound, what, u"not found"_s);
+        return usbError({UsbErrorCode::NotFound}, what, u"not found"_s);
     case LIBUSB_ERROR_BUSY:
-        return usbError(UsbErrorCode::Busy, what, u"held by another program"_s);
+        return usbError({UsbErrorCode::Busy}, what, u"held by another program"_s);
     case LIBUSB_ERROR_PIPE:
-        return usbError(UsbErrorCode::Stalled, what, u"stalled"_s);
+        return usbError({UsbErrorCode::Stalled}, what, u"stalled"_s);
     case LIBUSB_ERROR_OVERFLOW:
-        return usbError(UsbErrorCode::Overflow, what, u"the device sent more than was asked for"_s);
+        return usbError({UsbErrorCode::Overflow}, what, u"the device sent more than was asked for"_s);
     case LIBUSB_ERROR_TIMEOUT:
-        return usbError(UsbErrorCode::Failed, what, u"the device did not answer"_s);
+        return usbError({UsbErrorCode::TimedOut}, what, u"the device did not answer"_s);
     case LIBUSB_ERROR_IO:
-        return usbError(UsbErrorCode::Failed, what, u"input or output error"_s);
+        return usbError({UsbErrorCode::Failed}, what, u"input or output error"_s);
     case LIBUSB_SUCCESS:
     case LIBUSB_ERROR_INVALID_PARAM:
     case LIBUSB_ERROR_INTERRUPTED:
@@ -39,7 +39,7 @@ WTError usbErrorFromLibrary(int code, const QString &what)
     case LIBUSB_ERROR_OTHER:
         break;
     }
-    return usbError(UsbErrorCode::Failed, what, QString::fromUtf8(libusb_strerror(code)));
+    return usbError({UsbErrorCode::Failed}, what, QString::fromUtf8(libusb_strerror(code)));
 }
 
 std::optional<WTError> usbErrorFromTransfer(libusb_transfer_status status, const QString &what)
@@ -48,7 +48,7 @@ std::optional<WTError> usbErrorFromTransfer(libusb_transfer_status status, const
     case LIBUSB_TRANSFER_COMPLETED:
         return std::nullopt;
     case LIBUSB_TRANSFER_CANCELLED:
-        return usbError(UsbErrorCode::Cancelled, what, u"cancelled"_s);
+        return usbError({UsbErrorCode::Cancelled}, what, u"cancelled"_s);
     case LIBUSB_TRANSFER_STALL:
         return usbErrorFromLibrary(LIBUSB_ERROR_PIPE, what);
     case LIBUSB_TRANSFER_NO_DEVICE:

@@ -6,8 +6,8 @@
 
 /// The one place where libusb's codes become errors of the domain "USB".
 
-/// @param what was being done, on what: "opening /dev/bus/usb/001/004". The message reads "what: cause".
-WTError usbError(UsbErrorCode code, const QString &what, const QString &cause);
+/// @param what was being done, on what: "opening /dev/bus/usb/001/004". The message reads "what: why".
+WTError usbError(const UsbCause &cause, const QString &what, const QString &why);
 bool isUsbError(const WTError &error, UsbErrorCode code);
 
 /// @param code a `libusb_error` other than success, as libusb's functions return it.

@@ -19,17 +19,34 @@ bool isNumber(const std::string &name)
     return !name.empty() && name.find_first_not_of("0123456789") == std::string::npos;
 }
 
-// A descriptor is recognised by the file it leads to: its link's text need not be the node's path.
-bool hasOpen(const fs::path &process, const struct stat &node)
+// A descriptor is recognised by the file it leads to, since its link need not read like the node's path: the program
+// may run in a container. Only links into a device folder are followed. To follow one to a network drive that has gone
+// away could wait for ever.
+bool mayBeNode(const std::string &link, const std::string &node)
+{
+    return link.starts_with("/dev/") || link.ends_with(node.substr(std::string_view("/dev").size()));
+}
+
+bool hasOpen(const fs::path &process, const std::string &path, const struct stat &node)
 {
     std::error_code refused;
     for (const auto &descriptor : fs::directory_iterator(process / "fd", refused)) {
+        std::error_code gone;
         struct stat target = {};
-        if (stat(descriptor.path().c_str(), &target) == 0 && target.st_dev == node.st_dev &&
+        if (mayBeNode(fs::read_symlink(descriptor.path(), gone), path) &&
+            stat(descriptor.path().c_str(), &target) == 0 && target.st_dev == node.st_dev &&
             target.st_ino == node.st_ino)
             return true;
     }
     return false;
+}
+
+QString nameOf(const fs::path &process)
+{
+    QFile name(QString::fromStdString(process / "comm"));
+    if (!name.open(QIODevice::ReadOnly))
+        return {};
+    return QString::fromLocal8Bit(name.readAll().trimmed());
 }
 
 } // namespace
@@ -40,34 +57,31 @@ QString usbNodePath(libusb_device *device)
         .arg(libusb_get_device_address(device), 3, 10, QChar(u'0'));
 }
 
-QString usbNodeAccessHint(const QString &node)
+QString usbNodeGroup(const QString &node)
 {
     struct stat status = {};
     struct group entry = {};
     struct group *found = nullptr;
     std::array<char, 4096> buffer{};
-    // A node of the group "root" is nobody's to join.
+    // Nobody is to join the group "root".
     if (stat(QFile::encodeName(node).constData(), &status) == 0 && status.st_gid != 0 &&
         getgrgid_r(status.st_gid, &entry, buffer.data(), buffer.size(), &found) == 0 && found)
-        return u"join the group \"%1\" and log in again, or add a udev rule that grants access"_s.arg(
-            QString::fromLocal8Bit(found->gr_name));
-    return u"add a udev rule that grants access and plug the printer in again"_s;
+        return QString::fromLocal8Bit(found->gr_name);
+    return {};
 }
 
-std::optional<QString> usbNodeHolder(const QString &node)
+std::optional<UsbNodeHolder> usbNodeHolder(const QString &node)
 {
     struct stat status = {};
-    if (stat(QFile::encodeName(node).constData(), &status) != 0)
+    const QByteArray path = QFile::encodeName(node);
+    if (stat(path.constData(), &status) != 0)
         return std::nullopt;
     const std::string self = std::to_string(getpid());
     std::error_code refused;
     for (const auto &process : fs::directory_iterator("/proc", refused)) {
         const std::string pid = process.path().filename();
-        if (!isNumber(pid) || pid == self || !hasOpen(process.path(), status))
-            continue;
-        QFile name(QString::fromStdString(process.path() / "comm"));
-        if (name.open(QIODevice::ReadOnly))
-            return u"%1, pid %2"_s.arg(QString::fromLocal8Bit(name.readAll().trimmed()), QString::fromStdString(pid));
+        if (isNumber(pid) && pid != self && hasOpen(process.path(), path.toStdString(), status))
+            return UsbNodeHolder{nameOf(process.path()), std::stoll(pid)};
     }
     return std::nullopt;
 }

@@ -10,9 +10,14 @@ struct libusb_device;
 /// "/dev/bus/usb/001/004".
 QString usbNodePath(libusb_device *device);
 
-/// What the user can do to be let in, as the end of a sentence.
-QString usbNodeAccessHint(const QString &node);
+/// The group whose members may open the node; empty when it is open to root alone, or to nobody that can be named.
+QString usbNodeGroup(const QString &node);
 
-/// The other process that has the node open, "ipp-usb, pid 123". Absent when there is none, and when its descriptors
-/// may not be looked at.
-std::optional<QString> usbNodeHolder(const QString &node);
+/// A process that has a node open.
+struct UsbNodeHolder {
+    QString program; ///< "ipp-usb".
+    qint64 pid = 0;
+};
+
+/// The other process that has the node open. Absent when there is none, and when its descriptors may not be looked at.
+std::optional<UsbNodeHolder> usbNodeHolder(const QString &node);

@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <array>
+#include <filesystem>
 #include <libusb.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -11,10 +12,11 @@ namespace
 
 // USB allows seven tiers: the root port and at most six hubs' ports.
 constexpr int maximumPorts = 7;
+constexpr QLatin1StringView devicesFolder{"/sys/bus/usb/devices"};
 
 std::optional<QString> readAttribute(const QString &path)
 {
-    QFile file(u"/sys/bus/usb/devices/"_s + path);
+    QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
     return QString::fromUtf8(file.readAll()).trimmed();
@@ -33,10 +35,25 @@ UsbSysfs::UsbSysfs(libusb_device *device)
 
 std::optional<QString> UsbSysfs::attribute(const QString &name) const
 {
-    return readAttribute(u"%1/%2"_s.arg(m_name, name));
+    return readAttribute(u"%1/%2/%3"_s.arg(devicesFolder, m_name, name));
 }
 
 std::optional<QString> UsbSysfs::interfaceAttribute(int configuration, int interface, const QString &name) const
 {
-    return readAttribute(u"%1/%1:%2.%3/%4"_s.arg(m_name).arg(configuration).arg(interface).arg(name));
+    return readAttribute(interfaceFolder(configuration, interface) + u'/' + name);
+}
+
+std::optional<QString> UsbSysfs::interfaceDriver(int configuration, int interface) const
+{
+    std::error_code none;
+    const auto link =
+        std::filesystem::read_symlink(interfaceFolder(configuration, interface).toStdString() + "/driver", none);
+    if (none)
+        return std::nullopt;
+    return QString::fromStdString(link.filename());
+}
+
+QString UsbSysfs::interfaceFolder(int configuration, int interface) const
+{
+    return u"%1/%2/%2:%3.%4"_s.arg(devicesFolder, m_name).arg(configuration).arg(interface);
 }

@@ -36,6 +36,11 @@ struct PrinterBench : UsbTestBench {
         return await([this] { return port.open(port.devices({ModelIdentity().vendorID}).at(0)); });
     }
 
+    std::optional<WTError> obstacle()
+    {
+        return await([this] { return port.obstacle(port.devices({ModelIdentity().vendorID}).at(0)); });
+    }
+
     /// The connection of a printer that must be there.
     std::unique_ptr<UsbConnection> connect()
     {
