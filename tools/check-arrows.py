@@ -17,7 +17,8 @@ ARROWS = {
     "wtcom": {"ports", "util"},
     "comm": {"wtcom", "ports", "log", "util"},
     "app": {"comm", "wtcom", "ports", "log", "util"},
-    "wizard": {"app", "comm", "wtcom", "ports", "log", "util"},
+    "flow": {"app", "comm", "wtcom", "ports", "log", "util"},
+    "wizard": {"flow", "app", "comm", "wtcom", "ports", "log", "util"},
     **{room: {"ports", "util"} for room in PLATFORM_ROOMS},
 }
 FOREIGN = {

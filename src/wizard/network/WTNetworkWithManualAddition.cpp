@@ -6,10 +6,10 @@
 #include "Localized.h"
 #include "Log.h"
 #include "MainThread.h"
+#include "NetworkRules.h"
 #include "Palette.h"
 #include "PasswordStrengthView.h"
 #include "PrintQueueBusyCheck.h"
-#include "PrinterPassword.h"
 #include "ScreenFrame.h"
 #include "WTButton.h"
 #include "WTCustomTextFieldFromatter.h"
@@ -17,6 +17,7 @@
 #include "WTInstallingView.h"
 #include "WTManager.h"
 #include "WTTextfield.h"
+#include "refuseLongPassword.h"
 #include "showAlert.h"
 
 #include <QPointer>
@@ -105,7 +106,7 @@ void WTNetworkWithManualAddition::ff_config()
     ButtonSchemes::applyBlue(*m_printWiFiHomePage);
     ButtonSchemes::applyBack(*m_previousBtn);
     ButtonSchemes::applyCheckBox(*m_showPwdBtn);
-    m_pwdFormatter->setMaximumLength(WTNetworkWithManualAdditionModel::maximumPasswordLength);
+    m_pwdFormatter->setMaximumLength(NetworkRules::maximumPasswordLength);
     m_passwordTextField->setValidator(m_pwdFormatter);
 
     for (WTTextfield *field : {m_ssidTextField, static_cast<WTTextfield *>(m_passwordTextField)}) {
@@ -154,7 +155,7 @@ void WTNetworkWithManualAddition::controlDidBecomeFirstResponder(WTTextfield *fi
 void WTNetworkWithManualAddition::controlTextDidChange(WTTextfield *field)
 {
     if (field == m_ssidTextField)
-        field->putBack(m_model.cutName(field->text()));
+        field->putBack(NetworkRules::cutName(field->text()));
     else
         field->putBack(m_model.passwordAfterTyping(field->text()));
     updateBtnNextStepState();
@@ -162,23 +163,23 @@ void WTNetworkWithManualAddition::controlTextDidChange(WTTextfield *field)
 
 void WTNetworkWithManualAddition::controlTextDidEndEditing(WTTextfield *)
 {
-    m_ssidTextField->putBack(m_model.cutName(m_ssidTextField->text()));
-    m_passwordTextField->putBack(m_model.cutPassword(m_passwordTextField->text()));
+    m_ssidTextField->putBack(NetworkRules::cutName(m_ssidTextField->text()));
+    m_passwordTextField->putBack(NetworkRules::cutPassword(m_passwordTextField->text()));
     updateBtnNextStepState();
 }
 
 void WTNetworkWithManualAddition::updateBtnNextStepState()
 {
     const QString name = m_ssidTextField->text();
-    m_nextBtn->setDisable(!m_model.canGoNext(name));
-    m_ssidView->setError(m_model.nameError(name));
-    const bool tooLong = PrinterPassword::isTooLong(m_passwordTextField->text());
-    m_passwordView->setError(tooLong ? PrinterPassword::limitText() : QString());
+    m_nextBtn->setDisable(!NetworkRules::isNameUsable(name));
+    m_ssidView->setError(NetworkRules::nameError(name));
+    const bool tooLong = NetworkRules::isPasswordTooLong(m_passwordTextField->text());
+    m_passwordView->setError(tooLong ? NetworkRules::passwordLimitText() : QString());
 }
 
 bool WTNetworkWithManualAddition::isVailePassword(const QString &password)
 {
-    return WTNetworkWithManualAdditionModel::isVailePassword(password);
+    return NetworkRules::isVailePassword(password);
 }
 
 bool WTNetworkWithManualAddition::isWorkingWithPrintType(const QString &printType)
@@ -206,7 +207,7 @@ void WTNetworkWithManualAddition::nextView()
         logWarning("empty ssid");
         break;
     case WTNetworkWithManualAdditionModel::Next::PasswordTooLong:
-        PrinterPassword::refuse(window());
+        refuseLongPassword(window());
         break;
     case WTNetworkWithManualAdditionModel::Next::Go:
         m_installingView->setPrinter(m_printer);

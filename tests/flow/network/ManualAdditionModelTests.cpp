@@ -1,3 +1,4 @@
+#include "NetworkRules.h"
 #include "WTNetworkWithManualAdditionModel.h"
 
 #include <QTest>
@@ -42,9 +43,9 @@ void ManualAdditionModelTests::name_data()
 void ManualAdditionModelTests::name()
 {
     QFETCH(QString, typed);
-    const QString cut = Model::cutName(typed);
+    const QString cut = NetworkRules::cutName(typed);
     QTEST(cut, "cut");
-    QTEST(Model::canGoNext(cut), "canGoNext");
+    QTEST(NetworkRules::isNameUsable(cut), "canGoNext");
 }
 
 void ManualAdditionModelTests::password_data()

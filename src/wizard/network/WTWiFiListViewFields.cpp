@@ -4,23 +4,15 @@
 #include "KSPasswordField.h"
 #include "Localized.h"
 #include "Log.h"
+#include "NetworkRules.h"
 #include "Palette.h"
-#include "PrinterPassword.h"
 #include "WTButton.h"
 #include "WTDefaultStyleBtn.h"
-#include "WTNetworkWithManualAdditionModel.h"
 #include "WTTextfield.h"
 #include "WTWiFiListView.h"
 #include "WTWiFiListViewModel.h"
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace
-{
-
-constexpr qsizetype maximumNameLength = 32;
-
-} // namespace
 
 void WTWiFiListView::updateTextfieldSSIDAndPWD()
 {
@@ -44,14 +36,14 @@ void WTWiFiListView::updateBtnNextStepState()
     const QString name = m_ssidTextField->text();
     const QString password = m_passwordTextField->text();
     m_nextBtn->setDisable(!viewModel()->canGoNext(name, password));
-    m_ssidView->setError(WTNetworkWithManualAdditionModel::nameError(name));
+    m_ssidView->setError(NetworkRules::nameError(name));
     showPasswordError();
 }
 
 void WTWiFiListView::showPasswordError()
 {
-    if (PrinterPassword::isTooLong(m_passwordTextField->text()))
-        m_passwordView->setError(PrinterPassword::limitText());
+    if (NetworkRules::isPasswordTooLong(m_passwordTextField->text()))
+        m_passwordView->setError(NetworkRules::passwordLimitText());
     else
         m_passwordView->setError(m_passwordTextField->capsLock() ? localized(u"大写锁定已打开"_s) : QString());
 }
@@ -67,7 +59,7 @@ void WTWiFiListView::controlDidBecomeFirstResponder(WTTextfield *field)
 void WTWiFiListView::controlTextDidChange(WTTextfield *field)
 {
     if (field == m_ssidTextField) {
-        const QString name = viewModel()->subString(field->text(), maximumNameLength);
+        const QString name = viewModel()->subString(field->text(), NetworkRules::maximumNameLength);
         logInfo("ssid:%@", name);
         field->putBack(name);
         m_editedSSID = true;
@@ -86,7 +78,7 @@ void WTWiFiListView::controlTextDidChange(WTTextfield *field)
 
 void WTWiFiListView::controlTextDidEndEditing(WTTextfield *)
 {
-    const QString name = viewModel()->subString(m_ssidTextField->text(), maximumNameLength);
+    const QString name = viewModel()->subString(m_ssidTextField->text(), NetworkRules::maximumNameLength);
     logInfo("ssid:%@", name);
     m_ssidTextField->putBack(name);
     const qsizetype maxLength = viewModel()->maxLengthBy(selectedWiFi()->security);

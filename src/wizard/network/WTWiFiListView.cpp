@@ -8,9 +8,9 @@
 #include "Localized.h"
 #include "Log.h"
 #include "NetworkRows.h"
+#include "NetworkRules.h"
 #include "OnMainThreadAfter.h"
 #include "PrintQueueBusyCheck.h"
-#include "PrinterPassword.h"
 #include "ScannerLock.h"
 #include "WTApp.h"
 #include "WTButton.h"
@@ -23,6 +23,7 @@
 #include "WTTextfield.h"
 #include "WTWiFiListViewModel.h"
 #include "WTWindow.h"
+#include "refuseLongPassword.h"
 #include "showAlert.h"
 
 #include <QEventLoop>
@@ -321,8 +322,8 @@ void WTWiFiListView::next()
     }
     const QString password =
         viewModel()->subString(m_passwordTextField->text(), viewModel()->maxLengthBy(selectedWiFi()->security));
-    if (PrinterPassword::isTooLong(password)) {
-        PrinterPassword::refuse(window());
+    if (NetworkRules::isPasswordTooLong(password)) {
+        refuseLongPassword(window());
         return;
     }
     auto wifi = std::make_shared<WTWiFi>();

@@ -2,8 +2,8 @@
 
 #include "Log.h"
 #include "MainThread.h"
+#include "NetworkRules.h"
 #include "WTApp.h"
-#include "WTNetworkWithManualAdditionModel.h"
 #include "cutText.h"
 
 #include <QPointer>
@@ -12,8 +12,6 @@
 
 namespace
 {
-
-constexpr qsizetype maximumPasswordLength = 64;
 
 WTWiFiPtr networkOf(const WTC_WLAN &item)
 {
@@ -69,12 +67,12 @@ void WTWiFiListViewModel::putJoinedNetworkFirst()
 
 bool WTWiFiListViewModel::isVailePassword(const QString &password)
 {
-    return WTNetworkWithManualAdditionModel::isVailePassword(password);
+    return NetworkRules::isVailePassword(password);
 }
 
 qsizetype WTWiFiListViewModel::maxLengthBy(qint64)
 {
-    return maximumPasswordLength;
+    return NetworkRules::maximumPasswordLength;
 }
 
 QString WTWiFiListViewModel::subString(const QString &text, qsizetype index)
@@ -91,7 +89,7 @@ bool WTWiFiListViewModel::isLegalPwd(const QString &password, qint64 authMode)
 
 bool WTWiFiListViewModel::canGoNext(const QString &name, const QString &password) const
 {
-    if (!WTNetworkWithManualAdditionModel::canGoNext(name))
+    if (!NetworkRules::isNameUsable(name))
         return false;
     const auto listed =
         std::find_if(m_list.begin(), m_list.end(), [&](const WTWiFiPtr &network) { return network->SSID == name; });

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "WifiConfigurationPayload.h"
+
+#include <QString>
+
+/// What may stand in the two fields of an entry screen, and what a printer takes of it.
+namespace NetworkRules
+{
+
+inline constexpr qsizetype maximumNameLength = 32;     ///< UTF-16 units that the name field takes.
+inline constexpr qsizetype maximumNameBytes = 32;      ///< In UTF-8 (IEEE 802.11-2020, 9.4.2.2).
+inline constexpr qsizetype maximumPasswordLength = 64; ///< UTF-16 units that the password field takes.
+/// In UTF-8: what a printer takes, whatever the network itself allows.
+inline constexpr qsizetype maximumPasswordBytes = WifiConfigurationPayload::passwordLimit;
+
+QString cutName(const QString &name);
+QString cutPassword(const QString &password);
+
+/// Whether all of it are signs that the password field takes: printable ASCII and ¥ € £ •, at most 64.
+bool isVailePassword(const QString &password);
+
+/// Whether a printer can be told to join a network of this name.
+bool isNameUsable(const QString &name);
+/// One sentence in the interface language that says why not; empty for a usable name and for none at all.
+QString nameError(const QString &name);
+
+bool isPasswordTooLong(const QString &password);
+/// One sentence that names the limit, in the interface language.
+QString passwordLimitText();
+
+} // namespace NetworkRules
