@@ -83,13 +83,13 @@ void checkReplyCheck(const QByteArray &header, quint16 command)
     require(accepted.has_value() != stop, "a header is accepted or stops the exchange");
     require(!accepted || (header.size() == kACLHeadSize && accepted->command() == command), "accepted means matching");
     int answers = 0;
-    WTManager::wt_cmd(command, header, [&](int status, quint16 result) {
+    WTManager::wt_cmd(command, header, [&](const PrinterAnswer &answer) {
         ++answers;
-        const bool success = status == static_cast<int>(WTPrinterStatus::Success);
+        const bool success = answer.status == WTPrinterStatus::Success;
         const AclReplyHeader reply(header);
         require(success == (header.size() >= AclReplyHeader::leastSize && reply.command() == command),
                 "success means a matching command");
-        require(result == (success ? reply.result() : 0), "the result is the header's");
+        require(answer.result == (success ? reply.result() : 0), "the result is the header's");
     });
     require(answers == 1, "one header, one answer");
 }

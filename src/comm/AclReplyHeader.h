@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
+#include <optional>
 
 /// Reads the header of a printer's reply. Numbers are big-endian.
 ///
@@ -36,3 +38,8 @@ private:
 
     QByteArray m_bytes;
 };
+
+/// A reply header for the log, by its fields; what else may stand in it is not told. Absent for an absent one.
+std::optional<QString> describeReplyHeader(const std::optional<QByteArray> &header);
+/// Reply data for the log, by its length alone: a printer may send back what it was told. Absent for absent data.
+std::optional<QString> describeReplyData(const std::optional<QByteArray> &data);

@@ -30,15 +30,52 @@ std::optional<AclReplyHeader> PrinterExchange::acceptedHeader(quint16 cmd, const
     return reply;
 }
 
-WTCUSBPrinter::HeadCallback PrinterExchange::usualHeadCallback(quint16 cmd, KeptHeader kept)
+std::optional<WTError> PrinterExchange::headerFault(quint16 cmd, const std::optional<QByteArray> &header)
 {
-    return [cmd, kept = std::move(kept)](const std::optional<QByteArray> &header, quint32 *dataLength, bool *stop) {
-        logInfo("返回 ACL:0x%X, headData:%@", cmd, header);
-        const auto reply = acceptedHeader(cmd, header, stop);
-        if (!reply)
-            return;
-        if (kept)
-            *kept = header;
-        *dataLength = reply->dataLength();
+    if (!header)
+        return std::nullopt;
+    const AclReplyHeader reply{*header};
+    if (!reply.isWhole())
+        return WTError{printerErrorDomain, static_cast<int>(WTPrinterStatus::NoHeader),
+                       formatText("the reply to 0x%X has a header of %ld bytes", cmd, header->size())};
+    if (reply.command() != cmd)
+        return WTError{printerErrorDomain, static_cast<int>(WTPrinterStatus::CommandMismatch),
+                       formatText("0x%X was answered by a reply to 0x%X", cmd, reply.command())};
+    return std::nullopt;
+}
+
+WTError PrinterExchange::refusal(quint16 cmd, quint16 result)
+{
+    return {printerResultDomain, result, formatText("the printer answered 0x%X with the result 0x%X", cmd, result)};
+}
+
+WTCUSBPrinter::HeadCallback PrinterExchange::usualHeadCallback(quint16 cmd, KeptHead head)
+{
+    return [cmd, head = std::move(head)](const std::optional<QByteArray> &header, quint32 *dataLength, bool *stop) {
+        logInfo("返回 ACL:0x%X, headData:%@", cmd, describeReplyHeader(header));
+        head->fault = headerFault(cmd, header);
+        if (const auto reply = acceptedHeader(cmd, header, stop)) {
+            head->header = header;
+            *dataLength = reply->dataLength();
+        }
+    };
+}
+
+WTError PrinterExchange::cause(quint16 cmd, const std::optional<WTError> &error, const ReplyHead &head)
+{
+    if (error)
+        return *error;
+    return head.fault.value_or(
+        WTError{printerErrorDomain, static_cast<int>(WTPrinterStatus::NoHeader), formatText("no reply to 0x%X", cmd)});
+}
+
+std::function<void(const PrinterAnswer &)>
+PrinterExchange::withCause(quint16 cmd, const std::optional<WTError> &error, KeptHead head,
+                           std::function<void(const PrinterAnswer &)> callBack)
+{
+    return [cmd, error, head = std::move(head), callBack = std::move(callBack)](PrinterAnswer answer) {
+        if (answer.status != WTPrinterStatus::Success)
+            answer.cause = cause(cmd, error, *head);
+        callBack(answer);
     };
 }

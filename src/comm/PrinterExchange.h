@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AclReplyHeader.h"
+#include "PrinterAnswer.h"
 #include "WTCUSBPrinter.h"
 
 #include <QString>
@@ -14,8 +15,12 @@ namespace PrinterExchange
 
 inline constexpr std::chrono::seconds usualTimeout{60};
 
-/// The reply header of one send: kept by its head callback, read after it.
-using KeptHeader = std::shared_ptr<std::optional<QByteArray>>;
+/// What the head callback of one send leaves for the callbacks after it.
+struct ReplyHead {
+    std::optional<QByteArray> header; ///< The header, when it was accepted.
+    std::optional<WTError> fault;     ///< Why the header that came was not accepted.
+};
+using KeptHead = std::shared_ptr<ReplyHead>;
 
 /// Logs the frame and sends it.
 void send(quint16 cmd, const QString &uri, const QByteArray &frame, std::chrono::milliseconds timeout,
@@ -25,8 +30,21 @@ void send(quint16 cmd, const QString &uri, const QByteArray &frame, std::chrono:
 /// sets `stop`; an absent one does nothing.
 std::optional<AclReplyHeader> acceptedHeader(quint16 cmd, const std::optional<QByteArray> &header, bool *stop);
 
-/// The usual head callback: logs the header, accepts it, asks for the data that it announces and puts it into `kept`,
-/// which may be empty.
-WTCUSBPrinter::HeadCallback usualHeadCallback(quint16 cmd, KeptHeader kept);
+/// Why a header is not accepted as the reply to `cmd`; absent for one that is, and for none at all.
+std::optional<WTError> headerFault(quint16 cmd, const std::optional<QByteArray> &header);
+
+/// The result with which a printer refused `cmd`, as an error.
+WTError refusal(quint16 cmd, quint16 result);
+
+/// The usual head callback: logs the header, accepts it, asks for the data that it announces and fills `head`.
+WTCUSBPrinter::HeadCallback usualHeadCallback(quint16 cmd, KeptHead head);
+
+/// What stands behind a reply that is not as it should be: the library's error, else the header's fault, else that
+/// nothing came.
+WTError cause(quint16 cmd, const std::optional<WTError> &error, const ReplyHead &head);
+
+/// `callBack`, given the cause as above with every answer that is no success.
+std::function<void(const PrinterAnswer &)> withCause(quint16 cmd, const std::optional<WTError> &error, KeptHead head,
+                                                     std::function<void(const PrinterAnswer &)> callBack);
 
 } // namespace PrinterExchange

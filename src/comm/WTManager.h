@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ModelCatalogue.h"
+#include "PrinterAnswer.h"
 #include "TimePort.h"
 #include "WTCServer.h"
 #include "WTC_WLAN.h"
@@ -18,17 +19,6 @@
 #include <optional>
 
 class SpoolerPort;
-
-/// Codes that the completions of printer operations receive.
-enum class WTPrinterStatus : int {
-    Success = 0,
-    NoHeader = 1, ///< Also: the printer refused; the result tells.
-    LibraryError31 = 2,
-    CommandMismatch = 3,
-    DataTooShort = 5,
-    NoValidAddress = 6,
-    NoData = 7,
-};
 
 /// The process-wide printer manager: the printers on the USB bus, the model catalogue, the printer commands and the
 /// application's close state. `shared()` may be called on any thread, `refreshUSBPrinterList` too.
@@ -75,8 +65,8 @@ public:
     bool oldAclPrinter(const QString &printerType) const;
 
     // -- printer commands ---------------------------------------------------------------------------------------
-    using StatusCallback = std::function<void(int status, quint16 result)>;
-    using AddressCallback = std::function<void(int status, const QString &text)>;
+    using StatusCallback = std::function<void(const PrinterAnswer &answer)>;
+    using AddressCallback = std::function<void(const AddressAnswer &answer)>;
     using WakeUpCallback = std::function<void(bool success, const std::optional<QString> &message)>;
 
     // A callback must be given, except where "may be empty" is said. The location ID is only logged.
@@ -89,7 +79,7 @@ public:
     /// Result: whether the printer can be configured. Main thread.
     static void checkWiFiCapabilityFromPrinter(const QString &uri, quint32 locationID, StatusCallback callBack);
     /// Tells the printer which network to join. On a worker thread of the library, five seconds after a success. Never
-    /// calls back when the network has no usable name. A password over 31 bytes is not sent and answers (1, 0).
+    /// calls back when the network has no usable name. A password over 31 bytes is not sent and answers `NoHeader`.
     static void wifiConfigForPrinter(const QString &uri, quint32 locationID, const QString &ssid,
                                      const QString &password, StatusCallback callBack);
     /// The address that the printer obtained, else a text that tells the fault. Main thread.

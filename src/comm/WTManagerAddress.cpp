@@ -13,36 +13,69 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 
-void askForAnnouncedData(const std::optional<QByteArray> &header, quint32 *dataLength, bool *stop)
+constexpr quint16 cmd = PrinterCommand::address;
+
+WTCUSBPrinter::HeadCallback askForAnnouncedData(PrinterExchange::KeptHead head)
 {
-    logInfo("recv ACL:0x%X, header:%@", PrinterCommand::address, header);
-    const auto reply = PrinterExchange::acceptedHeader(PrinterCommand::address, header, stop);
-    if (!reply)
-        return;
-    logInfo("0xFF0F:%d", reply->result());
-    if (reply->result() != 0)
-        *dataLength = reply->addedLengthBytes();
+    return [head = std::move(head)](const std::optional<QByteArray> &header, quint32 *dataLength, bool *stop) {
+        logInfo("recv ACL:0x%X, header:%@", cmd, describeReplyHeader(header));
+        head->fault = PrinterExchange::headerFault(cmd, header);
+        const auto reply = PrinterExchange::acceptedHeader(cmd, header, stop);
+        if (!reply)
+            return;
+        head->header = header;
+        logInfo("0xFF0F:%d", reply->result());
+        if (reply->result() != 0)
+            *dataLength = reply->addedLengthBytes();
+    };
 }
 
-void answer(const std::optional<QByteArray> &data, const WTManager::AddressCallback &callBack)
+/// A candidate for the log. A printer may send anything in an address's place, the network's password too.
+std::optional<QString> describeCandidate(const std::optional<QString> &text)
 {
-    if (!data) {
-        logError("Null recv data");
-        callBack(static_cast<int>(WTPrinterStatus::NoData), u"acl 获取到的数据为空!!!!!"_s);
-        return;
-    }
-    if (data->size() < leastAddressData) {
-        logError("data.length < 16");
-        callBack(static_cast<int>(WTPrinterStatus::DataTooShort), u"acl 获取数据失败，失败原因：数据长度不够！"_s);
-        return;
-    }
-    const AddressCandidates candidates = addressCandidates(*data);
-    logInfo("IPv4:%@, IPv6:%@, unstatus:%@", candidates.ipv4, candidates.ipv6, candidates.unstatus);
+    if (!text || text->isEmpty() || isIPv4Address(*text) || isIPv6Address(*text))
+        return text;
+    return formatText("{no address, length = %ld}", text->size());
+}
+
+WTError faultyData(WTPrinterStatus status, const QString &message)
+{
+    return {printerErrorDomain, static_cast<int>(status), message};
+}
+
+/// Why no data came: also a printer that has no address yet answers without.
+WTError absence(const std::optional<WTError> &error, const PrinterExchange::ReplyHead &head)
+{
+    if (error || !head.header)
+        return PrinterExchange::cause(cmd, error, head);
+    return faultyData(WTPrinterStatus::NoData, formatText("the reply to 0x%X announces no data", cmd));
+}
+
+AddressAnswer answerWithoutData(const WTError &cause)
+{
+    logError("Null recv data");
+    return {WTPrinterStatus::NoData, u"acl 获取到的数据为空!!!!!"_s, cause};
+}
+
+AddressAnswer answerWithShortData(qsizetype size)
+{
+    logError("data.length < 16");
+    return {
+        WTPrinterStatus::DataTooShort, u"acl 获取数据失败，失败原因：数据长度不够！"_s,
+        faultyData(WTPrinterStatus::DataTooShort, formatText("the reply to 0x%X has %ld bytes of data", cmd, size))};
+}
+
+void answer(const QByteArray &data, const WTManager::AddressCallback &callBack)
+{
+    const AddressCandidates candidates = addressCandidates(data);
+    logInfo("IPv4:%@, IPv6:%@, unstatus:%@", describeCandidate(candidates.ipv4), describeCandidate(candidates.ipv6),
+            describeCandidate(candidates.unstatus));
     if (const auto address = chooseAddress(candidates)) {
-        callBack(static_cast<int>(WTPrinterStatus::Success), *address);
+        callBack({WTPrinterStatus::Success, *address});
         return;
     }
-    callBack(static_cast<int>(WTPrinterStatus::NoValidAddress), u""_s);
+    callBack({WTPrinterStatus::NoValidAddress, u""_s,
+              faultyData(WTPrinterStatus::NoValidAddress, formatText("the reply to 0x%X holds no address", cmd))});
     logError("🤢🤢🤢");
 }
 
@@ -50,12 +83,20 @@ void answer(const std::optional<QByteArray> &data, const WTManager::AddressCallb
 
 void WTManager::getIPAddressFromPrinter(const QString &uri, quint32, AddressCallback callBack)
 {
-    constexpr quint16 cmd = PrinterCommand::address;
-    PrinterExchange::send(
-        cmd, uri, WTCommand::PJLWithCMD(cmd, std::nullopt), PrinterExchange::usualTimeout, askForAnnouncedData,
-        [callBack = std::move(callBack)](const std::optional<QByteArray> &data, const std::optional<WTError> &) {
-            onMainThread([data, callBack] { answer(data, callBack); });
-        });
+    const auto head = std::make_shared<PrinterExchange::ReplyHead>();
+    PrinterExchange::send(cmd, uri, WTCommand::PJLWithCMD(cmd, std::nullopt), PrinterExchange::usualTimeout,
+                          askForAnnouncedData(head),
+                          [head, callBack = std::move(callBack)](const std::optional<QByteArray> &data,
+                                                                 const std::optional<WTError> &error) {
+                              onMainThread([head, data, error, callBack] {
+                                  if (!data)
+                                      callBack(answerWithoutData(absence(error, *head)));
+                                  else if (data->size() < leastAddressData)
+                                      callBack(answerWithShortData(data->size()));
+                                  else
+                                      answer(*data, callBack);
+                              });
+                          });
 }
 
 std::optional<QString> WTManager::ipByData(const QByteArray &data, qsizetype location, qsizetype length)
@@ -66,6 +107,6 @@ std::optional<QString> WTManager::ipByData(const QByteArray &data, qsizetype loc
         const qsizetype end = field.indexOf('\0');
         text = utf8Text(end < 0 ? field : field.first(end));
     }
-    logInfo("IP:%@", text);
+    logInfo("IP:%@", describeCandidate(text));
     return text;
 }

@@ -27,15 +27,24 @@ SerialQueue &refusals()
     return *queue;
 }
 
-WTCUSBPrinter::HeadCallback keepResult(std::shared_ptr<quint16> kept)
+WTCUSBPrinter::HeadCallback keepHeaderOnly(PrinterExchange::KeptHead head)
 {
-    return [kept = std::move(kept)](const std::optional<QByteArray> &header, quint32 *dataLength, bool *stop) {
-        logInfo("recv ACL:0x%X, header:%@", PrinterCommand::wifiConfiguration, header);
-        if (const auto reply = PrinterExchange::acceptedHeader(PrinterCommand::wifiConfiguration, header, stop)) {
-            *kept = reply->result();
+    return [head = std::move(head)](const std::optional<QByteArray> &header, quint32 *dataLength, bool *stop) {
+        constexpr quint16 cmd = PrinterCommand::wifiConfiguration;
+        logInfo("recv ACL:0x%X, header:%@", cmd, describeReplyHeader(header));
+        head->fault = PrinterExchange::headerFault(cmd, header);
+        if (PrinterExchange::acceptedHeader(cmd, header, stop)) {
+            head->header = header;
             *dataLength = 0;
         }
     };
+}
+
+PrinterAnswer judge(const PrinterExchange::ReplyHead &head, bool hasData, const std::optional<WTError> &error)
+{
+    if (!head.header)
+        return configurationOutcome(hasData, PrinterExchange::cause(PrinterCommand::wifiConfiguration, error, head), 0);
+    return configurationOutcome(hasData, error, AclReplyHeader{*head.header}.result());
 }
 
 } // namespace
@@ -51,19 +60,22 @@ void WTManager::wifiConfigForPrinter(const QString &uri, quint32, const QString 
     if (!payload) {
         logError("The password is longer than the %ld bytes that a printer takes; nothing is sent.",
                  WifiConfigurationPayload::passwordLimit);
-        refusals().async(
-            [callBack = std::move(callBack)] { callBack(static_cast<int>(WTPrinterStatus::NoHeader), 0); });
+        const WTError tooLong{printerErrorDomain, static_cast<int>(WTPrinterStatus::NoHeader),
+                              u"the password is longer than a printer takes"_s};
+        refusals().async([callBack = std::move(callBack), tooLong] {
+            callBack({.status = WTPrinterStatus::NoHeader, .cause = tooLong});
+        });
         return;
     }
 
     constexpr quint16 cmd = PrinterCommand::wifiConfiguration;
-    const auto result = std::make_shared<quint16>(0);
-    PrinterExchange::send(cmd, uri, WTCommand::PJLWithCMD(cmd, payload), joinTimeout, keepResult(result),
-                          [result, callBack = std::move(callBack)](const std::optional<QByteArray> &data,
-                                                                   const std::optional<WTError> &error) {
-                              const auto outcome = configurationOutcome(data.has_value(), error, *result);
-                              if (outcome.status == WTPrinterStatus::Success)
+    const auto head = std::make_shared<PrinterExchange::ReplyHead>();
+    PrinterExchange::send(cmd, uri, WTCommand::PJLWithCMD(cmd, payload), joinTimeout, keepHeaderOnly(head),
+                          [head, callBack = std::move(callBack)](const std::optional<QByteArray> &data,
+                                                                 const std::optional<WTError> &error) {
+                              const PrinterAnswer answer = judge(*head, data.has_value(), error);
+                              if (answer.status == WTPrinterStatus::Success)
                                   shared().time().sleep(switchPause);
-                              callBack(static_cast<int>(outcome.status), outcome.result);
+                              callBack(answer);
                           });
 }

@@ -19,22 +19,22 @@ constexpr std::chrono::seconds wakeUpTimeout{6};
 
 void WTManager::wt_cmd(quint16 cmd, const std::optional<QByteArray> &header, const StatusCallback &callBack)
 {
-    logInfo("send_cmd:0x%04X header data:%@", cmd, header);
+    logInfo("send_cmd:0x%04X header data:%@", cmd, describeReplyHeader(header));
     if (!header || header->size() < AclReplyHeader::leastSize) {
         logErrorSynchronously("no header data!");
-        callBack(static_cast<int>(WTPrinterStatus::NoHeader), 0);
+        callBack({.status = WTPrinterStatus::NoHeader, .cause = PrinterExchange::cause(cmd, {}, {})});
         return;
     }
     const AclReplyHeader reply{*header};
     logInfo("recv_cmd:0x%X result:0x%X", reply.command(), reply.result());
     if (reply.command() != cmd) {
         logErrorSynchronously("cmd not match!");
-        callBack(static_cast<int>(WTPrinterStatus::CommandMismatch), 0);
+        callBack({.status = WTPrinterStatus::CommandMismatch, .cause = PrinterExchange::headerFault(cmd, header)});
         return;
     }
     if (callBack) {
         logInfo("cb_success!");
-        callBack(static_cast<int>(WTPrinterStatus::Success), reply.result());
+        callBack({.status = WTPrinterStatus::Success, .result = reply.result()});
     }
 }
 
@@ -52,9 +52,10 @@ void WTManager::wt_wakeUpPrinter(const QString &uri, quint32 locationID, WakeUpC
 
     constexpr quint16 cmd = PrinterCommand::wakeUp;
     PrinterExchange::send(
-        cmd, uri, WTCommand::PJLWithCMD(cmd), wakeUpTimeout, PrinterExchange::usualHeadCallback(cmd, nullptr),
+        cmd, uri, WTCommand::PJLWithCMD(cmd), wakeUpTimeout,
+        PrinterExchange::usualHeadCallback(cmd, std::make_shared<PrinterExchange::ReplyHead>()),
         [uri, complete = std::move(complete)](const std::optional<QByteArray> &data, const std::optional<WTError> &) {
-            logInfo("ACL:0x%X, uri:%@, 最终返回 👉 data:%@", PrinterCommand::wakeUp, uri, data);
+            logInfo("ACL:0x%X, uri:%@, 最终返回 👉 data:%@", PrinterCommand::wakeUp, uri, describeReplyData(data));
             if (complete)
                 onMainThread([complete] { complete(true, std::nullopt); });
         });
@@ -66,15 +67,15 @@ void WTManager::checkWiFiCapabilityFromPrinter(const QString &uri, quint32 locat
         logError("checkWiFiCapabilityFromPrinter, printerURI: %@ locationID:0x%X", uri, locationID);
 
     constexpr quint16 cmd = PrinterCommand::wifiCapability;
-    const auto kept = std::make_shared<std::optional<QByteArray>>();
+    const auto head = std::make_shared<PrinterExchange::ReplyHead>();
     PrinterExchange::send(
         cmd, uri, WTCommand::PJLWithCMD(cmd, QByteArray{}), PrinterExchange::usualTimeout,
-        PrinterExchange::usualHeadCallback(cmd, kept),
-        [kept, callBack = std::move(callBack)](const std::optional<QByteArray> &, const std::optional<WTError> &error) {
-            onMainThread([kept, error, callBack] {
+        PrinterExchange::usualHeadCallback(cmd, head),
+        [head, callBack = std::move(callBack)](const std::optional<QByteArray> &, const std::optional<WTError> &error) {
+            onMainThread([head, error, callBack] {
                 if (error)
                     logError("FF81 返回错误：%@", error->domain);
-                wt_cmd(PrinterCommand::wifiCapability, *kept, callBack);
+                wt_cmd(cmd, head->header, PrinterExchange::withCause(cmd, error, head, callBack));
             });
         });
 }

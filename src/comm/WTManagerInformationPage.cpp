@@ -27,11 +27,11 @@ void logOutcome(const QString &uri, const std::optional<QByteArray> &data, const
 {
     constexpr quint16 cmd = PrinterCommand::informationPage;
     if (data && !error) {
-        logInfo("ACL:0x%X, uri:%@, 最终返回 👉 data:%@", cmd, uri, data);
+        logInfo("ACL:0x%X, uri:%@, 最终返回 👉 data:%@", cmd, uri, describeReplyData(data));
         return;
     }
     const auto reason = error ? std::optional{error->message} : std::nullopt;
-    logInfo("ACL:0x%X, uri:%@, 最终返回 👉 data:%@ error:%@", cmd, uri, data, reason);
+    logInfo("ACL:0x%X, uri:%@, 最终返回 👉 data:%@ error:%@", cmd, uri, describeReplyData(data), reason);
 }
 
 } // namespace
@@ -40,13 +40,14 @@ void WTManager::printingWiFiInfoFromPrinter(const QString &uri, quint32, const Q
 {
     constexpr quint16 cmd = PrinterCommand::informationPage;
     const QByteArray frame = informationPageFrame(shared().oldAclPrinter(model));
-    const auto kept = std::make_shared<std::optional<QByteArray>>();
+    const auto head = std::make_shared<PrinterExchange::ReplyHead>();
     PrinterExchange::send(cmd, uri, WTCommand::PJLWithACLData(frame), PrinterExchange::usualTimeout,
-                          PrinterExchange::usualHeadCallback(cmd, kept),
-                          [uri, kept, callBack = std::move(callBack)](const std::optional<QByteArray> &data,
+                          PrinterExchange::usualHeadCallback(cmd, head),
+                          [uri, head, callBack = std::move(callBack)](const std::optional<QByteArray> &data,
                                                                       const std::optional<WTError> &error) {
                               logOutcome(uri, data, error);
-                              onMainThread(
-                                  [kept, callBack] { wt_cmd(PrinterCommand::informationPage, *kept, callBack); });
+                              onMainThread([head, error, callBack] {
+                                  wt_cmd(cmd, head->header, PrinterExchange::withCause(cmd, error, head, callBack));
+                              });
                           });
 }

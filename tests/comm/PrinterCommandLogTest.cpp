@@ -29,7 +29,7 @@ private:
 void PrinterCommandLogTest::logsTheExchange_data()
 {
     const auto reply = [](const QString &command, const char *rest = "000000000000000000000000") {
-        return describeBytes(QByteArray::fromHex("00ac" + command.toLatin1() + rest));
+        return *describeReplyHeader(QByteArray::fromHex("00ac" + command.toLatin1() + rest));
     };
     const auto sent = [](const QString &command, int size = 59) {
         return u"info: send ACL:0x%1, uri:URI, data:{length = %2, "_s.arg(command).arg(size) +
@@ -110,9 +110,9 @@ void PrinterCommandLogTest::sendsNoConfigurationThatDoesNotFit()
     Answer nameless;
     Answer tooLong;
     WTManager::wifiConfigForPrinter(m_bench.uri(), 1, u" \n"_s, networkPassword,
-                                    [&](int status, quint16 result) { nameless.give(status, result); });
+                                    [&](const PrinterAnswer &answer) { nameless.give(answer); });
     WTManager::wifiConfigForPrinter(m_bench.uri(), 1, networkName, longPassword,
-                                    [&](int status, quint16 result) { tooLong.give(status, result); });
+                                    [&](const PrinterAnswer &answer) { tooLong.give(answer); });
     QVERIFY(m_bench.runUntil([&] { return tooLong.calls() > 0; }));
 
     QCOMPARE(tooLong.text(), u"1, 0x0"_s);

@@ -41,7 +41,7 @@ std::shared_ptr<Answer> start(Operation operation, const QString &uri)
 {
     constexpr quint32 location = 0x01100000;
     const auto answer = std::make_shared<Answer>();
-    const auto status = [answer](int code, quint16 result) { answer->give(code, result); };
+    const auto status = [answer](const PrinterAnswer &given) { answer->give(given); };
     switch (operation) {
     case Operation::WakeUp:
         WTManager::wt_wakeUpPrinter(uri, location, [answer](bool success, const std::optional<QString> &message) {
@@ -55,8 +55,9 @@ std::shared_ptr<Answer> start(Operation operation, const QString &uri)
         WTManager::wifiConfigForPrinter(uri, location, networkName, networkPassword, status);
         break;
     case Operation::Address:
-        WTManager::getIPAddressFromPrinter(uri, location,
-                                           [answer](int code, const QString &text) { answer->give(code, text); });
+        WTManager::getIPAddressFromPrinter(uri, location, [answer](const AddressAnswer &given) {
+            answer->give(static_cast<int>(given.status), given.text);
+        });
         break;
     case Operation::InformationPage:
         WTManager::printingWiFiInfoFromPrinter(uri, location, u"QZ100"_s, status);

@@ -2,6 +2,7 @@
 
 #include "EmulatedCommand.h"
 #include "Locked.h"
+#include "PrinterAnswer.h"
 #include "PrinterScript.h"
 
 #include <QString>
@@ -24,7 +25,10 @@ class Answer
 {
 public:
     void give(int status, const QString &text);
-    void give(int status, quint16 result) { give(status, QStringLiteral("0x%1").arg(result, 0, 16)); }
+    void give(const PrinterAnswer &answer)
+    {
+        give(static_cast<int>(answer.status), QStringLiteral("0x%1").arg(answer.result, 0, 16));
+    }
 
     int calls() const;
     QString text() const;

@@ -44,14 +44,16 @@ void ReplyCheckTest::checksAReplyHeader()
     const LogCollector log;
 
     int calls = 0;
-    WTManager::wt_cmd(0xFF81, header, [&](int givenStatus, quint16 givenResult) {
+    WTManager::wt_cmd(0xFF81, header, [&](const PrinterAnswer &answer) {
         ++calls;
-        QCOMPARE(givenStatus, status);
-        QCOMPARE(givenResult, result);
+        QCOMPARE(static_cast<int>(answer.status), status);
+        QCOMPARE(answer.cause.has_value(), status != 0);
+        QCOMPARE(answer.result, result);
         QCOMPARE(log.writtenSoFar().filter(u"error: "_s), errors);
     });
     QCOMPARE(calls, 1);
-    QCOMPARE(log.lines().constFirst(), u"info: send_cmd:0xFF81 header data:"_s + FormatArgument{header}.text());
+    QCOMPARE(log.lines().constFirst(),
+             u"info: send_cmd:0xFF81 header data:"_s + describeReplyHeader(header).value_or(u"(null)"_s));
     QCOMPARE(log.lines().contains(u"info: cb_success!"_s), status == 0);
 }
 
@@ -59,8 +61,10 @@ void ReplyCheckTest::needsNoCallbackForAMatchingHeader()
 {
     const LogCollector log;
     WTManager::wt_cmd(0xFF21, QByteArray::fromHex("00acff210000"), nullptr);
-    QCOMPARE(log.lines(), (QStringList{u"info: send_cmd:0xFF21 header data:{length = 6, bytes = 0x00acff210000}"_s,
-                                       u"info: recv_cmd:0xFF21 result:0x0"_s}));
+    QCOMPARE(
+        log.lines(),
+        (QStringList{u"info: send_cmd:0xFF21 header data:{length = 6, command = 0xFF21, result = 0x0000, data = 0}"_s,
+                     u"info: recv_cmd:0xFF21 result:0x0"_s}));
 }
 
 void ReplyCheckTest::judgesAFinishedConfiguration()
@@ -68,11 +72,12 @@ void ReplyCheckTest::judgesAFinishedConfiguration()
     using Status = WTPrinterStatus;
     const WTError unreachable{wtcErrorDomain, 31, {}};
     const WTError timedOut{wtcErrorDomain, 32, {}};
-    QVERIFY(configurationOutcome(false, {}, 7) == (ConfigurationOutcome{Status::NoHeader, 7}));
-    QVERIFY(configurationOutcome(false, unreachable, 1) == (ConfigurationOutcome{Status::LibraryError31, 31}));
-    QVERIFY(configurationOutcome(true, unreachable, 1) == (ConfigurationOutcome{Status::Success, 1}));
-    QVERIFY(configurationOutcome(false, timedOut, 1) == (ConfigurationOutcome{Status::Success, 1}));
-    QVERIFY(configurationOutcome(false, timedOut, 0) == (ConfigurationOutcome{Status::NoHeader, 0}));
+    const WTError refused = PrinterExchange::refusal(0xFF80, 7);
+    QVERIFY(configurationOutcome(false, {}, 7) == (PrinterAnswer{Status::NoHeader, 7, refused}));
+    QVERIFY(configurationOutcome(false, unreachable, 1) == (PrinterAnswer{Status::LibraryError31, 31, unreachable}));
+    QVERIFY(configurationOutcome(true, unreachable, 1) == (PrinterAnswer{Status::Success, 1}));
+    QVERIFY(configurationOutcome(false, timedOut, 1) == (PrinterAnswer{Status::Success, 1}));
+    QVERIFY(configurationOutcome(false, timedOut, 0) == (PrinterAnswer{Status::NoHeader, 0, timedOut}));
 }
 
 void ReplyCheckTest::acceptsOnlyWholeHeadersOfTheCommand()

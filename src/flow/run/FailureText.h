@@ -1,5 +1,7 @@
 #pragma once
 
+#include "RunOutcome.h"
+
 #include <QString>
 
 /// What the failure screen says; keys of their translations.
@@ -10,5 +12,5 @@ struct FailureText {
     bool operator==(const FailureText &) const = default;
 };
 
-/// The capability code counts only with `showWiFiCapabilityError`, and then outranks the interface error.
-FailureText failureText(bool showInterfaceError, bool showWiFiCapabilityError, quint64 wifiCapabilityError);
+/// The capability reason counts only with `showWiFiCapabilityError`, and then outranks the interface error.
+FailureText failureText(bool showInterfaceError, bool showWiFiCapabilityError, CapabilityReason wifiCapabilityError);

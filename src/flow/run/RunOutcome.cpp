@@ -1,43 +1,30 @@
 #include "RunOutcome.h"
 
-#include <algorithm>
-#include <array>
-
-namespace
+std::optional<RunEnd> runEnd(RunEndCode endCode)
 {
-
-using Screen = RunOutcome::Screen;
-
-struct Row {
-    RunEndCode code;
-    RunEnd end;
-};
-
-constexpr auto upgrading = static_cast<quint64>(CapabilityReason::Upgrading);
-
-constexpr std::array rows{
-    Row{RunEndCode::Unreachable, {{Screen::Failed, false}}},
-    Row{RunEndCode::Completed, {{Screen::Complete}, true}},
-    Row{RunEndCode::ConfigurationFailed, {{Screen::ConfigFailed}}},
-    Row{RunEndCode::NoAddress, {{Screen::Failed, false}}},
-    Row{RunEndCode::InterfaceError, {{Screen::Failed, true}}},
-    Row{RunEndCode::Upgrading, {{Screen::Failed, {}, true, upgrading}, true}},
-};
-
-} // namespace
-
-std::optional<RunEnd> runEnd(int endCode)
-{
-    const auto row = std::ranges::find(rows, static_cast<RunEndCode>(endCode), &Row::code);
-    return row == rows.end() ? std::nullopt : std::optional(row->end);
+    using Screen = RunOutcome::Screen;
+    switch (endCode) {
+    case RunEndCode::Unreachable:
+    case RunEndCode::NoAddress:
+        return RunEnd{.outcome = {.screen = Screen::Failed, .showInterfaceError = false}};
+    case RunEndCode::Completed:
+        return RunEnd{.outcome = {.screen = Screen::Complete}, .closeQuits = true};
+    case RunEndCode::ConfigurationFailed:
+        return RunEnd{.outcome = {.screen = Screen::ConfigFailed}};
+    case RunEndCode::InterfaceError:
+        return RunEnd{.outcome = {.screen = Screen::Failed, .showInterfaceError = true}};
+    case RunEndCode::Upgrading:
+        return RunEnd{.outcome = capabilityFailure(CapabilityReason::Upgrading), .closeQuits = true};
+    }
+    return std::nullopt; // A code without a name, which the run's screen may be given.
 }
 
-RunOutcome capabilityFailure(quint64 reason)
+RunOutcome capabilityFailure(CapabilityReason reason)
 {
-    return {Screen::Failed, {}, true, reason};
+    return {.screen = RunOutcome::Screen::Failed, .showWiFiCapabilityError = true, .wifiCapabilityError = reason};
 }
 
 RunOutcome communicationFailure()
 {
-    return {Screen::Failed, true, false, {}};
+    return {.screen = RunOutcome::Screen::Failed, .showInterfaceError = true, .showWiFiCapabilityError = false};
 }

@@ -1,9 +1,9 @@
 #include "WTConfigurationRun.h"
 
-#include "AddressAnswer.h"
-#include "CapabilityAnswer.h"
-#include "ConfigurationAnswer.h"
 #include "Log.h"
+#include "PrinterCommand.h"
+#include "PrinterExchange.h"
+#include "RunAnswers.h"
 #include "WTManager.h"
 
 namespace
@@ -38,11 +38,12 @@ void WTConfigurationRun::setProgress(int progress)
     Q_EMIT progressChanged(progress);
 }
 
-void WTConfigurationRun::viewDidApear()
+void WTConfigurationRun::start()
 {
     ++m_runNumber;
     m_pollRetry.reset();
     m_retryTime = 0;
+    m_cause.reset();
     beginStep(RunStep::Waking);
     WTManager::wt_wakeUpPrinter(uri(), locationID(), then([this](bool success, const std::optional<QString> &message) {
                                     logInfo("wakeup result:%@ msg:%@", success ? "✅" : "❌", message);
@@ -60,13 +61,16 @@ void WTConfigurationRun::ff_config()
     } else if (m_printer->wifiCode == wifiSupportUnknown) {
         logInfo("检查是否可以配网！！！！！");
         WTManager::checkWiFiCapabilityFromPrinter(
-            uri(), locationID(), then([this](int status, quint16 code) { classifyCapability(status, code); }));
+            uri(), locationID(), then([this](const PrinterAnswer &answer) { classifyCapability(answer); }));
     }
 }
 
-void WTConfigurationRun::classifyCapability(int status, quint16 code)
+void WTConfigurationRun::classifyCapability(const PrinterAnswer &answer)
 {
-    const CapabilityDecision decision = capabilityDecision(status, code);
+    const CapabilityDecision decision = capabilityDecision(answer.status, static_cast<CapabilityResult>(answer.result));
+    m_cause = answer.cause;
+    if (answer.status == WTPrinterStatus::Success && decision.action != CapabilityDecision::Action::Configure)
+        m_cause = PrinterExchange::refusal(PrinterCommand::wifiCapability, answer.result);
     switch (decision.action) {
     case CapabilityDecision::Action::Configure:
         confingWiFiStart();
@@ -77,7 +81,7 @@ void WTConfigurationRun::classifyCapability(int status, quint16 code)
         end(communicationFailure());
         break;
     case CapabilityDecision::Action::ShowError:
-        showErrorView(static_cast<quint64>(decision.reason));
+        showErrorView(decision.reason);
         break;
     }
 }
@@ -94,17 +98,22 @@ void WTConfigurationRun::confingWiFiStart()
 void WTConfigurationRun::wt_sendConfigWIFIACL()
 {
     beginStep(RunStep::Sending);
-    auto classify = then([this](int errorCode, quint16 respCode) { classifyConfiguration(errorCode, respCode); });
+    auto classify = then([this](const PrinterAnswer &answer) { classifyConfiguration(answer); });
     WTManager::wifiConfigForPrinter(uri(), locationID(), m_wifi->SSID.value_or(QString()),
-                                    m_wifi->password.value_or(QString()), [classify](int errorCode, quint16 respCode) {
-                                        logInfo("FF80->errorCode:%ld, respCode:%hu", errorCode, respCode);
-                                        classify(errorCode, respCode);
+                                    m_wifi->password.value_or(QString()), [classify](const PrinterAnswer &answer) {
+                                        logInfo("FF80->errorCode:%ld, respCode:%hu", static_cast<int>(answer.status),
+                                                answer.result);
+                                        classify(answer);
                                     });
 }
 
-void WTConfigurationRun::classifyConfiguration(int errorCode, quint16 respCode)
+void WTConfigurationRun::classifyConfiguration(const PrinterAnswer &answer)
 {
-    const ConfigurationDecision decision = configurationDecision(errorCode, respCode);
+    const ConfigurationDecision decision =
+        configurationDecision(answer.status, static_cast<ConfigurationResult>(answer.result));
+    m_cause = answer.cause;
+    if (answer.status == WTPrinterStatus::Success && decision.action != ConfigurationDecision::Action::PollAddress)
+        m_cause = PrinterExchange::refusal(PrinterCommand::wifiConfiguration, answer.result);
     switch (decision.action) {
     case ConfigurationDecision::Action::PollAddress:
         getNetConfigWithTime(0);
@@ -113,7 +122,7 @@ void WTConfigurationRun::classifyConfiguration(int errorCode, quint16 respCode)
         ff_closeTimer();
         break;
     case ConfigurationDecision::Action::End:
-        closeTimer(static_cast<int>(decision.endCode));
+        closeTimer(decision.endCode);
         break;
     case ConfigurationDecision::Action::Retry:
         retryConfiguration();
@@ -128,7 +137,7 @@ void WTConfigurationRun::retryConfiguration()
     logInfo("retry time:%ld", m_retryTime);
     if (m_retryTime >= configurationRetries) {
         logInfo("did retry!");
-        closeTimer(static_cast<int>(RunEndCode::ConfigurationFailed));
+        closeTimer(RunEndCode::ConfigurationFailed);
         return;
     }
     ++m_retryTime;
@@ -145,28 +154,28 @@ void WTConfigurationRun::getNetConfigWithTime(qint64 time)
     }
     if (time >= addressQueries) {
         logError("Too many times");
-        closeTimer(static_cast<int>(RunEndCode::NoAddress));
+        closeTimer(RunEndCode::NoAddress);
         return;
     }
     beginStep(RunStep::WaitingForAddress, static_cast<int>(time));
-    WTManager::getIPAddressFromPrinter(uri(), locationID(), then([this, time](int status, const QString &text) {
-                                           classifyAddress(time, status, text);
-                                       }));
+    WTManager::getIPAddressFromPrinter(
+        uri(), locationID(), then([this, time](const AddressAnswer &answer) { classifyAddress(time, answer); }));
 }
 
-void WTConfigurationRun::classifyAddress(qint64 time, int status, const QString &text)
+void WTConfigurationRun::classifyAddress(qint64 time, const AddressAnswer &answer)
 {
-    const std::optional<AddressDecision> decision = addressDecision(status);
-    if (!decision)
-        return;
-    switch (decision->action) {
+    const AddressDecision decision = addressDecision(answer.status);
+    m_cause = answer.cause;
+    switch (decision.action) {
     case AddressDecision::Action::Succeed:
-        logInfo(decision->logFormat, text);
-        ff_gotoNextWith(text);
+        logInfo(decision.logFormat, answer.text);
+        ff_gotoNextWith(answer.text);
         break;
     case AddressDecision::Action::Retry:
-        logError(decision->logFormat, text);
-        ff_getNetConfigWithTime(time, decision->tag);
+        logError(decision.logFormat, answer.text);
+        ff_getNetConfigWithTime(time, decision.tag);
+        break;
+    case AddressDecision::Action::Nothing:
         break;
     }
 }
@@ -194,19 +203,19 @@ void WTConfigurationRun::gotoNext()
     setProgress(fullProgress);
     m_timer.reset();
     m_getTimer.reset();
-    end({RunOutcome::Screen::Complete});
+    end({.screen = RunOutcome::Screen::Complete});
 }
 
 void WTConfigurationRun::ff_closeTimer()
 {
     logInfo("🏷");
     WTManager::shared().setCloseEnable(WTManager::CloseAsks);
-    closeTimer(static_cast<int>(RunEndCode::ConfigurationFailed));
+    closeTimer(RunEndCode::ConfigurationFailed);
 }
 
-void WTConfigurationRun::closeTimer(int endCode)
+void WTConfigurationRun::closeTimer(RunEndCode endCode)
 {
-    logInfo("🏷 result：%d", endCode);
+    logInfo("🏷 result：%d", static_cast<int>(endCode));
     m_isSendSuccessFlag = false;
     setProgress(fullProgress);
     m_timer.reset();
@@ -219,9 +228,9 @@ void WTConfigurationRun::closeTimer(int endCode)
     end(runEnded->outcome);
 }
 
-void WTConfigurationRun::showErrorView(quint64 reason)
+void WTConfigurationRun::showErrorView(CapabilityReason reason)
 {
-    logInfo("🏷 error:%lu", reason);
+    logInfo("🏷 error:%lu", static_cast<quint64>(reason));
     WTManager::shared().setCloseEnable(WTManager::CloseQuits);
     setProgress(0);
     end(capabilityFailure(reason));
@@ -241,8 +250,13 @@ void WTConfigurationRun::reportUnansweredStep()
     Q_EMIT stepUnanswered();
 }
 
-void WTConfigurationRun::end(const RunOutcome &outcome)
+void WTConfigurationRun::end(RunOutcome outcome)
 {
+    if (m_cause && outcome.screen != RunOutcome::Screen::Complete) {
+        logWarning("The run ended while %@: %@ %d, %@", logName(m_step), m_cause->domain, m_cause->code,
+                   m_cause->message);
+        outcome.cause = {.step = m_step, .error = *m_cause};
+    }
     m_step = RunStep::Ended;
     m_stepWatch.reset();
     Q_EMIT stepChanged(m_step, 0);

@@ -2,6 +2,7 @@
 
 #include "MainThread.h"
 #include "OnMainThreadAfter.h"
+#include "PrinterAnswer.h"
 #include "ProgressTimer.h"
 #include "RunOutcome.h"
 #include "RunStep.h"
@@ -18,10 +19,10 @@
 /// ask for its address until it has one. It owns the order of the steps, the retries and the progress; what an answer
 /// leads to stands in the tables beside it.
 ///
-///     viewDidApear ── wake-up ──► ff_config ──► confingWiFiStart ──► getNetConfigWithTime(0..6) ──► gotoNext
-///                                     └ capability ┘   └ retry ≤ 2 ┘        └ 2.0 s ┘
+///     start ── wake-up ──► ff_config ──► confingWiFiStart ──► getNetConfigWithTime(0..6) ──► gotoNext
+///                              └ capability ┘   └ retry ≤ 2 ┘        └ 2.0 s ┘
 ///
-/// Everything runs on the main thread. An answer that belongs to an earlier appearance is dropped.
+/// Everything runs on the main thread. An answer that belongs to an earlier start is dropped.
 class WTConfigurationRun : public QObject
 {
     Q_OBJECT
@@ -46,8 +47,8 @@ public:
     bool isSendSuccessFlag() const { return m_isSendSuccessFlag; }
     RunStep step() const { return m_step; }
 
-    /// Begins a new run.
-    void viewDidApear();
+    /// Begins a new run, also while one is under way.
+    void start();
     void ff_config();
     void confingWiFiStart();
     /// Sends the configuration.
@@ -61,15 +62,15 @@ public:
     void ff_gotoNextWith(const std::optional<QString> &ipInfo);
     void gotoNext();
     /// Ends on the screen that the table of end codes names.
-    void closeTimer(int endCode);
+    void closeTimer(RunEndCode endCode);
     void ff_closeTimer();
-    void showErrorView(quint64 reason);
+    void showErrorView(CapabilityReason reason);
 
     // What an answer leads to, once it has come to the main thread.
-    void classifyCapability(int status, quint16 code);
-    void classifyConfiguration(int errorCode, quint16 respCode);
+    void classifyCapability(const PrinterAnswer &answer);
+    void classifyConfiguration(const PrinterAnswer &answer);
     /// @param time the attempt that is answered.
-    void classifyAddress(qint64 time, int status, const QString &text);
+    void classifyAddress(qint64 time, const AddressAnswer &answer);
 
 Q_SIGNALS:
     void progressChanged(int progress);
@@ -84,7 +85,8 @@ private:
 
     void beginStep(RunStep step, int attempt = 0);
     void reportUnansweredStep();
-    void end(const RunOutcome &outcome);
+    /// Logs the cause, if there is one, and hands it on with the outcome.
+    void end(RunOutcome outcome);
 
     QString uri() const { return m_printer->usbObj->URI(); }
     quint32 locationID() const { return m_printer->usbObj->locationID; }
@@ -111,6 +113,7 @@ private:
     RunStep m_step = RunStep::Idle;
     qint64 m_retryTime = 0;
     bool m_isSendSuccessFlag = false;
+    std::optional<WTError> m_cause; ///< Of the latest answer, where it was no success.
     int m_progress = 0;
 
     std::unique_ptr<ProgressTimer> m_timer;

@@ -42,7 +42,8 @@ void WTFailedView::viewDidApear()
 
 void WTFailedView::ff_judgeError()
 {
-    const FailureText failure = failureText(m_showInterfaceError, m_showWiFiCapabilityError, m_wifiCapabilityError);
+    const FailureText failure = failureText(m_showInterfaceError, m_showWiFiCapabilityError,
+                                            static_cast<CapabilityReason>(m_wifiCapabilityError));
     m_errorMessage->setMessage(localized(failure.text));
     m_errorMessage->setAdvice(localized(failure.advice));
 }

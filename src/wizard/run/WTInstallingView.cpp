@@ -111,7 +111,7 @@ void WTInstallingView::viewWillMoveToSuperview()
 void WTInstallingView::viewDidApear()
 {
     WTView::viewDidApear();
-    m_run->viewDidApear();
+    m_run->start();
 }
 
 void WTInstallingView::ff_config()
@@ -151,7 +151,7 @@ void WTInstallingView::gotoNext()
 
 void WTInstallingView::closeTimer(int endCode)
 {
-    m_run->closeTimer(endCode);
+    m_run->closeTimer(static_cast<RunEndCode>(endCode));
 }
 
 void WTInstallingView::ff_closeTimer()
@@ -161,7 +161,7 @@ void WTInstallingView::ff_closeTimer()
 
 void WTInstallingView::showErrorView(quint64 reason)
 {
-    m_run->showErrorView(reason);
+    m_run->showErrorView(static_cast<CapabilityReason>(reason));
 }
 
 void WTInstallingView::showNetwork()
@@ -191,7 +191,7 @@ void WTInstallingView::showOutcome(const RunOutcome &outcome)
     if (outcome.showWiFiCapabilityError)
         m_failedView->setShowWiFiCapabilityError(*outcome.showWiFiCapabilityError);
     if (outcome.wifiCapabilityError)
-        m_failedView->setWifiCapabilityError(*outcome.wifiCapabilityError);
+        m_failedView->setWifiCapabilityError(static_cast<quint64>(*outcome.wifiCapabilityError));
     switch (outcome.screen) {
     case RunOutcome::Screen::Complete:
         pushView(m_completeView);

@@ -1,5 +1,6 @@
 #include "InfoList.h"
 #include "LogCollector.h"
+#include "Rows.h"
 #include "RunBed.h"
 #include "VirtualTime.h"
 #include "WTManager.h"
@@ -29,6 +30,7 @@ constexpr qint64 supportUnknown = -1;
 } // namespace
 
 Q_DECLARE_METATYPE(PrinterScript)
+Q_DECLARE_METATYPE(RunCause)
 
 /// The configuration run over real libusb, in virtual time.
 class RunTests : public QObject
@@ -42,6 +44,8 @@ private Q_SLOTS:
     void configurationAnswer_data();
     void configurationAnswer();
     void sendsTheConfigurationThreeTimesAtMost();
+    void saysWhyItEnded_data();
+    void saysWhyItEnded();
     void logsEachStepAndNoPassword();
     void closeStateFollowsTheRun();
     void answersOfAnEarlierAppearanceAreDropped();
@@ -161,7 +165,7 @@ void RunTests::configurationAnswer()
     RunBed bed(m_time, silentOn(Configuration));
     bed.push(bed.findPrinter(), networkName, password);
     QVERIFY(bed.waitFor([&] { return bed.run().progress() == 5; }));
-    bed.run().classifyConfiguration(errorCode, quint16(respCode));
+    bed.run().classifyConfiguration({static_cast<WTPrinterStatus>(errorCode), quint16(respCode)});
     QCOMPARE(bed.screen(), expected(bed, screen));
     QCOMPARE(bed.run().progress(), 100);
     QTEST(bed.failed().showInterfaceError(), "interfaceError");
@@ -178,11 +182,11 @@ void RunTests::sendsTheConfigurationThreeTimesAtMost()
     bed.push(bed.findPrinter(), networkName, password);
     QVERIFY(bed.waitFor([&] { return bed.run().step() == RunStep::Sending; }));
     for (int retry = 1; retry <= 2; ++retry) {
-        bed.run().classifyConfiguration(3, 0);
+        bed.run().classifyConfiguration({WTPrinterStatus::CommandMismatch});
         QCOMPARE(bed.installing().retryTime(), retry);
         QCOMPARE(bed.run().step(), RunStep::Sending);
     }
-    bed.run().classifyConfiguration(3, 0);
+    bed.run().classifyConfiguration({WTPrinterStatus::CommandMismatch});
     QCOMPARE(bed.screen(), &bed.configFailed());
     QCOMPARE(log.firstMissing({u"info: retry time:0"_s, u"info: retry time:1"_s, u"info: retry time:2"_s,
                                u"info: did retry!"_s, u"info: 🏷 result：4"_s}),
@@ -193,6 +197,42 @@ void RunTests::sendsTheConfigurationThreeTimesAtMost()
     bed.configFailed().backAction();
     bed.push(bed.installing().printer(), networkName, password);
     QCOMPARE(bed.installing().retryTime(), 0);
+}
+
+void RunTests::saysWhyItEnded_data()
+{
+    const Rows<PrinterScript, RunCause> row{"script", "cause"};
+    row("no reply", silentOn(Capability), {RunStep::Checking, {wtcErrorDomain, 32}});
+    row("another command's reply", {.faults = {{.command = Capability, .echo = 0xFF82}}},
+        {RunStep::Checking, {printerErrorDomain, 3, u"0xFF81 was answered by a reply to 0xFF82"_s}});
+    row("cannot", {.capabilityResult = 0xFFFD},
+        {RunStep::Checking, {printerResultDomain, 0xFFFD, u"the printer answered 0xFF81 with the result 0xFFFD"_s}});
+    row("refused", {.configurationResult = 2},
+        {RunStep::Sending, {printerResultDomain, 2, u"the printer answered 0xFF80 with the result 0x2"_s}});
+    row("no address", {.addressTime = 1h},
+        {RunStep::WaitingForAddress, {printerErrorDomain, 7, u"the reply to 0xFF0F announces no data"_s}});
+}
+
+void RunTests::saysWhyItEnded()
+{
+    QFETCH(PrinterScript, script);
+    QFETCH(RunCause, cause);
+    LogCollector log;
+    RunBed bed(m_time, script);
+    std::optional<RunCause> told;
+    connect(&bed.run(), &WTConfigurationRun::ended, this, [&](const RunOutcome &outcome) { told = outcome.cause; });
+    const WTPrinterPtr printer = bed.findPrinter();
+    printer->wifiCode = supportUnknown;
+    bed.push(printer, networkName, password);
+    QVERIFY(bed.screenAtEnd());
+    QVERIFY(told);
+    QCOMPARE(told->step, cause.step);
+    QCOMPARE(told->error.domain, cause.error.domain);
+    QCOMPARE(told->error.code, cause.error.code);
+    QVERIFY2(told->error.message.contains(cause.error.message), qPrintable(told->error.message));
+    const QString line = formatText("warning: The run ended while %@: %@ %d, %@", logName(cause.step),
+                                    cause.error.domain, cause.error.code, told->error.message);
+    QCOMPARE(log.firstMissing({line}), QString());
 }
 
 void RunTests::logsEachStepAndNoPassword()
@@ -286,7 +326,7 @@ void RunTests::hostThatCannotPollEndsWithoutAddress()
     run.setWifi(wifi);
     std::optional<RunOutcome> outcome;
     connect(&run, &WTConfigurationRun::ended, this, [&](const RunOutcome &ended) { outcome = ended; });
-    run.viewDidApear();
+    run.start();
     QVERIFY(bed.waitFor([&] { return outcome.has_value(); }));
     QVERIFY(*outcome == RunOutcome{RunOutcome::Screen::Complete});
     QCOMPARE(bed.sends(Address), 0);
