@@ -83,7 +83,7 @@ void checkReplyCheck(const QByteArray &header, quint16 command)
     require(accepted.has_value() != stop, "a header is accepted or stops the exchange");
     require(!accepted || (header.size() == kACLHeadSize && accepted->command() == command), "accepted means matching");
     int answers = 0;
-    WTManager::wt_cmd(command, header, [&](const PrinterAnswer &answer) {
+    WTManager::wt_cmd(command, header, [&](const ResultAnswer &answer) {
         ++answers;
         const bool success = answer.status == WTPrinterStatus::Success;
         const AclReplyHeader reply(header);

@@ -4,7 +4,7 @@
 #include "PrinterExchange.h"
 #include "WTCUSBPrinter.h"
 
-PrinterAnswer configurationOutcome(bool hasData, const std::optional<WTError> &cause, quint16 result)
+ResultAnswer configurationOutcome(bool hasData, const std::optional<WTError> &cause, quint16 result)
 {
     constexpr auto unreachable = WTCErrorCode::Unreachable;
     const bool isUnreachable = cause && cause->domain == wtcErrorDomain && cause->code == static_cast<int>(unreachable);

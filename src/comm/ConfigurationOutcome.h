@@ -6,4 +6,4 @@
 /// that it gave before; of the results `Joined` alone is a success.
 /// @param result the code in the reply header, 0 when no header matched.
 /// @param cause what went wrong with the exchange, if anything did.
-PrinterAnswer configurationOutcome(bool hasData, const std::optional<WTError> &cause, quint16 result);
+ResultAnswer configurationOutcome(bool hasData, const std::optional<WTError> &cause, quint16 result);

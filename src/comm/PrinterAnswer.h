@@ -43,12 +43,12 @@ enum class ConfigurationResult : quint16 {
 };
 
 /// What came of a printer command that answers with a result.
-struct PrinterAnswer {
+struct ResultAnswer {
     WTPrinterStatus status = WTPrinterStatus::NoHeader;
     quint16 result = 0;                ///< The printer's result code; which enum numbers it, the command tells.
     std::optional<WTError> cause = {}; ///< What stands behind a status other than success.
 
-    bool operator==(const PrinterAnswer &) const = default;
+    bool operator==(const ResultAnswer &) const = default;
 };
 
 /// What came of an address query.

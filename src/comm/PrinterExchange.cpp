@@ -69,11 +69,11 @@ WTError PrinterExchange::cause(quint16 cmd, const std::optional<WTError> &error,
         WTError{printerErrorDomain, static_cast<int>(WTPrinterStatus::NoHeader), formatText("no reply to 0x%X", cmd)});
 }
 
-std::function<void(const PrinterAnswer &)>
-PrinterExchange::withCause(quint16 cmd, const std::optional<WTError> &error, KeptHead head,
-                           std::function<void(const PrinterAnswer &)> callBack)
+std::function<void(const ResultAnswer &)> PrinterExchange::withCause(quint16 cmd, const std::optional<WTError> &error,
+                                                                     KeptHead head,
+                                                                     std::function<void(const ResultAnswer &)> callBack)
 {
-    return [cmd, error, head = std::move(head), callBack = std::move(callBack)](PrinterAnswer answer) {
+    return [cmd, error, head = std::move(head), callBack = std::move(callBack)](ResultAnswer answer) {
         if (answer.status != WTPrinterStatus::Success)
             answer.cause = cause(cmd, error, *head);
         callBack(answer);

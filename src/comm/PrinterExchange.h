@@ -44,7 +44,7 @@ WTCUSBPrinter::HeadCallback usualHeadCallback(quint16 cmd, KeptHead head);
 WTError cause(quint16 cmd, const std::optional<WTError> &error, const ReplyHead &head);
 
 /// `callBack`, given the cause as above with every answer that is no success.
-std::function<void(const PrinterAnswer &)> withCause(quint16 cmd, const std::optional<WTError> &error, KeptHead head,
-                                                     std::function<void(const PrinterAnswer &)> callBack);
+std::function<void(const ResultAnswer &)> withCause(quint16 cmd, const std::optional<WTError> &error, KeptHead head,
+                                                    std::function<void(const ResultAnswer &)> callBack);
 
 } // namespace PrinterExchange

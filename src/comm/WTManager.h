@@ -65,7 +65,7 @@ public:
     bool oldAclPrinter(const QString &printerType) const;
 
     // -- printer commands ---------------------------------------------------------------------------------------
-    using StatusCallback = std::function<void(const PrinterAnswer &answer)>;
+    using StatusCallback = std::function<void(const ResultAnswer &answer)>;
     using AddressCallback = std::function<void(const AddressAnswer &answer)>;
     using WakeUpCallback = std::function<void(bool success, const std::optional<QString> &message)>;
 

@@ -40,7 +40,7 @@ WTCUSBPrinter::HeadCallback keepHeaderOnly(PrinterExchange::KeptHead head)
     };
 }
 
-PrinterAnswer judge(const PrinterExchange::ReplyHead &head, bool hasData, const std::optional<WTError> &error)
+ResultAnswer judge(const PrinterExchange::ReplyHead &head, bool hasData, const std::optional<WTError> &error)
 {
     if (!head.header)
         return configurationOutcome(hasData, PrinterExchange::cause(PrinterCommand::wifiConfiguration, error, head), 0);
@@ -73,7 +73,7 @@ void WTManager::wifiConfigForPrinter(const QString &uri, quint32, const QString 
     PrinterExchange::send(cmd, uri, WTCommand::PJLWithCMD(cmd, payload), joinTimeout, keepHeaderOnly(head),
                           [head, callBack = std::move(callBack)](const std::optional<QByteArray> &data,
                                                                  const std::optional<WTError> &error) {
-                              const PrinterAnswer answer = judge(*head, data.has_value(), error);
+                              const ResultAnswer answer = judge(*head, data.has_value(), error);
                               if (answer.status == WTPrinterStatus::Success)
                                   shared().time().sleep(switchPause);
                               callBack(answer);

@@ -1,3 +1,4 @@
+#include "AclReplyHeader.h"
 #include "LogCollector.h"
 #include "PrinterBench.h"
 #include "PrinterOperation.h"
@@ -110,9 +111,9 @@ void PrinterCommandLogTest::sendsNoConfigurationThatDoesNotFit()
     Answer nameless;
     Answer tooLong;
     WTManager::wifiConfigForPrinter(m_bench.uri(), 1, u" \n"_s, networkPassword,
-                                    [&](const PrinterAnswer &answer) { nameless.give(answer); });
+                                    [&](const ResultAnswer &answer) { nameless.give(answer); });
     WTManager::wifiConfigForPrinter(m_bench.uri(), 1, networkName, longPassword,
-                                    [&](const PrinterAnswer &answer) { tooLong.give(answer); });
+                                    [&](const ResultAnswer &answer) { tooLong.give(answer); });
     QVERIFY(m_bench.runUntil([&] { return tooLong.calls() > 0; }));
 
     QCOMPARE(tooLong.text(), u"1, 0x0"_s);

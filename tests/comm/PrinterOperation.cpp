@@ -41,7 +41,7 @@ std::shared_ptr<Answer> start(Operation operation, const QString &uri)
 {
     constexpr quint32 location = 0x01100000;
     const auto answer = std::make_shared<Answer>();
-    const auto status = [answer](const PrinterAnswer &given) { answer->give(given); };
+    const auto status = [answer](const ResultAnswer &given) { answer->give(given); };
     switch (operation) {
     case Operation::WakeUp:
         WTManager::wt_wakeUpPrinter(uri, location, [answer](bool success, const std::optional<QString> &message) {

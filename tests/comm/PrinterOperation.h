@@ -25,7 +25,7 @@ class Answer
 {
 public:
     void give(int status, const QString &text);
-    void give(const PrinterAnswer &answer)
+    void give(const ResultAnswer &answer)
     {
         give(static_cast<int>(answer.status), QStringLiteral("0x%1").arg(answer.result, 0, 16));
     }

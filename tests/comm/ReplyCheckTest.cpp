@@ -44,7 +44,7 @@ void ReplyCheckTest::checksAReplyHeader()
     const LogCollector log;
 
     int calls = 0;
-    WTManager::wt_cmd(0xFF81, header, [&](const PrinterAnswer &answer) {
+    WTManager::wt_cmd(0xFF81, header, [&](const ResultAnswer &answer) {
         ++calls;
         QCOMPARE(static_cast<int>(answer.status), status);
         QCOMPARE(answer.cause.has_value(), status != 0);
@@ -73,11 +73,11 @@ void ReplyCheckTest::judgesAFinishedConfiguration()
     const WTError unreachable{wtcErrorDomain, 31, {}};
     const WTError timedOut{wtcErrorDomain, 32, {}};
     const WTError refused = PrinterExchange::refusal(0xFF80, 7);
-    QVERIFY(configurationOutcome(false, {}, 7) == (PrinterAnswer{Status::NoHeader, 7, refused}));
-    QVERIFY(configurationOutcome(false, unreachable, 1) == (PrinterAnswer{Status::LibraryError31, 31, unreachable}));
-    QVERIFY(configurationOutcome(true, unreachable, 1) == (PrinterAnswer{Status::Success, 1}));
-    QVERIFY(configurationOutcome(false, timedOut, 1) == (PrinterAnswer{Status::Success, 1}));
-    QVERIFY(configurationOutcome(false, timedOut, 0) == (PrinterAnswer{Status::NoHeader, 0, timedOut}));
+    QVERIFY(configurationOutcome(false, {}, 7) == (ResultAnswer{Status::NoHeader, 7, refused}));
+    QVERIFY(configurationOutcome(false, unreachable, 1) == (ResultAnswer{Status::LibraryError31, 31, unreachable}));
+    QVERIFY(configurationOutcome(true, unreachable, 1) == (ResultAnswer{Status::Success, 1}));
+    QVERIFY(configurationOutcome(false, timedOut, 1) == (ResultAnswer{Status::Success, 1}));
+    QVERIFY(configurationOutcome(false, timedOut, 0) == (ResultAnswer{Status::NoHeader, 0, timedOut}));
 }
 
 void ReplyCheckTest::acceptsOnlyWholeHeadersOfTheCommand()

@@ -61,11 +61,11 @@ void WTConfigurationRun::ff_config()
     } else if (m_printer->wifiCode == wifiSupportUnknown) {
         logInfo("检查是否可以配网！！！！！");
         WTManager::checkWiFiCapabilityFromPrinter(
-            uri(), locationID(), then([this](const PrinterAnswer &answer) { classifyCapability(answer); }));
+            uri(), locationID(), then([this](const ResultAnswer &answer) { classifyCapability(answer); }));
     }
 }
 
-void WTConfigurationRun::classifyCapability(const PrinterAnswer &answer)
+void WTConfigurationRun::classifyCapability(const ResultAnswer &answer)
 {
     const CapabilityDecision decision = capabilityDecision(answer.status, static_cast<CapabilityResult>(answer.result));
     m_cause = answer.cause;
@@ -98,16 +98,16 @@ void WTConfigurationRun::confingWiFiStart()
 void WTConfigurationRun::wt_sendConfigWIFIACL()
 {
     beginStep(RunStep::Sending);
-    auto classify = then([this](const PrinterAnswer &answer) { classifyConfiguration(answer); });
+    auto classify = then([this](const ResultAnswer &answer) { classifyConfiguration(answer); });
     WTManager::wifiConfigForPrinter(uri(), locationID(), m_wifi->SSID.value_or(QString()),
-                                    m_wifi->password.value_or(QString()), [classify](const PrinterAnswer &answer) {
+                                    m_wifi->password.value_or(QString()), [classify](const ResultAnswer &answer) {
                                         logInfo("FF80->errorCode:%ld, respCode:%hu", static_cast<int>(answer.status),
                                                 answer.result);
                                         classify(answer);
                                     });
 }
 
-void WTConfigurationRun::classifyConfiguration(const PrinterAnswer &answer)
+void WTConfigurationRun::classifyConfiguration(const ResultAnswer &answer)
 {
     const ConfigurationDecision decision =
         configurationDecision(answer.status, static_cast<ConfigurationResult>(answer.result));

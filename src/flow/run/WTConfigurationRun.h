@@ -67,8 +67,8 @@ public:
     void showErrorView(CapabilityReason reason);
 
     // What an answer leads to, once it has come to the main thread.
-    void classifyCapability(const PrinterAnswer &answer);
-    void classifyConfiguration(const PrinterAnswer &answer);
+    void classifyCapability(const ResultAnswer &answer);
+    void classifyConfiguration(const ResultAnswer &answer);
     /// @param time the attempt that is answered.
     void classifyAddress(qint64 time, const AddressAnswer &answer);
 

@@ -233,7 +233,7 @@ void WTNetworkWithManualAddition::printWiFiList()
     const auto print = [printer = m_printer, showSent] {
         WTManager::printingWiFiInfoFromPrinter(printer->usbObj->URI(), printer->usbObj->locationID,
                                                printer->printerType(),
-                                               [showSent](const PrinterAnswer &) { onMainThread(showSent); });
+                                               [showSent](const ResultAnswer &) { onMainThread(showSent); });
     };
     WTManager::wt_wakeUpPrinter(m_printer->usbObj->URI(), m_printer->usbObj->locationID,
                                 [print](bool, const std::optional<QString> &) { onMainThread(print); });

@@ -2,7 +2,9 @@
 #include "LogCollector.h"
 #include "Rows.h"
 #include "RunBed.h"
+#include "TextFormat.h"
 #include "VirtualTime.h"
+#include "WTCUSBPrinter.h"
 #include "WTManager.h"
 
 #include <QTest>
