@@ -4,6 +4,9 @@
 
 #include <QAbstractButton>
 #include <QPainter>
+#include <QRegularExpression>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
@@ -63,7 +66,7 @@ QSize ButtonLook::sizeHint(const QAbstractButton &button, const Picture &image, 
 
 QString ButtonLook::spokenTitle(const QString &title)
 {
-    QString spoken = title.trimmed();
-    spoken.remove(u'&');
-    return spoken;
+    // A script without Latin letters has the mnemonic behind the title, in parentheses.
+    static const QRegularExpression mnemonic(u"\\(&.\\)|&"_s);
+    return title.trimmed().remove(mnemonic);
 }

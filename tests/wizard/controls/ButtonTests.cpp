@@ -91,6 +91,8 @@ void ButtonTests::titleIsSpokenWithoutPadding()
     button.awakeFromNib();
     QCOMPARE(button.accessibleName(), u"Next"_s);
     QCOMPARE(button.title(), u"&Next    "_s);
+    button.setTitle(u"下一步(&N)"_s);
+    QCOMPARE(button.accessibleName(), u"下一步"_s);
 }
 
 void ButtonTests::stateChoosesColours_data()
