@@ -5,11 +5,11 @@
     <name>wifitool</name>
     <message>
         <source>温馨提示：</source>
-        <translation>Bitte beachten:</translation>
+        <translation>Hinweis</translation>
     </message>
     <message>
         <source>是否退出Wi-Fi配置工具?</source>
-        <translation>Wi-Fi-Einrichtung beenden?</translation>
+        <translation>Wi-Fi Tool beenden?</translation>
     </message>
     <message>
         <source>确定</source>
@@ -77,23 +77,23 @@
     </message>
     <message>
         <source>正在唤醒打印机…</source>
-        <translation>Der Drucker wird geweckt…</translation>
+        <translation>Der Drucker wird aufgeweckt …</translation>
     </message>
     <message>
         <source>正在检查打印机能否配置无线网络…</source>
-        <translation>Es wird geprüft, ob sich der Drucker für WLAN einrichten lässt…</translation>
+        <translation>Es wird geprüft, ob sich der Drucker für WLAN einrichten lässt …</translation>
     </message>
     <message>
         <source>正在发送网络名称和密码，打印机正在加入网络…</source>
-        <translation>Name und Passwort werden gesendet; der Drucker tritt dem Netzwerk bei…</translation>
+        <translation>Name und Passwort werden gesendet; der Drucker verbindet sich mit dem Netzwerk …</translation>
     </message>
     <message>
         <source>正在等待打印机的网络地址（第 %d 次，共 %d 次）…</source>
-        <translation>Warten auf die Adresse des Druckers (%d von %d)…</translation>
+        <translation>Warten auf die Adresse des Druckers (%d von %d) …</translation>
     </message>
     <message>
         <source>打印机没有应答，您现在可以关闭此窗口。</source>
-        <translation>Der Drucker hat nicht geantwortet. Sie können dieses Fenster jetzt schließen.</translation>
+        <translation>Der Drucker hat nicht geantwortet. Schließen Sie dieses Fenster, starten Sie den Drucker neu und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>正在配置打印机</source>
@@ -101,7 +101,7 @@
     </message>
     <message>
         <source>这可能需要几分钟。请保持打印机开机，不要拔下 USB 数据线。</source>
-        <translation>Das kann einige Minuten dauern. Lassen Sie den Drucker eingeschaltet und das USB-Kabel stecken.</translation>
+        <translation>Das kann einige Minuten dauern. Lassen Sie den Drucker an und das USB-Kabel stecken.</translation>
     </message>
     <message>
         <source>配置进度</source>
@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>打印机最多接受 %d 个字节的密码，请为网络设置较短的密码。</source>
-        <translation>Der Drucker nimmt Passwörter mit höchstens %d Byte an. Geben Sie dem Netzwerk ein kürzeres.</translation>
+        <translation>Dieses Passwort ist für den Drucker zu lang: höchstens %d Byte, eines je gewöhnlichem Buchstaben oder Ziffer. Vergeben Sie für das Netzwerk ein kürzeres.</translation>
     </message>
     <message>
         <source>网络名称</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>此电脑的无线网络已关闭，无法列出附近的网络。请输入打印机要连接的网络。</source>
-        <translation>Das WLAN dieses Computers ist aus, deshalb kann er keine Netzwerke auflisten. Geben Sie das Netzwerk ein, dem der Drucker beitreten soll.</translation>
+        <translation>Das WLAN dieses Computers ist aus, deshalb kann er keine Netzwerke auflisten. Geben Sie das Netzwerk ein, mit dem sich der Drucker verbinden soll.</translation>
     </message>
     <message>
         <source>名称太长：最多 32 个字节。</source>
@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>打印端口被占用，无法打印无线网络信息页。</source>
-        <translation>Der Druckeranschluss ist belegt, die WLAN-Infoseite kann nicht gedruckt werden.</translation>
+        <translation>Der Drucker ist beschäftigt. Warten Sie, bis er fertig ist, und versuchen Sie es dann noch einmal.</translation>
     </message>
     <message>
         <source>已将无线网络信息页发送给打印机</source>
@@ -201,7 +201,7 @@
     </message>
     <message>
         <source>让打印机连上无线网络</source>
-        <translation>Den Drucker ins WLAN bringen</translation>
+        <translation>Drucker mit dem WLAN verbinden</translation>
     </message>
     <message>
         <source>请打开打印机电源，然后选择配置方式。</source>
@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>用数据线连接打印机和电脑。适合第一次使用。</source>
-        <translation>Den Drucker per Kabel mit diesem Computer verbinden. Am besten beim ersten Mal.</translation>
+        <translation>Den Drucker per Kabel mit diesem Computer verbinden. Für das erste Mal empfohlen.</translation>
     </message>
     <message>
         <source>WPS一键配网</source>
@@ -261,15 +261,15 @@
     </message>
     <message>
         <source>路由器没有WPS按钮时，在它的设置页面输入PIN码。</source>
-        <translation>Für Router ohne WPS-Taste: Sie geben die PIN auf der Einstellungsseite des Routers ein.</translation>
+        <translation>Für Router ohne WPS-Taste: Sie geben die PIN des Druckers auf der Einstellungsseite des Routers ein.</translation>
     </message>
     <message>
         <source>选择WPS的方式</source>
-        <translation>Art von WPS wählen</translation>
+        <translation>WPS-Methode wählen</translation>
     </message>
     <message>
         <source>两种方式都在打印机的菜单里。路由器上有WPS按钮时，按钮方式最简单。</source>
-        <translation>Beide stehen im Menü des Druckers. Hat der Router eine WPS-Taste, ist der Tastendruck am einfachsten.</translation>
+        <translation>Beide Methoden finden Sie im Menü des Druckers. Hat der Router eine WPS-Taste, ist der Tastendruck einfacher.</translation>
     </message>
     <message>
         <source>用按钮连接</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>等待最多两分钟。指示灯不再闪烁时，点击“下一步”。</source>
-        <translation>Warten Sie bis zu zwei Minuten. Wenn die Leuchte nicht mehr blinkt, drücken Sie „Weiter“.</translation>
+        <translation>Warten Sie bis zu zwei Minuten. Wenn die Leuchte nicht mehr blinkt, klicken Sie hier auf „Weiter“.</translation>
     </message>
     <message>
         <source>在打印机菜单中使用按钮方式</source>
@@ -301,7 +301,7 @@
     </message>
     <message>
         <source>等待最多两分钟。显示屏显示结果后，点击“下一步”。</source>
-        <translation>Warten Sie bis zu zwei Minuten. Wenn das Display das Ergebnis zeigt, drücken Sie „Weiter“.</translation>
+        <translation>Warten Sie bis zu zwei Minuten. Wenn das Display das Ergebnis zeigt, klicken Sie hier auf „Weiter“.</translation>
     </message>
     <message>
         <source>在打印机菜单中使用PIN码</source>
@@ -309,7 +309,7 @@
     </message>
     <message>
         <source>PIN码几分钟后失效，请先准备好路由器的设置页面。</source>
-        <translation>Die PIN läuft nach einigen Minuten ab. Öffnen Sie deshalb zuerst die Einstellungsseite des Routers.</translation>
+        <translation>Die PIN gilt nur wenige Minuten. Öffnen Sie zuerst die Einstellungsseite des Routers.</translation>
     </message>
     <message>
         <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PIN，显示屏会显示一个8位数字。</source>
@@ -357,7 +357,7 @@
     </message>
     <message>
         <source>打印机已经连上无线网络。</source>
-        <translation>Der Drucker ist im WLAN.</translation>
+        <translation>Der Drucker ist mit dem WLAN verbunden.</translation>
     </message>
     <message>
         <source>指示灯闪烁或熄灭</source>
@@ -369,23 +369,23 @@
     </message>
     <message>
         <source>打开系统的添加打印机窗口</source>
-        <translation>Fenster „&amp;Drucker hinzufügen“ des Systems öffnen</translation>
+        <translation>Systemfenster „&amp;Drucker hinzufügen“ öffnen</translation>
     </message>
     <message>
         <source>恭喜，您完成了无线网络配置！</source>
-        <translation>Glückwunsch, Sie haben das WLAN eingerichtet!</translation>
+        <translation>Glückwunsch, das WLAN Ihres Druckers ist eingerichtet!</translation>
     </message>
     <message>
         <source>现在可以拔掉USB数据线了。要在这台电脑上打印，请把打印机添加到系统：勾选下面的选项，然后点击“完成并退出”。</source>
-        <translation>Sie können das USB-Kabel jetzt abziehen. Um von diesem Computer zu drucken, fügen Sie den Drucker dem System hinzu: Kästchen unten ankreuzen und „Fertigstellen und beenden“ drücken.</translation>
+        <translation>Sie können das USB-Kabel jetzt abziehen. Um von diesem Computer zu drucken, fügen Sie den Drucker dem System hinzu: Kreuzen Sie das Kästchen unten an und klicken Sie auf „Fertigstellen und beenden“.</translation>
     </message>
     <message>
         <source>打印机已连上无线网络</source>
-        <translation>Der Drucker ist im WLAN</translation>
+        <translation>Der Drucker ist mit dem WLAN verbunden</translation>
     </message>
     <message>
         <source>打印机没有连上无线网络</source>
-        <translation>Der Drucker ist nicht im WLAN</translation>
+        <translation>Der Drucker ist nicht mit dem WLAN verbunden</translation>
     </message>
     <message>
         <source>打印机配置失败，当前打印机网络未开启，无法进行配网。</source>
@@ -445,15 +445,15 @@
     </message>
     <message>
         <source>请检查网络名称和密码（注意大小写），并确认打印机已开机、数据线已插好、离路由器不太远。然后返回，再试一次。</source>
-        <translation>Prüfen Sie Netzwerkname und Passwort (Groß- und Kleinschreibung zählt) und ob der Drucker eingeschaltet, angeschlossen und nicht zu weit vom Router entfernt ist. Gehen Sie dann zurück und versuchen Sie es noch einmal.</translation>
+        <translation>Prüfen Sie, ob Netzwerkname und Passwort stimmen (Groß-/Kleinschreibung beachten) und ob der Drucker eingeschaltet, angeschlossen und nahe genug am Router ist. Gehen Sie dann zurück und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>没有连接打印机</source>
-        <translation>Kein Drucker ist angeschlossen</translation>
+        <translation>Es ist kein Drucker angeschlossen</translation>
     </message>
     <message>
         <source>没有找到支持无线网络的打印机。</source>
-        <translation>Es wurde kein Drucker gefunden, der WLAN unterstützt.</translation>
+        <translation>Es wurde kein Drucker mit WLAN gefunden.</translation>
     </message>
     <message>
         <source>请打开打印机电源，用USB数据线把它直接连到这台电脑（不要经过集线器），等待几秒。然后返回，再试一次。</source>
@@ -469,7 +469,7 @@
     </message>
     <message>
         <source>too common</source>
-        <translation>Zu gebräuchlich</translation>
+        <translation>Zu bekannt</translation>
     </message>
     <message>
         <source>too short</source>
@@ -485,7 +485,7 @@
     </message>
     <message>
         <source>fair</source>
-        <translation>Ausreichend</translation>
+        <translation>Mittel</translation>
     </message>
     <message>
         <source>strong</source>
@@ -497,7 +497,7 @@
     </message>
     <message>
         <source>请选择打印机要连接的网络，并输入它的密码。</source>
-        <translation>Wählen Sie das Netzwerk, dem der Drucker beitreten soll, und geben Sie sein Passwort ein.</translation>
+        <translation>Wählen Sie das Netzwerk für den Drucker und geben Sie das Passwort ein.</translation>
     </message>
     <message>
         <source>附近的无线网络</source>
@@ -505,7 +505,7 @@
     </message>
     <message>
         <source>正在查找无线网络…</source>
-        <translation>Netzwerke werden gesucht…</translation>
+        <translation>Netzwerke werden gesucht …</translation>
     </message>
     <message>
         <source>刷新</source>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>此电脑</source>
-        <translation>dieser Computer</translation>
+        <translation>Ihr Netzwerk</translation>
     </message>
     <message>
         <source>前往设置</source>
@@ -525,11 +525,11 @@
     </message>
     <message>
         <source>打印端口被占用，无法配置打印机</source>
-        <translation>Der Drucker ist durch einen anderen Auftrag belegt und kann jetzt nicht eingerichtet werden. Warten Sie, bis er fertig ist.</translation>
+        <translation>Der Drucker ist durch einen anderen Auftrag belegt. Warten Sie, bis dieser fertig ist, und klicken Sie dann noch einmal auf „Weiter“.</translation>
     </message>
     <message>
         <source>请从列表中选择，或在此输入名称。</source>
-        <translation>Wählen Sie aus der Liste oder geben Sie den Namen hier ein.</translation>
+        <translation>Aus der Liste wählen oder hier eingeben.</translation>
     </message>
 </context>
 </TS>

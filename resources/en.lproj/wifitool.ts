@@ -5,11 +5,11 @@
     <name>wifitool</name>
     <message>
         <source>温馨提示：</source>
-        <translation>Please note:</translation>
+        <translation>Please note</translation>
     </message>
     <message>
         <source>是否退出Wi-Fi配置工具?</source>
-        <translation>Quit the Wi-Fi setup tool?</translation>
+        <translation>Quit Wi-Fi Tool?</translation>
     </message>
     <message>
         <source>确定</source>
@@ -89,11 +89,11 @@
     </message>
     <message>
         <source>正在等待打印机的网络地址（第 %d 次，共 %d 次）…</source>
-        <translation>Waiting for the printer's address (%d of %d)…</translation>
+        <translation>Waiting for the printer’s address (%d of %d)…</translation>
     </message>
     <message>
         <source>打印机没有应答，您现在可以关闭此窗口。</source>
-        <translation>The printer has not answered. You may close this window now.</translation>
+        <translation>The printer has not answered. Close this window, restart the printer and try again.</translation>
     </message>
     <message>
         <source>正在配置打印机</source>
@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>打印机最多接受 %d 个字节的密码，请为网络设置较短的密码。</source>
-        <translation>The printer takes passwords of at most %d bytes. Give the network a shorter one.</translation>
+        <translation>This password is too long for the printer: at most %d bytes, one for each ordinary letter or digit. Give the network a shorter one.</translation>
     </message>
     <message>
         <source>网络名称</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>与路由器上显示的名称完全一致，区分大小写。</source>
-        <translation>Exactly as your router shows it; capital and small letters differ.</translation>
+        <translation>Exactly as your router shows it; upper and lower case matter.</translation>
     </message>
     <message>
         <source>没有密码的网络请留空。</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>此电脑的无线网络已关闭，无法列出附近的网络。请输入打印机要连接的网络。</source>
-        <translation>This computer's Wi-Fi is off, so it cannot list the networks nearby. Enter the network that the printer should join.</translation>
+        <translation>This computer’s Wi-Fi is off, so it cannot list the networks nearby. Enter the network that the printer should join.</translation>
     </message>
     <message>
         <source>名称太长：最多 32 个字节。</source>
@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>打印端口被占用，无法打印无线网络信息页。</source>
-        <translation>The printer port is in use, so the Wi-Fi information page cannot be printed.</translation>
+        <translation>The printer is busy. Wait until it has finished, then try again.</translation>
     </message>
     <message>
         <source>已将无线网络信息页发送给打印机</source>
@@ -201,7 +201,7 @@
     </message>
     <message>
         <source>让打印机连上无线网络</source>
-        <translation>Put your printer on the wireless network</translation>
+        <translation>Connect your printer to Wi-Fi</translation>
     </message>
     <message>
         <source>请打开打印机电源，然后选择配置方式。</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>路由器没有WPS按钮时，在它的设置页面输入PIN码。</source>
-        <translation>For routers without a WPS button: type a PIN on the router's settings page.</translation>
+        <translation>For routers without a WPS button: type the printer’s PIN on the router’s settings page.</translation>
     </message>
     <message>
         <source>选择WPS的方式</source>
@@ -269,7 +269,7 @@
     </message>
     <message>
         <source>两种方式都在打印机的菜单里。路由器上有WPS按钮时，按钮方式最简单。</source>
-        <translation>Both are in the printer's menu. If your router has a WPS button, the push button is easier.</translation>
+        <translation>Both are in the printer’s menu. If your router has a WPS button, the push button is easier.</translation>
     </message>
     <message>
         <source>用按钮连接</source>
@@ -289,43 +289,43 @@
     </message>
     <message>
         <source>等待最多两分钟。指示灯不再闪烁时，点击“下一步”。</source>
-        <translation>Wait up to two minutes. When the light no longer blinks, press “Next”.</translation>
+        <translation>Wait up to two minutes. When the light stops blinking, click “Next” in this window.</translation>
     </message>
     <message>
         <source>在打印机菜单中使用按钮方式</source>
-        <translation>Push button from the printer's menu</translation>
+        <translation>Use the push button from the printer’s menu</translation>
     </message>
     <message>
         <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PBC，然后按OK确认。</source>
-        <translation>On the printer's display choose Menu › Network › WPS › PBC and confirm with OK.</translation>
+        <translation>On the printer’s display choose Menu › Network › WPS › PBC and confirm with OK.</translation>
     </message>
     <message>
         <source>等待最多两分钟。显示屏显示结果后，点击“下一步”。</source>
-        <translation>Wait up to two minutes. When the display shows the result, press “Next”.</translation>
+        <translation>Wait up to two minutes. When the display shows the result, click “Next” in this window.</translation>
     </message>
     <message>
         <source>在打印机菜单中使用PIN码</source>
-        <translation>PIN from the printer's menu</translation>
+        <translation>Use a PIN from the printer’s menu</translation>
     </message>
     <message>
         <source>PIN码几分钟后失效，请先准备好路由器的设置页面。</source>
-        <translation>The PIN expires after a few minutes, so open the router's settings page first.</translation>
+        <translation>The PIN expires after a few minutes, so open the router’s settings page first.</translation>
     </message>
     <message>
         <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PIN，显示屏会显示一个8位数字。</source>
-        <translation>On the printer's display choose Menu › Network › WPS › PIN. It then shows a number of 8 digits.</translation>
+        <translation>On the printer’s display choose Menu › Network › WPS › PIN. It then shows a number of 8 digits.</translation>
     </message>
     <message>
         <source>在路由器设置页面的WPS栏输入这个PIN码，然后开始连接。</source>
-        <translation>Type this PIN into the WPS section of the router's settings page, and start the connection there.</translation>
+        <translation>Type this PIN into the WPS section of the router’s settings page, and start the connection there.</translation>
     </message>
     <message>
         <source>打印机的显示屏显示什么？</source>
-        <translation>What does the printer's display say?</translation>
+        <translation>What does the printer’s display say?</translation>
     </message>
     <message>
         <source>请看打印机的显示屏，选择您看到的结果。</source>
-        <translation>Look at the printer's display and choose what you see.</translation>
+        <translation>Look at the printer’s display and choose what you see.</translation>
     </message>
     <message>
         <source>连接成功</source>
@@ -345,7 +345,7 @@
     </message>
     <message>
         <source>打印机的Wi-Fi指示灯怎么样？</source>
-        <translation>What does the printer's Wi-Fi light do?</translation>
+        <translation>What does the printer’s Wi-Fi light do?</translation>
     </message>
     <message>
         <source>请看打印机的Wi-Fi指示灯，选择您看到的样子。</source>
@@ -357,7 +357,7 @@
     </message>
     <message>
         <source>打印机已经连上无线网络。</source>
-        <translation>The printer is on the wireless network.</translation>
+        <translation>The printer is connected to Wi-Fi.</translation>
     </message>
     <message>
         <source>指示灯闪烁或熄灭</source>
@@ -369,23 +369,23 @@
     </message>
     <message>
         <source>打开系统的添加打印机窗口</source>
-        <translation>&amp;Open the system's “add printer” window</translation>
+        <translation>&amp;Open the system’s “Add printer” window</translation>
     </message>
     <message>
         <source>恭喜，您完成了无线网络配置！</source>
-        <translation>Congratulations, you have set up the wireless network!</translation>
+        <translation>Congratulations, your printer’s Wi-Fi is set up!</translation>
     </message>
     <message>
         <source>现在可以拔掉USB数据线了。要在这台电脑上打印，请把打印机添加到系统：勾选下面的选项，然后点击“完成并退出”。</source>
-        <translation>You can now unplug the USB cable. To print from this computer, add the printer to the system: tick the box below and press “Finish and quit”.</translation>
+        <translation>You can now unplug the USB cable. To print from this computer, add the printer to the system: tick the box below and click “Finish and quit”.</translation>
     </message>
     <message>
         <source>打印机已连上无线网络</source>
-        <translation>The printer is on the wireless network</translation>
+        <translation>The printer is connected to Wi-Fi</translation>
     </message>
     <message>
         <source>打印机没有连上无线网络</source>
-        <translation>The printer is not on the wireless network</translation>
+        <translation>The printer is not connected to Wi-Fi</translation>
     </message>
     <message>
         <source>打印机配置失败，当前打印机网络未开启，无法进行配网。</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>Wi-Fi故障，打印机配置失败。</source>
-        <translation>Setup failed: the printer's Wi-Fi is faulty.</translation>
+        <translation>Setup failed: the printer’s Wi-Fi is faulty.</translation>
     </message>
     <message>
         <source>打印机配置失败，系统升级过程中，不允许配置网络。</source>
@@ -445,7 +445,7 @@
     </message>
     <message>
         <source>请检查网络名称和密码（注意大小写），并确认打印机已开机、数据线已插好、离路由器不太远。然后返回，再试一次。</source>
-        <translation>Check the network name and password (upper and lower case matter), and that the printer is on, plugged in and not too far from the router. Then go back and try again.</translation>
+        <translation>Check the network name and the password; upper and lower case matter. Check that the printer is on, plugged in and near the router. Then go back and try again.</translation>
     </message>
     <message>
         <source>没有连接打印机</source>
@@ -453,7 +453,7 @@
     </message>
     <message>
         <source>没有找到支持无线网络的打印机。</source>
-        <translation>No printer that supports wireless networks was found.</translation>
+        <translation>No printer with Wi-Fi was found.</translation>
     </message>
     <message>
         <source>请打开打印机电源，用USB数据线把它直接连到这台电脑（不要经过集线器），等待几秒。然后返回，再试一次。</source>
@@ -465,7 +465,7 @@
     </message>
     <message>
         <source>大写锁定已打开</source>
-        <translation>Caps lock is on</translation>
+        <translation>Caps Lock is on</translation>
     </message>
     <message>
         <source>too common</source>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>此电脑</source>
-        <translation>this computer</translation>
+        <translation>your network</translation>
     </message>
     <message>
         <source>前往设置</source>
@@ -525,7 +525,7 @@
     </message>
     <message>
         <source>打印端口被占用，无法配置打印机</source>
-        <translation>The printer is in use by another job and cannot be set up now. Wait until it has finished.</translation>
+        <translation>Another job is using the printer. Wait until it has finished, then click “Next” again.</translation>
     </message>
     <message>
         <source>请从列表中选择，或在此输入名称。</source>

@@ -5,11 +5,11 @@
     <name>wifitool</name>
     <message>
         <source>温馨提示：</source>
-        <translation>Aviso:</translation>
+        <translation>Aviso</translation>
     </message>
     <message>
         <source>是否退出Wi-Fi配置工具?</source>
-        <translation>¿Salir de la herramienta de configuración Wi-Fi?</translation>
+        <translation>¿Salir de Wi-Fi Tool?</translation>
     </message>
     <message>
         <source>确定</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>正在发送网络名称和密码，打印机正在加入网络…</source>
-        <translation>Enviando nombre y contraseña; la impresora se está uniendo a la red…</translation>
+        <translation>Enviando nombre y contraseña; la impresora se está conectando a la red…</translation>
     </message>
     <message>
         <source>正在等待打印机的网络地址（第 %d 次，共 %d 次）…</source>
@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>打印机没有应答，您现在可以关闭此窗口。</source>
-        <translation>La impresora no ha respondido. Ya puede cerrar esta ventana.</translation>
+        <translation>La impresora no ha respondido. Cierre esta ventana, reinicie la impresora e inténtelo otra vez.</translation>
     </message>
     <message>
         <source>正在配置打印机</source>
@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>打印机最多接受 %d 个字节的密码，请为网络设置较短的密码。</source>
-        <translation>La impresora admite contraseñas de %d bytes como máximo. Ponga a la red una más corta.</translation>
+        <translation>Esta contraseña es demasiado larga para la impresora: %d bytes como máximo, uno por cada letra o cifra normal. Ponga a la red una más corta.</translation>
     </message>
     <message>
         <source>网络名称</source>
@@ -125,7 +125,7 @@
     </message>
     <message>
         <source>没有密码的网络请留空。</source>
-        <translation>Déjelo vacío si la red no tiene contraseña.</translation>
+        <translation>Dejar vacío si la red no tiene contraseña.</translation>
     </message>
     <message>
         <source>显示密码</source>
@@ -145,11 +145,11 @@
     </message>
     <message>
         <source>输入无线网络</source>
-        <translation>Escriba su red Wi-Fi</translation>
+        <translation>Introduzca su red Wi-Fi</translation>
     </message>
     <message>
         <source>此电脑的无线网络已关闭，无法列出附近的网络。请输入打印机要连接的网络。</source>
-        <translation>El Wi-Fi de este ordenador está apagado y no puede mostrar las redes cercanas. Escriba la red a la que debe unirse la impresora.</translation>
+        <translation>El Wi-Fi de este equipo está apagado; por eso no se pueden mostrar las redes cercanas. Introduzca la red a la que debe conectarse la impresora.</translation>
     </message>
     <message>
         <source>名称太长：最多 32 个字节。</source>
@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>打印端口被占用，无法打印无线网络信息页。</source>
-        <translation>El puerto de la impresora está ocupado; no se puede imprimir la página de información Wi-Fi.</translation>
+        <translation>La impresora está ocupada. Espere a que termine e inténtelo otra vez.</translation>
     </message>
     <message>
         <source>已将无线网络信息页发送给打印机</source>
@@ -201,7 +201,7 @@
     </message>
     <message>
         <source>让打印机连上无线网络</source>
-        <translation>Conecte la impresora a la red inalámbrica</translation>
+        <translation>Conecte la impresora a la red Wi-Fi</translation>
     </message>
     <message>
         <source>请打开打印机电源，然后选择配置方式。</source>
@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>用数据线连接打印机和电脑。适合第一次使用。</source>
-        <translation>Conecte la impresora a este ordenador con un cable. Lo mejor la primera vez.</translation>
+        <translation>Conecte la impresora a este equipo con un cable. Lo mejor la primera vez.</translation>
     </message>
     <message>
         <source>WPS一键配网</source>
@@ -249,7 +249,7 @@
     </message>
     <message>
         <source>按钮方式（PBC）</source>
-        <translation>Botón (PBC)</translation>
+        <translation>Por botón (PBC)</translation>
     </message>
     <message>
         <source>按一下路由器上的WPS按钮即可。</source>
@@ -261,15 +261,15 @@
     </message>
     <message>
         <source>路由器没有WPS按钮时，在它的设置页面输入PIN码。</source>
-        <translation>Para routers sin botón WPS: escriba el PIN en la página de ajustes del router.</translation>
+        <translation>Para routers sin botón WPS: escriba el PIN de la impresora en la página de configuración del router.</translation>
     </message>
     <message>
         <source>选择WPS的方式</source>
-        <translation>Elija el tipo de WPS</translation>
+        <translation>Elija el método WPS</translation>
     </message>
     <message>
         <source>两种方式都在打印机的菜单里。路由器上有WPS按钮时，按钮方式最简单。</source>
-        <translation>Los dos están en el menú de la impresora. Si el router tiene botón WPS, es lo más fácil.</translation>
+        <translation>Los dos métodos están en el menú de la impresora. Si el router tiene botón WPS, el método por botón es más fácil.</translation>
     </message>
     <message>
         <source>用按钮连接</source>
@@ -289,11 +289,11 @@
     </message>
     <message>
         <source>等待最多两分钟。指示灯不再闪烁时，点击“下一步”。</source>
-        <translation>Espere hasta dos minutos. Cuando la luz deje de parpadear, pulse «Siguiente».</translation>
+        <translation>Espere hasta dos minutos. Cuando la luz deje de parpadear, haga clic en «Siguiente».</translation>
     </message>
     <message>
         <source>在打印机菜单中使用按钮方式</source>
-        <translation>Botón desde el menú de la impresora</translation>
+        <translation>Método por botón desde el menú de la impresora</translation>
     </message>
     <message>
         <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PBC，然后按OK确认。</source>
@@ -301,15 +301,15 @@
     </message>
     <message>
         <source>等待最多两分钟。显示屏显示结果后，点击“下一步”。</source>
-        <translation>Espere hasta dos minutos. Cuando la pantalla muestre el resultado, pulse «Siguiente».</translation>
+        <translation>Espere hasta dos minutos. Cuando la pantalla muestre el resultado, haga clic en «Siguiente».</translation>
     </message>
     <message>
         <source>在打印机菜单中使用PIN码</source>
-        <translation>PIN desde el menú de la impresora</translation>
+        <translation>Método por PIN desde el menú de la impresora</translation>
     </message>
     <message>
         <source>PIN码几分钟后失效，请先准备好路由器的设置页面。</source>
-        <translation>El PIN caduca a los pocos minutos: abra antes la página de ajustes del router.</translation>
+        <translation>El PIN caduca a los pocos minutos: abra antes la página de configuración del router.</translation>
     </message>
     <message>
         <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PIN，显示屏会显示一个8位数字。</source>
@@ -317,11 +317,11 @@
     </message>
     <message>
         <source>在路由器设置页面的WPS栏输入这个PIN码，然后开始连接。</source>
-        <translation>Escriba este PIN en la sección WPS de la página de ajustes del router e inicie allí la conexión.</translation>
+        <translation>Escriba este PIN en la sección WPS de la página de configuración del router e inicie allí la conexión.</translation>
     </message>
     <message>
         <source>打印机的显示屏显示什么？</source>
-        <translation>¿Qué dice la pantalla de la impresora?</translation>
+        <translation>¿Qué muestra la pantalla de la impresora?</translation>
     </message>
     <message>
         <source>请看打印机的显示屏，选择您看到的结果。</source>
@@ -345,7 +345,7 @@
     </message>
     <message>
         <source>打印机的Wi-Fi指示灯怎么样？</source>
-        <translation>¿Qué hace la luz Wi-Fi de la impresora?</translation>
+        <translation>¿Cómo está la luz Wi-Fi de la impresora?</translation>
     </message>
     <message>
         <source>请看打印机的Wi-Fi指示灯，选择您看到的样子。</source>
@@ -357,11 +357,11 @@
     </message>
     <message>
         <source>打印机已经连上无线网络。</source>
-        <translation>La impresora está en la red inalámbrica.</translation>
+        <translation>La impresora está conectada a la red Wi-Fi.</translation>
     </message>
     <message>
         <source>指示灯闪烁或熄灭</source>
-        <translation>Parpadea o está apagada</translation>
+        <translation>Parpadea o apagada</translation>
     </message>
     <message>
         <source>没有连上。请返回，再试一次。</source>
@@ -369,31 +369,31 @@
     </message>
     <message>
         <source>打开系统的添加打印机窗口</source>
-        <translation>A&amp;brir la ventana «añadir impresora» del sistema</translation>
+        <translation>A&amp;brir la ventana «Añadir impresora» del sistema</translation>
     </message>
     <message>
         <source>恭喜，您完成了无线网络配置！</source>
-        <translation>¡Enhorabuena, ha configurado la red inalámbrica!</translation>
+        <translation>¡Enhorabuena! El Wi-Fi de su impresora está configurado.</translation>
     </message>
     <message>
         <source>现在可以拔掉USB数据线了。要在这台电脑上打印，请把打印机添加到系统：勾选下面的选项，然后点击“完成并退出”。</source>
-        <translation>Ya puede desconectar el cable USB. Para imprimir desde este ordenador, añada la impresora al sistema: marque la casilla de abajo y pulse «Finalizar y salir».</translation>
+        <translation>Ya puede desconectar el cable USB. Para imprimir desde este equipo, añada la impresora al sistema: marque la casilla de abajo y haga clic en «Finalizar y salir».</translation>
     </message>
     <message>
         <source>打印机已连上无线网络</source>
-        <translation>La impresora está en la red inalámbrica</translation>
+        <translation>La impresora está conectada a la red Wi-Fi</translation>
     </message>
     <message>
         <source>打印机没有连上无线网络</source>
-        <translation>La impresora no está en la red inalámbrica</translation>
+        <translation>La impresora no está conectada a la red Wi-Fi</translation>
     </message>
     <message>
         <source>打印机配置失败，当前打印机网络未开启，无法进行配网。</source>
-        <translation>La configuración ha fallado: la red de la impresora está desactivada.</translation>
+        <translation>La configuración ha fallado: el Wi-Fi de la impresora está desactivado.</translation>
     </message>
     <message>
         <source>配网失败</source>
-        <translation>La configuración de la red ha fallado</translation>
+        <translation>La configuración de la red ha fallado.</translation>
     </message>
     <message>
         <source>打印机配置失败，当前打印机Wi-Fi模块未装配，无法进行配网。</source>
@@ -405,7 +405,7 @@
     </message>
     <message>
         <source>打印机配置失败，系统升级过程中，不允许配置网络。</source>
-        <translation>La configuración ha fallado: la impresora se está actualizando y no admite la configuración de red mientras tanto.</translation>
+        <translation>La configuración ha fallado: la impresora se está actualizando y no se puede configurar ahora.</translation>
     </message>
     <message>
         <source>请检查打印机是否已开机、数据线是否插好、网络名称和密码是否正确，然后重新打开本工具再试一次。</source>
@@ -453,11 +453,11 @@
     </message>
     <message>
         <source>没有找到支持无线网络的打印机。</source>
-        <translation>No se ha encontrado ninguna impresora compatible con redes inalámbricas.</translation>
+        <translation>No se ha encontrado ninguna impresora con Wi-Fi.</translation>
     </message>
     <message>
         <source>请打开打印机电源，用USB数据线把它直接连到这台电脑（不要经过集线器），等待几秒。然后返回，再试一次。</source>
-        <translation>Encienda la impresora, conéctela a este ordenador con un cable USB (directamente, sin concentrador) y espere unos segundos. Después vuelva atrás e inténtelo otra vez.</translation>
+        <translation>Encienda la impresora, conéctela a este equipo con un cable USB (directamente, sin concentrador) y espere unos segundos. Después vuelva atrás e inténtelo otra vez.</translation>
     </message>
     <message>
         <source>隐藏密码</source>
@@ -465,15 +465,15 @@
     </message>
     <message>
         <source>大写锁定已打开</source>
-        <translation>Bloqueo de mayúsculas activado</translation>
+        <translation>Bloq Mayús activado</translation>
     </message>
     <message>
         <source>too common</source>
-        <translation>Demasiado común</translation>
+        <translation>Muy común</translation>
     </message>
     <message>
         <source>too short</source>
-        <translation>Demasiado corta</translation>
+        <translation>Muy corta</translation>
     </message>
     <message>
         <source>insecure</source>
@@ -497,7 +497,7 @@
     </message>
     <message>
         <source>请选择打印机要连接的网络，并输入它的密码。</source>
-        <translation>Elija la red a la que debe unirse la impresora y escriba su contraseña.</translation>
+        <translation>Elija la red a la que debe conectarse la impresora e introduzca su contraseña.</translation>
     </message>
     <message>
         <source>附近的无线网络</source>
@@ -513,19 +513,19 @@
     </message>
     <message>
         <source>此电脑</source>
-        <translation>este ordenador</translation>
+        <translation>su red</translation>
     </message>
     <message>
         <source>前往设置</source>
-        <translation>Abrir Ajustes</translation>
+        <translation>Abrir la configuración</translation>
     </message>
     <message>
         <source>请打开定位服务，步骤：系统设置-&gt;隐私与安全性-&gt;隐私-&gt;定位服务。</source>
-        <translation>Este programa no tiene permiso para buscar redes Wi-Fi. Concédalo en los ajustes del sistema, en Privacidad o Wi-Fi.</translation>
+        <translation>Este programa no tiene permiso para buscar redes Wi-Fi. Concédalo en la configuración del sistema, en Privacidad o Wi-Fi.</translation>
     </message>
     <message>
         <source>打印端口被占用，无法配置打印机</source>
-        <translation>La impresora está ocupada con otro trabajo y no se puede configurar ahora. Espere a que termine.</translation>
+        <translation>Otro trabajo está usando la impresora. Espere a que termine y haga clic otra vez en «Siguiente».</translation>
     </message>
     <message>
         <source>请从列表中选择，或在此输入名称。</source>

@@ -5,11 +5,11 @@
     <name>wifitool</name>
     <message>
         <source>温馨提示：</source>
-        <translation>Remarque :</translation>
+        <translation>Remarque</translation>
     </message>
     <message>
         <source>是否退出Wi-Fi配置工具?</source>
-        <translation>Quitter l'outil de configuration Wi-Fi ?</translation>
+        <translation>Quitter Wi-Fi Tool ?</translation>
     </message>
     <message>
         <source>确定</source>
@@ -77,31 +77,31 @@
     </message>
     <message>
         <source>正在唤醒打印机…</source>
-        <translation>Réveil de l'imprimante…</translation>
+        <translation>Réveil de l’imprimante…</translation>
     </message>
     <message>
         <source>正在检查打印机能否配置无线网络…</source>
-        <translation>Vérification que l'imprimante peut être configurée pour le Wi-Fi…</translation>
+        <translation>Vérification de la compatibilité Wi-Fi de l’imprimante…</translation>
     </message>
     <message>
         <source>正在发送网络名称和密码，打印机正在加入网络…</source>
-        <translation>Envoi du nom et du mot de passe ; l'imprimante rejoint le réseau…</translation>
+        <translation>Envoi du nom et du mot de passe ; l’imprimante rejoint le réseau…</translation>
     </message>
     <message>
         <source>正在等待打印机的网络地址（第 %d 次，共 %d 次）…</source>
-        <translation>Attente de l'adresse de l'imprimante (%d sur %d)…</translation>
+        <translation>Attente de l’adresse de l’imprimante (essai %d sur %d)…</translation>
     </message>
     <message>
         <source>打印机没有应答，您现在可以关闭此窗口。</source>
-        <translation>L'imprimante n'a pas répondu. Vous pouvez fermer cette fenêtre.</translation>
+        <translation>L’imprimante n’a pas répondu. Fermez cette fenêtre, redémarrez l’imprimante et réessayez.</translation>
     </message>
     <message>
         <source>正在配置打印机</source>
-        <translation>Configuration de l'imprimante</translation>
+        <translation>Configuration de l’imprimante</translation>
     </message>
     <message>
         <source>这可能需要几分钟。请保持打印机开机，不要拔下 USB 数据线。</source>
-        <translation>Cela peut prendre quelques minutes. Laissez l'imprimante allumée et le câble USB branché.</translation>
+        <translation>Cela peut prendre quelques minutes. Laissez l’imprimante allumée et le câble USB branché.</translation>
     </message>
     <message>
         <source>配置进度</source>
@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>打印机最多接受 %d 个字节的密码，请为网络设置较短的密码。</source>
-        <translation>L'imprimante accepte des mots de passe de %d octets au plus. Donnez au réseau un mot de passe plus court.</translation>
+        <translation>Ce mot de passe est trop long pour l’imprimante : %d octets au plus, un par lettre ou chiffre ordinaire. Donnez au réseau un mot de passe plus court.</translation>
     </message>
     <message>
         <source>网络名称</source>
@@ -137,11 +137,11 @@
     </message>
     <message>
         <source>上一步</source>
-        <translation>&amp;Retour</translation>
+        <translation>&amp;Précédent</translation>
     </message>
     <message>
         <source>打印无线网络信息页</source>
-        <translation>&amp;Imprimer la page d'infos Wi-Fi</translation>
+        <translation>&amp;Imprimer la page d’infos Wi-Fi</translation>
     </message>
     <message>
         <source>输入无线网络</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>此电脑的无线网络已关闭，无法列出附近的网络。请输入打印机要连接的网络。</source>
-        <translation>Le Wi-Fi de cet ordinateur est désactivé : il ne peut pas lister les réseaux alentour. Saisissez le réseau que l'imprimante doit rejoindre.</translation>
+        <translation>Le Wi-Fi de cet ordinateur est désactivé : il ne peut pas lister les réseaux alentour. Saisissez le réseau que l’imprimante doit rejoindre.</translation>
     </message>
     <message>
         <source>名称太长：最多 32 个字节。</source>
@@ -157,11 +157,11 @@
     </message>
     <message>
         <source>打印端口被占用，无法打印无线网络信息页。</source>
-        <translation>Le port de l'imprimante est occupé, la page d'infos Wi-Fi ne peut pas être imprimée.</translation>
+        <translation>L’imprimante est occupée. Attendez qu’elle ait terminé, puis réessayez.</translation>
     </message>
     <message>
         <source>已将无线网络信息页发送给打印机</source>
-        <translation>La page d'infos Wi-Fi a été envoyée à l'imprimante.</translation>
+        <translation>La page d’infos Wi-Fi a été envoyée à l’imprimante.</translation>
     </message>
     <message>
         <source>完成并退出</source>
@@ -201,11 +201,11 @@
     </message>
     <message>
         <source>让打印机连上无线网络</source>
-        <translation>Connectez votre imprimante au réseau sans fil</translation>
+        <translation>Connectez votre imprimante au Wi-Fi</translation>
     </message>
     <message>
         <source>请打开打印机电源，然后选择配置方式。</source>
-        <translation>Allumez l'imprimante, puis choisissez comment la configurer.</translation>
+        <translation>Allumez l’imprimante, puis choisissez comment la configurer.</translation>
     </message>
     <message>
         <source>USB数据线</source>
@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>用数据线连接打印机和电脑。适合第一次使用。</source>
-        <translation>Reliez l'imprimante à cet ordinateur par un câble. Idéal la première fois.</translation>
+        <translation>Reliez l’imprimante à cet ordinateur par un câble. Idéal la première fois.</translation>
     </message>
     <message>
         <source>WPS一键配网</source>
@@ -233,7 +233,7 @@
     </message>
     <message>
         <source>打印机的菜单</source>
-        <translation>Menu de l'imprimante</translation>
+        <translation>Menu de l’imprimante</translation>
     </message>
     <message>
         <source>打印机有显示屏和菜单时使用。</source>
@@ -249,11 +249,11 @@
     </message>
     <message>
         <source>按钮方式（PBC）</source>
-        <translation>Bouton (PBC)</translation>
+        <translation>Par bouton (PBC)</translation>
     </message>
     <message>
         <source>按一下路由器上的WPS按钮即可。</source>
-        <translation>Il suffit d'appuyer sur le bouton WPS du routeur.</translation>
+        <translation>Il suffit d’appuyer sur le bouton WPS du routeur.</translation>
     </message>
     <message>
         <source>PIN码方式</source>
@@ -261,15 +261,15 @@
     </message>
     <message>
         <source>路由器没有WPS按钮时，在它的设置页面输入PIN码。</source>
-        <translation>Pour les routeurs sans bouton WPS : vous saisissez le code PIN sur la page de réglages du routeur.</translation>
+        <translation>Pour les routeurs sans bouton WPS : vous saisissez le code PIN de l’imprimante sur la page de configuration du routeur.</translation>
     </message>
     <message>
         <source>选择WPS的方式</source>
-        <translation>Choisissez le type de WPS</translation>
+        <translation>Choisissez la méthode WPS</translation>
     </message>
     <message>
         <source>两种方式都在打印机的菜单里。路由器上有WPS按钮时，按钮方式最简单。</source>
-        <translation>Les deux se trouvent dans le menu de l'imprimante. Si le routeur a un bouton WPS, c'est le plus simple.</translation>
+        <translation>Les deux méthodes sont dans le menu de l’imprimante. Si le routeur a un bouton WPS, la méthode par bouton est la plus simple.</translation>
     </message>
     <message>
         <source>用按钮连接</source>
@@ -281,7 +281,7 @@
     </message>
     <message>
         <source>按住打印机上的Wi-Fi按钮约3秒，直到指示灯开始闪烁。</source>
-        <translation>Maintenez le bouton Wi-Fi de l'imprimante environ 3 secondes, jusqu'à ce que le voyant clignote.</translation>
+        <translation>Maintenez le bouton Wi-Fi de l’imprimante environ 3 secondes, jusqu’à ce que le voyant clignote.</translation>
     </message>
     <message>
         <source>按一下路由器上的WPS按钮。</source>
@@ -289,43 +289,43 @@
     </message>
     <message>
         <source>等待最多两分钟。指示灯不再闪烁时，点击“下一步”。</source>
-        <translation>Attendez jusqu'à deux minutes. Quand le voyant ne clignote plus, appuyez sur « Suivant ».</translation>
+        <translation>Attendez jusqu’à deux minutes. Quand le voyant ne clignote plus, cliquez ici sur « Suivant ».</translation>
     </message>
     <message>
         <source>在打印机菜单中使用按钮方式</source>
-        <translation>Bouton depuis le menu de l'imprimante</translation>
+        <translation>Méthode par bouton (menu de l’imprimante)</translation>
     </message>
     <message>
         <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PBC，然后按OK确认。</source>
-        <translation>Sur l'écran de l'imprimante, choisissez Menu › Réseau › WPS › PBC et confirmez avec OK.</translation>
+        <translation>Sur l’écran de l’imprimante, choisissez Menu › Réseau › WPS › PBC et confirmez avec OK.</translation>
     </message>
     <message>
         <source>等待最多两分钟。显示屏显示结果后，点击“下一步”。</source>
-        <translation>Attendez jusqu'à deux minutes. Quand l'écran affiche le résultat, appuyez sur « Suivant ».</translation>
+        <translation>Attendez jusqu’à deux minutes. Quand l’écran affiche le résultat, cliquez ici sur « Suivant ».</translation>
     </message>
     <message>
         <source>在打印机菜单中使用PIN码</source>
-        <translation>Code PIN depuis le menu de l'imprimante</translation>
+        <translation>Méthode par code PIN (menu de l’imprimante)</translation>
     </message>
     <message>
         <source>PIN码几分钟后失效，请先准备好路由器的设置页面。</source>
-        <translation>Le code PIN expire après quelques minutes : ouvrez d'abord la page de réglages du routeur.</translation>
+        <translation>Le code PIN expire vite : ouvrez d’abord la page de configuration du routeur.</translation>
     </message>
     <message>
         <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PIN，显示屏会显示一个8位数字。</source>
-        <translation>Sur l'écran de l'imprimante, choisissez Menu › Réseau › WPS › PIN. Un nombre de 8 chiffres s'affiche.</translation>
+        <translation>Sur l’écran de l’imprimante, choisissez Menu › Réseau › WPS › PIN. Un nombre de 8 chiffres s’affiche.</translation>
     </message>
     <message>
         <source>在路由器设置页面的WPS栏输入这个PIN码，然后开始连接。</source>
-        <translation>Saisissez ce code PIN dans la section WPS de la page de réglages du routeur et lancez-y la connexion.</translation>
+        <translation>Saisissez ce code PIN dans la section WPS de la page de configuration du routeur et lancez-y la connexion.</translation>
     </message>
     <message>
         <source>打印机的显示屏显示什么？</source>
-        <translation>Que dit l'écran de l'imprimante ?</translation>
+        <translation>Qu’affiche l’écran de l’imprimante ?</translation>
     </message>
     <message>
         <source>请看打印机的显示屏，选择您看到的结果。</source>
-        <translation>Regardez l'écran de l'imprimante et choisissez ce que vous voyez.</translation>
+        <translation>Regardez l’écran de l’imprimante et choisissez ce que vous voyez.</translation>
     </message>
     <message>
         <source>连接成功</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>显示屏显示“连接成功”或IP地址。</source>
-        <translation>L'écran indique que la connexion est établie ou affiche une adresse IP.</translation>
+        <translation>L’écran indique que la connexion est établie ou affiche une adresse IP.</translation>
     </message>
     <message>
         <source>连接失败</source>
@@ -341,15 +341,15 @@
     </message>
     <message>
         <source>显示屏显示“连接失败”或“超时”。请返回，再试一次。</source>
-        <translation>L'écran indique un échec ou un délai dépassé. Revenez en arrière et réessayez.</translation>
+        <translation>L’écran indique un échec ou un délai dépassé. Revenez en arrière et réessayez.</translation>
     </message>
     <message>
         <source>打印机的Wi-Fi指示灯怎么样？</source>
-        <translation>Que fait le voyant Wi-Fi de l'imprimante ?</translation>
+        <translation>Que fait le voyant Wi-Fi de l’imprimante ?</translation>
     </message>
     <message>
         <source>请看打印机的Wi-Fi指示灯，选择您看到的样子。</source>
-        <translation>Regardez le voyant Wi-Fi de l'imprimante et choisissez ce que vous voyez.</translation>
+        <translation>Regardez le voyant Wi-Fi de l’imprimante et choisissez ce que vous voyez.</translation>
     </message>
     <message>
         <source>指示灯常亮</source>
@@ -357,7 +357,7 @@
     </message>
     <message>
         <source>打印机已经连上无线网络。</source>
-        <translation>L'imprimante est sur le réseau sans fil.</translation>
+        <translation>L’imprimante est connectée au Wi-Fi.</translation>
     </message>
     <message>
         <source>指示灯闪烁或熄灭</source>
@@ -365,51 +365,51 @@
     </message>
     <message>
         <source>没有连上。请返回，再试一次。</source>
-        <translation>La connexion n'a pas abouti. Revenez en arrière et réessayez.</translation>
+        <translation>La connexion n’a pas abouti. Revenez en arrière et réessayez.</translation>
     </message>
     <message>
         <source>打开系统的添加打印机窗口</source>
-        <translation>&amp;Ouvrir la fenêtre « ajouter une imprimante » du système</translation>
+        <translation>&amp;Ouvrir la fenêtre « Ajouter une imprimante » du système</translation>
     </message>
     <message>
         <source>恭喜，您完成了无线网络配置！</source>
-        <translation>Félicitations, vous avez configuré le réseau sans fil !</translation>
+        <translation>Félicitations, le Wi-Fi de votre imprimante est configuré !</translation>
     </message>
     <message>
         <source>现在可以拔掉USB数据线了。要在这台电脑上打印，请把打印机添加到系统：勾选下面的选项，然后点击“完成并退出”。</source>
-        <translation>Vous pouvez débrancher le câble USB. Pour imprimer depuis cet ordinateur, ajoutez l'imprimante au système : cochez la case ci-dessous et appuyez sur « Terminer et quitter ».</translation>
+        <translation>Vous pouvez débrancher le câble USB. Pour imprimer depuis cet ordinateur, ajoutez l’imprimante au système : cochez la case ci-dessous et cliquez sur « Terminer et quitter ».</translation>
     </message>
     <message>
         <source>打印机已连上无线网络</source>
-        <translation>L'imprimante est sur le réseau sans fil</translation>
+        <translation>L’imprimante est connectée au Wi-Fi</translation>
     </message>
     <message>
         <source>打印机没有连上无线网络</source>
-        <translation>L'imprimante n'est pas sur le réseau sans fil</translation>
+        <translation>L’imprimante n’est pas connectée au Wi-Fi</translation>
     </message>
     <message>
         <source>打印机配置失败，当前打印机网络未开启，无法进行配网。</source>
-        <translation>La configuration a échoué : le réseau de l'imprimante est désactivé.</translation>
+        <translation>La configuration a échoué : le Wi-Fi de l’imprimante est désactivé.</translation>
     </message>
     <message>
         <source>配网失败</source>
-        <translation>La configuration du réseau a échoué</translation>
+        <translation>La configuration du réseau a échoué.</translation>
     </message>
     <message>
         <source>打印机配置失败，当前打印机Wi-Fi模块未装配，无法进行配网。</source>
-        <translation>La configuration a échoué : l'imprimante n'a pas de module Wi-Fi.</translation>
+        <translation>La configuration a échoué : l’imprimante n’a pas de module Wi-Fi.</translation>
     </message>
     <message>
         <source>Wi-Fi故障，打印机配置失败。</source>
-        <translation>La configuration a échoué : le Wi-Fi de l'imprimante est en panne.</translation>
+        <translation>La configuration a échoué : le Wi-Fi de l’imprimante est en panne.</translation>
     </message>
     <message>
         <source>打印机配置失败，系统升级过程中，不允许配置网络。</source>
-        <translation>La configuration a échoué : l'imprimante se met à jour et n'accepte pas de configuration réseau pendant ce temps.</translation>
+        <translation>La configuration a échoué : l’imprimante se met à jour et ne peut pas être configurée maintenant.</translation>
     </message>
     <message>
         <source>请检查打印机是否已开机、数据线是否插好、网络名称和密码是否正确，然后重新打开本工具再试一次。</source>
-        <translation>Vérifiez que l'imprimante est allumée, que le câble est bien branché et que le nom du réseau et le mot de passe sont corrects. Relancez ensuite ce programme.</translation>
+        <translation>Vérifiez que l’imprimante est allumée, que le câble est bien branché et que le nom du réseau et le mot de passe sont corrects. Relancez ensuite ce programme.</translation>
     </message>
     <message>
         <source>这台打印机没有安装Wi-Fi模块。请继续使用USB数据线打印，或向经销商咨询Wi-Fi模块。</source>
@@ -417,15 +417,15 @@
     </message>
     <message>
         <source>请关闭打印机，等待10秒后重新打开，再试一次。如果问题依旧，请联系售后服务。</source>
-        <translation>Éteignez l'imprimante, attendez 10 secondes, rallumez-la et réessayez. Si le problème persiste, contactez le service après-vente.</translation>
+        <translation>Éteignez l’imprimante, attendez 10 secondes, rallumez-la et réessayez. Si le problème persiste, contactez le service après-vente.</translation>
     </message>
     <message>
         <source>请等待打印机升级完成，期间不要关闭电源，然后再试一次。</source>
-        <translation>Attendez la fin de la mise à jour de l'imprimante sans l'éteindre, puis réessayez.</translation>
+        <translation>Attendez la fin de la mise à jour de l’imprimante sans l’éteindre, puis réessayez.</translation>
     </message>
     <message>
         <source>请在打印机上打开Wi-Fi功能，重新启动打印机，然后再试一次。</source>
-        <translation>Activez le Wi-Fi sur l'imprimante, redémarrez-la, puis réessayez.</translation>
+        <translation>Activez le Wi-Fi sur l’imprimante, redémarrez-la, puis réessayez.</translation>
     </message>
     <message>
         <source>您可以这样做</source>
@@ -437,27 +437,27 @@
     </message>
     <message>
         <source>配置没有成功</source>
-        <translation>La configuration n'a pas réussi</translation>
+        <translation>La configuration n’a pas réussi</translation>
     </message>
     <message>
         <source>打印机没有接受这次配置。</source>
-        <translation>L'imprimante n'a pas accepté la configuration.</translation>
+        <translation>L’imprimante n’a pas accepté la configuration.</translation>
     </message>
     <message>
         <source>请检查网络名称和密码（注意大小写），并确认打印机已开机、数据线已插好、离路由器不太远。然后返回，再试一次。</source>
-        <translation>Vérifiez le nom du réseau et le mot de passe (majuscules et minuscules comptent), et que l'imprimante est allumée, branchée et pas trop loin du routeur. Revenez ensuite en arrière et réessayez.</translation>
+        <translation>Vérifiez le nom du réseau et le mot de passe (majuscules et minuscules comptent), et que l’imprimante est allumée, branchée et pas trop loin du routeur. Revenez ensuite en arrière et réessayez.</translation>
     </message>
     <message>
         <source>没有连接打印机</source>
-        <translation>Aucune imprimante n'est connectée</translation>
+        <translation>Aucune imprimante n’est connectée</translation>
     </message>
     <message>
         <source>没有找到支持无线网络的打印机。</source>
-        <translation>Aucune imprimante compatible avec les réseaux sans fil n'a été trouvée.</translation>
+        <translation>Aucune imprimante Wi-Fi n’a été trouvée.</translation>
     </message>
     <message>
         <source>请打开打印机电源，用USB数据线把它直接连到这台电脑（不要经过集线器），等待几秒。然后返回，再试一次。</source>
-        <translation>Allumez l'imprimante, reliez-la à cet ordinateur par un câble USB (directement, sans concentrateur) et attendez quelques secondes. Revenez ensuite en arrière et réessayez.</translation>
+        <translation>Allumez l’imprimante, reliez-la à cet ordinateur par un câble USB (directement, sans concentrateur) et attendez quelques secondes. Revenez ensuite en arrière et réessayez.</translation>
     </message>
     <message>
         <source>隐藏密码</source>
@@ -465,7 +465,7 @@
     </message>
     <message>
         <source>大写锁定已打开</source>
-        <translation>Verrouillage des majuscules activé</translation>
+        <translation>Verr. Maj. activé</translation>
     </message>
     <message>
         <source>too common</source>
@@ -477,7 +477,7 @@
     </message>
     <message>
         <source>insecure</source>
-        <translation>Non sûr</translation>
+        <translation>Peu sûr</translation>
     </message>
     <message>
         <source>weak</source>
@@ -497,7 +497,7 @@
     </message>
     <message>
         <source>请选择打印机要连接的网络，并输入它的密码。</source>
-        <translation>Choisissez le réseau que l'imprimante doit rejoindre et saisissez son mot de passe.</translation>
+        <translation>Choisissez le réseau que l’imprimante doit rejoindre et saisissez son mot de passe.</translation>
     </message>
     <message>
         <source>附近的无线网络</source>
@@ -513,19 +513,19 @@
     </message>
     <message>
         <source>此电脑</source>
-        <translation>cet ordinateur</translation>
+        <translation>votre réseau</translation>
     </message>
     <message>
         <source>前往设置</source>
-        <translation>Ouvrir les réglages</translation>
+        <translation>Ouvrir les paramètres</translation>
     </message>
     <message>
         <source>请打开定位服务，步骤：系统设置-&gt;隐私与安全性-&gt;隐私-&gt;定位服务。</source>
-        <translation>Ce programme n'est pas autorisé à chercher des réseaux Wi-Fi. Autorisez-le dans les réglages du système, sous Confidentialité ou Wi-Fi.</translation>
+        <translation>Ce programme n’est pas autorisé à chercher des réseaux Wi-Fi. Autorisez-le dans les paramètres du système, sous Confidentialité ou Wi-Fi.</translation>
     </message>
     <message>
         <source>打印端口被占用，无法配置打印机</source>
-        <translation>L'imprimante est occupée par une autre tâche et ne peut pas être configurée maintenant. Attendez qu'elle ait terminé.</translation>
+        <translation>L’imprimante est occupée par une autre tâche. Attendez la fin de celle-ci, puis cliquez de nouveau sur « Suivant ».</translation>
     </message>
     <message>
         <source>请从列表中选择，或在此输入名称。</source>

@@ -5,11 +5,11 @@
     <name>wifitool</name>
     <message>
         <source>温馨提示：</source>
-        <translation>ご確認ください：</translation>
+        <translation>お知らせ</translation>
     </message>
     <message>
         <source>是否退出Wi-Fi配置工具?</source>
-        <translation>Wi-Fi設定ツールを終了しますか？</translation>
+        <translation>Wi-Fi Toolを終了しますか？</translation>
     </message>
     <message>
         <source>确定</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>正在唤醒打印机…</source>
-        <translation>プリンターを起動しています…</translation>
+        <translation>プリンターをスリープから復帰させています…</translation>
     </message>
     <message>
         <source>正在检查打印机能否配置无线网络…</source>
@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>打印机没有应答，您现在可以关闭此窗口。</source>
-        <translation>プリンターから応答がありません。このウィンドウを閉じてもかまいません。</translation>
+        <translation>プリンターから応答がありません。このウィンドウを閉じ、プリンターを再起動して、もう一度お試しください。</translation>
     </message>
     <message>
         <source>正在配置打印机</source>
@@ -109,15 +109,15 @@
     </message>
     <message>
         <source>打印机最多接受 %d 个字节的密码，请为网络设置较短的密码。</source>
-        <translation>プリンターが受け付けるパスワードは最大%dバイトです。ネットワークのパスワードを短くしてください。</translation>
+        <translation>パスワードがプリンターには長すぎます。最大%dバイト（通常の英数字は1文字1バイト）です。ネットワークのパスワードを短くしてください。</translation>
     </message>
     <message>
         <source>网络名称</source>
-        <translation>ネットワーク名</translation>
+        <translation>ネットワーク名(&amp;A)</translation>
     </message>
     <message>
         <source>网络密码</source>
-        <translation>パスワード</translation>
+        <translation>パスワード(&amp;W)</translation>
     </message>
     <message>
         <source>与路由器上显示的名称完全一致，区分大小写。</source>
@@ -125,23 +125,23 @@
     </message>
     <message>
         <source>没有密码的网络请留空。</source>
-        <translation>パスワードのないネットワークでは空欄のままにします。</translation>
+        <translation>パスワードがない場合は空欄にします。</translation>
     </message>
     <message>
         <source>显示密码</source>
-        <translation>パスワードを表示</translation>
+        <translation>パスワードを表示(&amp;S)</translation>
     </message>
     <message>
         <source>下一步</source>
-        <translation>次へ</translation>
+        <translation>次へ(&amp;N)</translation>
     </message>
     <message>
         <source>上一步</source>
-        <translation>戻る</translation>
+        <translation>戻る(&amp;B)</translation>
     </message>
     <message>
         <source>打印无线网络信息页</source>
-        <translation>Wi-Fi情報ページを印刷</translation>
+        <translation>Wi-Fi情報ページを印刷(&amp;P)</translation>
     </message>
     <message>
         <source>输入无线网络</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>此电脑的无线网络已关闭，无法列出附近的网络。请输入打印机要连接的网络。</source>
-        <translation>このコンピューターのWi-Fiがオフのため、周囲のネットワークを表示できません。プリンターを接続するネットワークを入力してください。</translation>
+        <translation>このコンピューターのWi-Fiがオフのため、近くのネットワークを表示できません。プリンターを接続するネットワークを入力してください。</translation>
     </message>
     <message>
         <source>名称太长：最多 32 个字节。</source>
@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>打印端口被占用，无法打印无线网络信息页。</source>
-        <translation>プリンターのポートが使用中のため、Wi-Fi情報ページを印刷できません。</translation>
+        <translation>プリンターは使用中です。終わるまで待ってから、もう一度お試しください。</translation>
     </message>
     <message>
         <source>已将无线网络信息页发送给打印机</source>
@@ -165,11 +165,11 @@
     </message>
     <message>
         <source>完成并退出</source>
-        <translation>完了して終了</translation>
+        <translation>完了して終了(&amp;F)</translation>
     </message>
     <message>
         <source>退出</source>
-        <translation>終了</translation>
+        <translation>終了(&amp;Q)</translation>
     </message>
     <message>
         <source>连接</source>
@@ -189,7 +189,7 @@
     </message>
     <message>
         <source>第%d步，共%d步：%@</source>
-        <translation>ステップ%d／%d：%@</translation>
+        <translation>ステップ%d（全%dステップ）：%@</translation>
     </message>
     <message>
         <source>第%d步</source>
@@ -201,7 +201,7 @@
     </message>
     <message>
         <source>让打印机连上无线网络</source>
-        <translation>プリンターを無線ネットワークに接続する</translation>
+        <translation>プリンターをWi-Fiに接続する</translation>
     </message>
     <message>
         <source>请打开打印机电源，然后选择配置方式。</source>
@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>看一看您的打印机：它有显示屏和菜单，还是只有Wi-Fi按钮？</source>
-        <translation>プリンターを確認してください。メニューを表示するディスプレイがありますか、それともWi-Fiボタンだけですか？</translation>
+        <translation>プリンターを見てください。メニューのあるディスプレイがありますか、それともWi-Fiボタンだけですか？</translation>
     </message>
     <message>
         <source>按钮方式（PBC）</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>路由器没有WPS按钮时，在它的设置页面输入PIN码。</source>
-        <translation>WPSボタンのないルーターの場合。ルーターの設定ページでPINを入力します。</translation>
+        <translation>WPSボタンのないルーターの場合。ルーターの設定ページでプリンターのPINを入力します。</translation>
     </message>
     <message>
         <source>选择WPS的方式</source>
@@ -269,7 +269,7 @@
     </message>
     <message>
         <source>两种方式都在打印机的菜单里。路由器上有WPS按钮时，按钮方式最简单。</source>
-        <translation>どちらもプリンターのメニューにあります。ルーターにWPSボタンがあれば、プッシュボタンが最も簡単です。</translation>
+        <translation>どちらもプリンターのメニューにあります。ルーターにWPSボタンがあればプッシュボタンが簡単です。</translation>
     </message>
     <message>
         <source>用按钮连接</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>等待最多两分钟。指示灯不再闪烁时，点击“下一步”。</source>
-        <translation>最大2分待ちます。ランプの点滅が止まったら「次へ」を押します。</translation>
+        <translation>最大2分待ちます。ランプの点滅が止まったら「次へ」をクリックします。</translation>
     </message>
     <message>
         <source>在打印机菜单中使用按钮方式</source>
@@ -297,11 +297,11 @@
     </message>
     <message>
         <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PBC，然后按OK确认。</source>
-        <translation>プリンターのディスプレイでメニュー › ネットワーク › WPS › PBC の順に選び、OKで確定します。</translation>
+        <translation>本体の画面でメニュー › ネットワーク › WPS › PBCを選び、OKを押します。</translation>
     </message>
     <message>
         <source>等待最多两分钟。显示屏显示结果后，点击“下一步”。</source>
-        <translation>最大2分待ちます。ディスプレイに結果が表示されたら「次へ」を押します。</translation>
+        <translation>最大2分待ちます。結果が表示されたら「次へ」をクリックします。</translation>
     </message>
     <message>
         <source>在打印机菜单中使用PIN码</source>
@@ -313,7 +313,7 @@
     </message>
     <message>
         <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PIN，显示屏会显示一个8位数字。</source>
-        <translation>プリンターのディスプレイでメニュー › ネットワーク › WPS › PIN の順に選ぶと、8桁の数字が表示されます。</translation>
+        <translation>本体の画面でメニュー › ネットワーク › WPS › PINを選ぶと、8桁の番号が出ます。</translation>
     </message>
     <message>
         <source>在路由器设置页面的WPS栏输入这个PIN码，然后开始连接。</source>
@@ -329,15 +329,15 @@
     </message>
     <message>
         <source>连接成功</source>
-        <translation>接続しました</translation>
+        <translation>接続成功</translation>
     </message>
     <message>
         <source>显示屏显示“连接成功”或IP地址。</source>
-        <translation>接続完了の表示、またはIPアドレスが表示されています。</translation>
+        <translation>「接続成功」またはIPアドレスが表示されています。</translation>
     </message>
     <message>
         <source>连接失败</source>
-        <translation>接続できません</translation>
+        <translation>接続失敗</translation>
     </message>
     <message>
         <source>显示屏显示“连接失败”或“超时”。请返回，再试一次。</source>
@@ -357,7 +357,7 @@
     </message>
     <message>
         <source>打印机已经连上无线网络。</source>
-        <translation>プリンターは無線ネットワークに接続されています。</translation>
+        <translation>プリンターはWi-Fiに接続されています。</translation>
     </message>
     <message>
         <source>指示灯闪烁或熄灭</source>
@@ -369,11 +369,11 @@
     </message>
     <message>
         <source>打开系统的添加打印机窗口</source>
-        <translation>システムの「プリンターを追加」画面を開く</translation>
+        <translation>システムの「プリンターを追加」画面を開く(&amp;O)</translation>
     </message>
     <message>
         <source>恭喜，您完成了无线网络配置！</source>
-        <translation>おめでとうございます。無線ネットワークの設定が完了しました！</translation>
+        <translation>おめでとうございます。プリンターのWi-Fi設定が完了しました！</translation>
     </message>
     <message>
         <source>现在可以拔掉USB数据线了。要在这台电脑上打印，请把打印机添加到系统：勾选下面的选项，然后点击“完成并退出”。</source>
@@ -381,19 +381,19 @@
     </message>
     <message>
         <source>打印机已连上无线网络</source>
-        <translation>プリンターは無線ネットワークに接続されています</translation>
+        <translation>プリンターはWi-Fiに接続されています</translation>
     </message>
     <message>
         <source>打印机没有连上无线网络</source>
-        <translation>プリンターは無線ネットワークに接続されていません</translation>
+        <translation>プリンターはWi-Fiに接続されていません</translation>
     </message>
     <message>
         <source>打印机配置失败，当前打印机网络未开启，无法进行配网。</source>
-        <translation>設定に失敗しました。プリンターのネットワークがオフのため、設定できません。</translation>
+        <translation>設定に失敗しました。プリンターのWi-Fiがオフになっています。</translation>
     </message>
     <message>
         <source>配网失败</source>
-        <translation>ネットワークの設定に失敗しました</translation>
+        <translation>ネットワークの設定に失敗しました。</translation>
     </message>
     <message>
         <source>打印机配置失败，当前打印机Wi-Fi模块未装配，无法进行配网。</source>
@@ -405,7 +405,7 @@
     </message>
     <message>
         <source>打印机配置失败，系统升级过程中，不允许配置网络。</source>
-        <translation>設定に失敗しました。プリンターの更新中は、ネットワークを設定できません。</translation>
+        <translation>設定に失敗しました。プリンターのファームウェアを更新中です。</translation>
     </message>
     <message>
         <source>请检查打印机是否已开机、数据线是否插好、网络名称和密码是否正确，然后重新打开本工具再试一次。</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
         <source>请等待打印机升级完成，期间不要关闭电源，然后再试一次。</source>
-        <translation>電源を切らずにプリンターの更新が終わるのを待ってから、もう一度お試しください。</translation>
+        <translation>電源を切らずに更新が終わるのを待ち、もう一度お試しください。</translation>
     </message>
     <message>
         <source>请在打印机上打开Wi-Fi功能，重新启动打印机，然后再试一次。</source>
@@ -429,7 +429,7 @@
     </message>
     <message>
         <source>您可以这样做</source>
-        <translation>対処方法</translation>
+        <translation>次に行うこと</translation>
     </message>
     <message>
         <source>运行日志：%@</source>
@@ -445,7 +445,7 @@
     </message>
     <message>
         <source>请检查网络名称和密码（注意大小写），并确认打印机已开机、数据线已插好、离路由器不太远。然后返回，再试一次。</source>
-        <translation>ネットワーク名とパスワード（大文字と小文字に注意）を確認し、プリンターの電源が入り、接続され、ルーターから遠すぎないことを確認してください。その後、戻ってもう一度お試しください。</translation>
+        <translation>ネットワーク名とパスワードを確認してください（大文字と小文字は区別されます）。プリンターの電源が入っていること、ケーブルがつながっていること、ルーターから離れすぎていないことも確認してください。その後、戻ってもう一度お試しください。</translation>
     </message>
     <message>
         <source>没有连接打印机</source>
@@ -453,7 +453,7 @@
     </message>
     <message>
         <source>没有找到支持无线网络的打印机。</source>
-        <translation>無線ネットワークに対応したプリンターが見つかりませんでした。</translation>
+        <translation>Wi-Fiに対応したプリンターが見つかりませんでした。</translation>
     </message>
     <message>
         <source>请打开打印机电源，用USB数据线把它直接连到这台电脑（不要经过集线器），等待几秒。然后返回，再试一次。</source>
@@ -469,15 +469,15 @@
     </message>
     <message>
         <source>too common</source>
-        <translation>よく使われるパスワードです</translation>
+        <translation>ありがち</translation>
     </message>
     <message>
         <source>too short</source>
-        <translation>短すぎます</translation>
+        <translation>短すぎる</translation>
     </message>
     <message>
         <source>insecure</source>
-        <translation>安全ではありません</translation>
+        <translation>危険</translation>
     </message>
     <message>
         <source>weak</source>
@@ -509,11 +509,11 @@
     </message>
     <message>
         <source>刷新</source>
-        <translation>更新</translation>
+        <translation>再検索(&amp;R)</translation>
     </message>
     <message>
         <source>此电脑</source>
-        <translation>このコンピューター</translation>
+        <translation>PCで使用中</translation>
     </message>
     <message>
         <source>前往设置</source>
@@ -525,7 +525,7 @@
     </message>
     <message>
         <source>打印端口被占用，无法配置打印机</source>
-        <translation>プリンターは別の処理で使用中のため、いまは設定できません。終わるまでお待ちください。</translation>
+        <translation>プリンターは別のジョブで使用中です。終わるまで待ってから、もう一度「次へ」を押してください。</translation>
     </message>
     <message>
         <source>请从列表中选择，或在此输入名称。</source>

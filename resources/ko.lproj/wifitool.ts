@@ -5,11 +5,11 @@
     <name>wifitool</name>
     <message>
         <source>温馨提示：</source>
-        <translation>안내:</translation>
+        <translation>안내</translation>
     </message>
     <message>
         <source>是否退出Wi-Fi配置工具?</source>
-        <translation>Wi-Fi 설정 도구를 종료하시겠습니까?</translation>
+        <translation>Wi-Fi Tool을 종료하시겠습니까?</translation>
     </message>
     <message>
         <source>确定</source>
@@ -33,43 +33,43 @@
     </message>
     <message>
         <source>WPA-Personal</source>
-        <translation>WPA 개인</translation>
+        <translation>WPA 개인용</translation>
     </message>
     <message>
         <source>WPA-Enterprise</source>
-        <translation>WPA 엔터프라이즈</translation>
+        <translation>WPA 기업용</translation>
     </message>
     <message>
         <source>WPA/WPA2-Personal</source>
-        <translation>WPA/WPA2 개인</translation>
+        <translation>WPA/WPA2 개인용</translation>
     </message>
     <message>
         <source>WPA/WPA2-Enterprise</source>
-        <translation>WPA/WPA2 엔터프라이즈</translation>
+        <translation>WPA/WPA2 기업용</translation>
     </message>
     <message>
         <source>WPA2-Personal</source>
-        <translation>WPA2 개인</translation>
+        <translation>WPA2 개인용</translation>
     </message>
     <message>
         <source>WPA2-Enterprise</source>
-        <translation>WPA2 엔터프라이즈</translation>
+        <translation>WPA2 기업용</translation>
     </message>
     <message>
         <source>WPA2/WPA3-Personal</source>
-        <translation>WPA2/WPA3 개인</translation>
+        <translation>WPA2/WPA3 개인용</translation>
     </message>
     <message>
         <source>WPA2/WPA3-Enterprise</source>
-        <translation>WPA2/WPA3 엔터프라이즈</translation>
+        <translation>WPA2/WPA3 기업용</translation>
     </message>
     <message>
         <source>WPA3-Personal</source>
-        <translation>WPA3 개인</translation>
+        <translation>WPA3 개인용</translation>
     </message>
     <message>
         <source>WPA3-Enterprise</source>
-        <translation>WPA3 엔터프라이즈</translation>
+        <translation>WPA3 기업용</translation>
     </message>
     <message>
         <source>OWE</source>
@@ -89,11 +89,11 @@
     </message>
     <message>
         <source>正在等待打印机的网络地址（第 %d 次，共 %d 次）…</source>
-        <translation>프린터의 주소를 기다리는 중(%d/%d)…</translation>
+        <translation>프린터의 주소를 기다리는 중(%d번째, 총 %d번)…</translation>
     </message>
     <message>
         <source>打印机没有应答，您现在可以关闭此窗口。</source>
-        <translation>프린터가 응답하지 않습니다. 이제 이 창을 닫아도 됩니다.</translation>
+        <translation>프린터가 응답하지 않습니다. 이 창을 닫고 프린터를 다시 시작한 다음 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>正在配置打印机</source>
@@ -101,7 +101,7 @@
     </message>
     <message>
         <source>这可能需要几分钟。请保持打印机开机，不要拔下 USB 数据线。</source>
-        <translation>몇 분 정도 걸릴 수 있습니다. 프린터를 켜 두고 USB 케이블을 뽑지 마세요.</translation>
+        <translation>몇 분 정도 걸릴 수 있습니다. 프린터를 켜 두고 USB 케이블을 뽑지 마십시오.</translation>
     </message>
     <message>
         <source>配置进度</source>
@@ -109,39 +109,39 @@
     </message>
     <message>
         <source>打印机最多接受 %d 个字节的密码，请为网络设置较短的密码。</source>
-        <translation>프린터는 최대 %d바이트의 비밀번호만 받습니다. 네트워크 비밀번호를 더 짧게 바꾸세요.</translation>
+        <translation>비밀번호가 프린터에는 너무 깁니다. 최대 %d바이트(일반 영문자나 숫자는 하나에 1바이트)입니다. 네트워크 비밀번호를 더 짧게 바꾸십시오.</translation>
     </message>
     <message>
         <source>网络名称</source>
-        <translation>네트워크 이름</translation>
+        <translation>네트워크 이름(&amp;A)</translation>
     </message>
     <message>
         <source>网络密码</source>
-        <translation>비밀번호</translation>
+        <translation>비밀번호(&amp;W)</translation>
     </message>
     <message>
         <source>与路由器上显示的名称完全一致，区分大小写。</source>
-        <translation>공유기에 표시된 이름과 똑같이 입력하세요. 대소문자를 구분합니다.</translation>
+        <translation>공유기에 표시된 이름과 똑같이 입력하십시오. 대소문자를 구분합니다.</translation>
     </message>
     <message>
         <source>没有密码的网络请留空。</source>
-        <translation>비밀번호가 없는 네트워크는 비워 두세요.</translation>
+        <translation>비밀번호가 없는 네트워크는 비워 두십시오.</translation>
     </message>
     <message>
         <source>显示密码</source>
-        <translation>비밀번호 표시</translation>
+        <translation>비밀번호 표시(&amp;S)</translation>
     </message>
     <message>
         <source>下一步</source>
-        <translation>다음</translation>
+        <translation>다음(&amp;N)</translation>
     </message>
     <message>
         <source>上一步</source>
-        <translation>뒤로</translation>
+        <translation>뒤로(&amp;B)</translation>
     </message>
     <message>
         <source>打印无线网络信息页</source>
-        <translation>Wi-Fi 정보 페이지 인쇄</translation>
+        <translation>Wi-Fi 정보 페이지 인쇄(&amp;P)</translation>
     </message>
     <message>
         <source>输入无线网络</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>此电脑的无线网络已关闭，无法列出附近的网络。请输入打印机要连接的网络。</source>
-        <translation>이 컴퓨터의 Wi-Fi가 꺼져 있어 주변 네트워크를 표시할 수 없습니다. 프린터를 연결할 네트워크를 입력하세요.</translation>
+        <translation>이 컴퓨터의 Wi-Fi가 꺼져 있어 주변 네트워크를 표시할 수 없습니다. 프린터를 연결할 네트워크를 입력하십시오.</translation>
     </message>
     <message>
         <source>名称太长：最多 32 个字节。</source>
@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>打印端口被占用，无法打印无线网络信息页。</source>
-        <translation>프린터 포트가 사용 중이어서 Wi-Fi 정보 페이지를 인쇄할 수 없습니다.</translation>
+        <translation>프린터가 사용 중입니다. 끝날 때까지 기다린 다음 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>已将无线网络信息页发送给打印机</source>
@@ -165,11 +165,11 @@
     </message>
     <message>
         <source>完成并退出</source>
-        <translation>완료하고 종료</translation>
+        <translation>완료하고 종료(&amp;F)</translation>
     </message>
     <message>
         <source>退出</source>
-        <translation>종료</translation>
+        <translation>종료(&amp;Q)</translation>
     </message>
     <message>
         <source>连接</source>
@@ -189,7 +189,7 @@
     </message>
     <message>
         <source>第%d步，共%d步：%@</source>
-        <translation>%d/%d단계: %@</translation>
+        <translation>%d단계(총 %d단계): %@</translation>
     </message>
     <message>
         <source>第%d步</source>
@@ -201,11 +201,11 @@
     </message>
     <message>
         <source>让打印机连上无线网络</source>
-        <translation>프린터를 무선 네트워크에 연결하기</translation>
+        <translation>프린터를 Wi-Fi에 연결하기</translation>
     </message>
     <message>
         <source>请打开打印机电源，然后选择配置方式。</source>
-        <translation>프린터를 켠 다음 설정 방법을 선택하세요.</translation>
+        <translation>프린터를 켠 다음 설정 방법을 선택하십시오.</translation>
     </message>
     <message>
         <source>USB数据线</source>
@@ -241,11 +241,11 @@
     </message>
     <message>
         <source>从哪里启动WPS？</source>
-        <translation>WPS를 어디에서 시작할까요?</translation>
+        <translation>WPS를 어디에서 시작하시겠습니까?</translation>
     </message>
     <message>
         <source>看一看您的打印机：它有显示屏和菜单，还是只有Wi-Fi按钮？</source>
-        <translation>프린터를 확인하세요. 메뉴가 있는 화면이 있나요, 아니면 Wi-Fi 버튼만 있나요?</translation>
+        <translation>프린터를 확인하십시오. 메뉴가 있는 화면이 있습니까, 아니면 Wi-Fi 버튼만 있습니까?</translation>
     </message>
     <message>
         <source>按钮方式（PBC）</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>路由器没有WPS按钮时，在它的设置页面输入PIN码。</source>
-        <translation>WPS 버튼이 없는 공유기용. 공유기 설정 페이지에 PIN을 입력합니다.</translation>
+        <translation>WPS 버튼이 없는 공유기용. 공유기 설정 페이지에 프린터의 PIN을 입력합니다.</translation>
     </message>
     <message>
         <source>选择WPS的方式</source>
@@ -269,7 +269,7 @@
     </message>
     <message>
         <source>两种方式都在打印机的菜单里。路由器上有WPS按钮时，按钮方式最简单。</source>
-        <translation>둘 다 프린터 메뉴에 있습니다. 공유기에 WPS 버튼이 있으면 버튼 방식이 가장 쉽습니다.</translation>
+        <translation>둘 다 프린터 메뉴에 있습니다. 공유기에 WPS 버튼이 있으면 버튼 방식이 더 쉽습니다.</translation>
     </message>
     <message>
         <source>用按钮连接</source>
@@ -277,19 +277,19 @@
     </message>
     <message>
         <source>请在两分钟内完成前两步。</source>
-        <translation>처음 두 단계는 2분 안에 끝내세요.</translation>
+        <translation>처음 두 단계는 2분 안에 끝내십시오.</translation>
     </message>
     <message>
         <source>按住打印机上的Wi-Fi按钮约3秒，直到指示灯开始闪烁。</source>
-        <translation>표시등이 깜박일 때까지 프린터의 Wi-Fi 버튼을 약 3초간 누르세요.</translation>
+        <translation>표시등이 깜박일 때까지 프린터의 Wi-Fi 버튼을 약 3초간 누르십시오.</translation>
     </message>
     <message>
         <source>按一下路由器上的WPS按钮。</source>
-        <translation>공유기의 WPS 버튼을 누르세요.</translation>
+        <translation>공유기의 WPS 버튼을 누르십시오.</translation>
     </message>
     <message>
         <source>等待最多两分钟。指示灯不再闪烁时，点击“下一步”。</source>
-        <translation>최대 2분간 기다리세요. 표시등이 더 이상 깜박이지 않으면 ‘다음’을 누르세요.</translation>
+        <translation>최대 2분간 기다리십시오. 표시등이 더 이상 깜박이지 않으면 이 창에서 ‘다음’을 누르십시오.</translation>
     </message>
     <message>
         <source>在打印机菜单中使用按钮方式</source>
@@ -297,11 +297,11 @@
     </message>
     <message>
         <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PBC，然后按OK确认。</source>
-        <translation>프린터 화면에서 메뉴 › 네트워크 › WPS › PBC를 선택하고 OK로 확인하세요.</translation>
+        <translation>프린터 화면에서 메뉴 › 네트워크 › WPS › PBC를 선택하고 OK로 확인하십시오.</translation>
     </message>
     <message>
         <source>等待最多两分钟。显示屏显示结果后，点击“下一步”。</source>
-        <translation>최대 2분간 기다리세요. 화면에 결과가 표시되면 ‘다음’을 누르세요.</translation>
+        <translation>최대 2분간 기다리십시오. 화면에 결과가 표시되면 이 창에서 ‘다음’을 누르십시오.</translation>
     </message>
     <message>
         <source>在打印机菜单中使用PIN码</source>
@@ -309,7 +309,7 @@
     </message>
     <message>
         <source>PIN码几分钟后失效，请先准备好路由器的设置页面。</source>
-        <translation>PIN은 몇 분 뒤 만료되므로 먼저 공유기 설정 페이지를 여세요.</translation>
+        <translation>PIN은 몇 분 뒤 만료되므로 먼저 공유기 설정 페이지를 여십시오.</translation>
     </message>
     <message>
         <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PIN，显示屏会显示一个8位数字。</source>
@@ -317,15 +317,15 @@
     </message>
     <message>
         <source>在路由器设置页面的WPS栏输入这个PIN码，然后开始连接。</source>
-        <translation>공유기 설정 페이지의 WPS 항목에 이 PIN을 입력하고 연결을 시작하세요.</translation>
+        <translation>공유기 설정 페이지의 WPS 항목에 이 PIN을 입력하고 연결을 시작하십시오.</translation>
     </message>
     <message>
         <source>打印机的显示屏显示什么？</source>
-        <translation>프린터 화면에 무엇이 표시되나요?</translation>
+        <translation>프린터 화면에 무엇이 표시됩니까?</translation>
     </message>
     <message>
         <source>请看打印机的显示屏，选择您看到的结果。</source>
-        <translation>프린터 화면을 보고 해당하는 것을 선택하세요.</translation>
+        <translation>프린터 화면을 보고 해당하는 것을 선택하십시오.</translation>
     </message>
     <message>
         <source>连接成功</source>
@@ -337,19 +337,19 @@
     </message>
     <message>
         <source>连接失败</source>
-        <translation>연결 안 됨</translation>
+        <translation>연결되지 않음</translation>
     </message>
     <message>
         <source>显示屏显示“连接失败”或“超时”。请返回，再试一次。</source>
-        <translation>실패 또는 시간 초과가 표시됩니다. 뒤로 가서 다시 시도하세요.</translation>
+        <translation>실패 또는 시간 초과가 표시됩니다. 뒤로 가서 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>打印机的Wi-Fi指示灯怎么样？</source>
-        <translation>프린터의 Wi-Fi 표시등이 어떤가요?</translation>
+        <translation>프린터의 Wi-Fi 표시등이 어떤 상태입니까?</translation>
     </message>
     <message>
         <source>请看打印机的Wi-Fi指示灯，选择您看到的样子。</source>
-        <translation>프린터의 Wi-Fi 표시등을 보고 해당하는 것을 선택하세요.</translation>
+        <translation>프린터의 Wi-Fi 표시등을 보고 해당하는 것을 선택하십시오.</translation>
     </message>
     <message>
         <source>指示灯常亮</source>
@@ -357,7 +357,7 @@
     </message>
     <message>
         <source>打印机已经连上无线网络。</source>
-        <translation>프린터가 무선 네트워크에 연결되어 있습니다.</translation>
+        <translation>프린터가 Wi-Fi에 연결되어 있습니다.</translation>
     </message>
     <message>
         <source>指示灯闪烁或熄灭</source>
@@ -365,35 +365,35 @@
     </message>
     <message>
         <source>没有连上。请返回，再试一次。</source>
-        <translation>연결되지 않았습니다. 뒤로 가서 다시 시도하세요.</translation>
+        <translation>연결되지 않았습니다. 뒤로 가서 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>打开系统的添加打印机窗口</source>
-        <translation>시스템의 ‘프린터 추가’ 창 열기</translation>
+        <translation>시스템의 ‘프린터 추가’ 창 열기(&amp;O)</translation>
     </message>
     <message>
         <source>恭喜，您完成了无线网络配置！</source>
-        <translation>축하합니다. 무선 네트워크 설정을 마쳤습니다!</translation>
+        <translation>축하합니다. 프린터의 Wi-Fi 설정을 마쳤습니다!</translation>
     </message>
     <message>
         <source>现在可以拔掉USB数据线了。要在这台电脑上打印，请把打印机添加到系统：勾选下面的选项，然后点击“完成并退出”。</source>
-        <translation>이제 USB 케이블을 뽑아도 됩니다. 이 컴퓨터에서 인쇄하려면 프린터를 시스템에 추가하세요. 아래 상자를 선택하고 ‘완료하고 종료’를 누르세요.</translation>
+        <translation>이제 USB 케이블을 뽑아도 됩니다. 이 컴퓨터에서 인쇄하려면 프린터를 시스템에 추가하십시오. 아래 확인란을 선택하고 ‘완료하고 종료’를 누르십시오.</translation>
     </message>
     <message>
         <source>打印机已连上无线网络</source>
-        <translation>프린터가 무선 네트워크에 연결되어 있습니다</translation>
+        <translation>프린터가 Wi-Fi에 연결되어 있습니다</translation>
     </message>
     <message>
         <source>打印机没有连上无线网络</source>
-        <translation>프린터가 무선 네트워크에 연결되어 있지 않습니다</translation>
+        <translation>프린터가 Wi-Fi에 연결되어 있지 않습니다</translation>
     </message>
     <message>
         <source>打印机配置失败，当前打印机网络未开启，无法进行配网。</source>
-        <translation>설정하지 못했습니다. 프린터의 네트워크가 꺼져 있습니다.</translation>
+        <translation>설정하지 못했습니다. 프린터의 Wi-Fi가 꺼져 있습니다.</translation>
     </message>
     <message>
         <source>配网失败</source>
-        <translation>네트워크를 설정하지 못했습니다</translation>
+        <translation>네트워크를 설정하지 못했습니다.</translation>
     </message>
     <message>
         <source>打印机配置失败，当前打印机Wi-Fi模块未装配，无法进行配网。</source>
@@ -405,31 +405,31 @@
     </message>
     <message>
         <source>打印机配置失败，系统升级过程中，不允许配置网络。</source>
-        <translation>설정하지 못했습니다. 프린터가 업데이트 중이어서 네트워크를 설정할 수 없습니다.</translation>
+        <translation>설정하지 못했습니다. 프린터가 업데이트 중입니다.</translation>
     </message>
     <message>
         <source>请检查打印机是否已开机、数据线是否插好、网络名称和密码是否正确，然后重新打开本工具再试一次。</source>
-        <translation>프린터가 켜져 있는지, 케이블이 단단히 연결되었는지, 네트워크 이름과 비밀번호가 맞는지 확인하세요. 그런 다음 이 프로그램을 다시 시작하세요.</translation>
+        <translation>프린터가 켜져 있는지, 케이블이 단단히 연결되었는지, 네트워크 이름과 비밀번호가 맞는지 확인하십시오. 그런 다음 이 프로그램을 다시 시작하십시오.</translation>
     </message>
     <message>
         <source>这台打印机没有安装Wi-Fi模块。请继续使用USB数据线打印，或向经销商咨询Wi-Fi模块。</source>
-        <translation>USB 케이블로 계속 인쇄하거나 판매점에 Wi-Fi 모듈을 문의하세요.</translation>
+        <translation>USB 케이블로 계속 인쇄하거나 판매점에 Wi-Fi 모듈을 문의하십시오.</translation>
     </message>
     <message>
         <source>请关闭打印机，等待10秒后重新打开，再试一次。如果问题依旧，请联系售后服务。</source>
-        <translation>프린터를 끄고 10초 기다린 뒤 다시 켜고 시도하세요. 해결되지 않으면 고객 지원에 문의하세요.</translation>
+        <translation>프린터를 끄고 10초 기다린 뒤 다시 켜고 시도하십시오. 해결되지 않으면 고객 지원에 문의하십시오.</translation>
     </message>
     <message>
         <source>请等待打印机升级完成，期间不要关闭电源，然后再试一次。</source>
-        <translation>프린터를 끄지 말고 업데이트가 끝날 때까지 기다린 뒤 다시 시도하세요.</translation>
+        <translation>프린터를 끄지 말고 업데이트가 끝날 때까지 기다린 뒤 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>请在打印机上打开Wi-Fi功能，重新启动打印机，然后再试一次。</source>
-        <translation>프린터에서 Wi-Fi를 켜고 프린터를 다시 시작한 뒤 다시 시도하세요.</translation>
+        <translation>프린터에서 Wi-Fi를 켜고 프린터를 다시 시작한 뒤 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>您可以这样做</source>
-        <translation>해결 방법</translation>
+        <translation>다음에 할 일</translation>
     </message>
     <message>
         <source>运行日志：%@</source>
@@ -445,7 +445,7 @@
     </message>
     <message>
         <source>请检查网络名称和密码（注意大小写），并确认打印机已开机、数据线已插好、离路由器不太远。然后返回，再试一次。</source>
-        <translation>네트워크 이름과 비밀번호(대소문자 구분)를 확인하고, 프린터가 켜져 있고 연결되어 있으며 공유기에서 너무 멀지 않은지 확인하세요. 그런 다음 뒤로 가서 다시 시도하세요.</translation>
+        <translation>네트워크 이름과 비밀번호(대소문자 구분)를 확인하고, 프린터가 켜져 있고 연결되어 있으며 공유기에서 너무 멀지 않은지 확인하십시오. 그런 다음 뒤로 가서 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>没有连接打印机</source>
@@ -453,11 +453,11 @@
     </message>
     <message>
         <source>没有找到支持无线网络的打印机。</source>
-        <translation>무선 네트워크를 지원하는 프린터를 찾지 못했습니다.</translation>
+        <translation>Wi-Fi를 지원하는 프린터를 찾지 못했습니다.</translation>
     </message>
     <message>
         <source>请打开打印机电源，用USB数据线把它直接连到这台电脑（不要经过集线器），等待几秒。然后返回，再试一次。</source>
-        <translation>프린터를 켜고 USB 케이블로 이 컴퓨터에 (허브 없이 직접) 연결한 뒤 몇 초 기다리세요. 그런 다음 뒤로 가서 다시 시도하세요.</translation>
+        <translation>프린터를 켜고 USB 케이블로 이 컴퓨터에 (허브 없이 직접) 연결한 뒤 몇 초 기다리십시오. 그런 다음 뒤로 가서 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>隐藏密码</source>
@@ -497,7 +497,7 @@
     </message>
     <message>
         <source>请选择打印机要连接的网络，并输入它的密码。</source>
-        <translation>프린터를 연결할 네트워크를 선택하고 비밀번호를 입력하세요.</translation>
+        <translation>프린터를 연결할 네트워크를 선택하고 비밀번호를 입력하십시오.</translation>
     </message>
     <message>
         <source>附近的无线网络</source>
@@ -509,11 +509,11 @@
     </message>
     <message>
         <source>刷新</source>
-        <translation>새로 고침</translation>
+        <translation>새로 고침(&amp;R)</translation>
     </message>
     <message>
         <source>此电脑</source>
-        <translation>이 컴퓨터</translation>
+        <translation>이 컴퓨터에서 사용 중</translation>
     </message>
     <message>
         <source>前往设置</source>
@@ -521,15 +521,15 @@
     </message>
     <message>
         <source>请打开定位服务，步骤：系统设置-&gt;隐私与安全性-&gt;隐私-&gt;定位服务。</source>
-        <translation>이 프로그램은 Wi-Fi 네트워크를 검색할 권한이 없습니다. 시스템 설정의 개인 정보 보호 또는 Wi-Fi에서 허용하세요.</translation>
+        <translation>이 프로그램은 Wi-Fi 네트워크를 검색할 권한이 없습니다. 시스템 설정의 개인 정보 보호 또는 Wi-Fi에서 허용하십시오.</translation>
     </message>
     <message>
         <source>打印端口被占用，无法配置打印机</source>
-        <translation>프린터가 다른 작업에 사용 중이어서 지금은 설정할 수 없습니다. 끝날 때까지 기다리세요.</translation>
+        <translation>프린터가 다른 작업에 사용 중입니다. 끝날 때까지 기다린 다음 ‘다음’을 다시 누르십시오.</translation>
     </message>
     <message>
         <source>请从列表中选择，或在此输入名称。</source>
-        <translation>목록에서 선택하거나 여기에 이름을 입력하세요.</translation>
+        <translation>목록에서 선택하거나 여기에 이름을 입력하십시오.</translation>
     </message>
 </context>
 </TS>

@@ -5,7 +5,7 @@
     <name>wifitool</name>
     <message>
         <source>温馨提示：</source>
-        <translation>溫馨提示：</translation>
+        <translation>提醒</translation>
     </message>
     <message>
         <source>是否退出Wi-Fi配置工具?</source>
@@ -33,43 +33,43 @@
     </message>
     <message>
         <source>WPA-Personal</source>
-        <translation>WPA 個人</translation>
+        <translation>WPA 個人版</translation>
     </message>
     <message>
         <source>WPA-Enterprise</source>
-        <translation>WPA 企業</translation>
+        <translation>WPA 企業版</translation>
     </message>
     <message>
         <source>WPA/WPA2-Personal</source>
-        <translation>WPA/WPA2 個人</translation>
+        <translation>WPA/WPA2 個人版</translation>
     </message>
     <message>
         <source>WPA/WPA2-Enterprise</source>
-        <translation>WPA/WPA2 企業</translation>
+        <translation>WPA/WPA2 企業版</translation>
     </message>
     <message>
         <source>WPA2-Personal</source>
-        <translation>WPA2 個人</translation>
+        <translation>WPA2 個人版</translation>
     </message>
     <message>
         <source>WPA2-Enterprise</source>
-        <translation>WPA2 企業</translation>
+        <translation>WPA2 企業版</translation>
     </message>
     <message>
         <source>WPA2/WPA3-Personal</source>
-        <translation>WPA2/WPA3 個人</translation>
+        <translation>WPA2/WPA3 個人版</translation>
     </message>
     <message>
         <source>WPA2/WPA3-Enterprise</source>
-        <translation>WPA2/WPA3 企業</translation>
+        <translation>WPA2/WPA3 企業版</translation>
     </message>
     <message>
         <source>WPA3-Personal</source>
-        <translation>WPA3 個人</translation>
+        <translation>WPA3 個人版</translation>
     </message>
     <message>
         <source>WPA3-Enterprise</source>
-        <translation>WPA3 企業</translation>
+        <translation>WPA3 企業版</translation>
     </message>
     <message>
         <source>OWE</source>
@@ -81,11 +81,11 @@
     </message>
     <message>
         <source>正在检查打印机能否配置无线网络…</source>
-        <translation>正在檢查印表機能否設定無線網路…</translation>
+        <translation>正在檢查印表機能否設定 Wi-Fi…</translation>
     </message>
     <message>
         <source>正在发送网络名称和密码，打印机正在加入网络…</source>
-        <translation>正在傳送網路名稱和密碼，印表機正在加入網路…</translation>
+        <translation>正在傳送網路名稱和密碼，印表機正在連線到網路…</translation>
     </message>
     <message>
         <source>正在等待打印机的网络地址（第 %d 次，共 %d 次）…</source>
@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>打印机没有应答，您现在可以关闭此窗口。</source>
-        <translation>印表機沒有回應，您現在可以關閉此視窗。</translation>
+        <translation>印表機沒有回應。請關閉此視窗，重新啟動印表機後再試一次。</translation>
     </message>
     <message>
         <source>正在配置打印机</source>
@@ -109,47 +109,47 @@
     </message>
     <message>
         <source>打印机最多接受 %d 个字节的密码，请为网络设置较短的密码。</source>
-        <translation>印表機最多接受 %d 個位元組的密碼，請為網路設定較短的密碼。</translation>
+        <translation>密碼太長，印表機最多接受 %d 個位元組（一般字母或數字各佔一個）。請為網路設定較短的密碼。</translation>
     </message>
     <message>
         <source>网络名称</source>
-        <translation>網路名稱</translation>
+        <translation>網路名稱(&amp;A)</translation>
     </message>
     <message>
         <source>网络密码</source>
-        <translation>網路密碼</translation>
+        <translation>網路密碼(&amp;W)</translation>
     </message>
     <message>
         <source>与路由器上显示的名称完全一致，区分大小写。</source>
-        <translation>與路由器上顯示的名稱完全一致，區分大小寫。</translation>
+        <translation>請與路由器顯示的名稱完全相同，大小寫視為不同。</translation>
     </message>
     <message>
         <source>没有密码的网络请留空。</source>
-        <translation>沒有密碼的網路請留空。</translation>
+        <translation>網路沒有密碼時請留空。</translation>
     </message>
     <message>
         <source>显示密码</source>
-        <translation>顯示密碼</translation>
+        <translation>顯示密碼(&amp;S)</translation>
     </message>
     <message>
         <source>下一步</source>
-        <translation>下一步</translation>
+        <translation>下一步(&amp;N)</translation>
     </message>
     <message>
         <source>上一步</source>
-        <translation>上一步</translation>
+        <translation>上一步(&amp;B)</translation>
     </message>
     <message>
         <source>打印无线网络信息页</source>
-        <translation>列印無線網路資訊頁</translation>
+        <translation>列印 Wi-Fi 資訊頁(&amp;P)</translation>
     </message>
     <message>
         <source>输入无线网络</source>
-        <translation>輸入無線網路</translation>
+        <translation>輸入 Wi-Fi 網路</translation>
     </message>
     <message>
         <source>此电脑的无线网络已关闭，无法列出附近的网络。请输入打印机要连接的网络。</source>
-        <translation>此電腦的無線網路已關閉，無法列出附近的網路。請輸入印表機要連接的網路。</translation>
+        <translation>此電腦的 Wi-Fi 已關閉，無法列出附近的網路。請輸入印表機要連線的網路。</translation>
     </message>
     <message>
         <source>名称太长：最多 32 个字节。</source>
@@ -157,23 +157,23 @@
     </message>
     <message>
         <source>打印端口被占用，无法打印无线网络信息页。</source>
-        <translation>列印連接埠被佔用，無法列印無線網路資訊頁。</translation>
+        <translation>印表機忙碌中。請等工作完成後再試一次。</translation>
     </message>
     <message>
         <source>已将无线网络信息页发送给打印机</source>
-        <translation>已將無線網路資訊頁傳送給印表機</translation>
+        <translation>已將 Wi-Fi 資訊頁傳送給印表機。</translation>
     </message>
     <message>
         <source>完成并退出</source>
-        <translation>完成並結束</translation>
+        <translation>完成並結束(&amp;F)</translation>
     </message>
     <message>
         <source>退出</source>
-        <translation>結束</translation>
+        <translation>結束(&amp;Q)</translation>
     </message>
     <message>
         <source>连接</source>
-        <translation>連接</translation>
+        <translation>連線</translation>
     </message>
     <message>
         <source>网络</source>
@@ -189,19 +189,19 @@
     </message>
     <message>
         <source>第%d步，共%d步：%@</source>
-        <translation>第%d步，共%d步：%@</translation>
+        <translation>步驟 %d，共 %d 步：%@</translation>
     </message>
     <message>
         <source>第%d步</source>
-        <translation>第%d步</translation>
+        <translation>步驟 %d</translation>
     </message>
     <message>
         <source>Wi-Fi配置工具</source>
-        <translation>Wi-Fi設定工具</translation>
+        <translation>Wi-Fi 設定工具</translation>
     </message>
     <message>
         <source>让打印机连上无线网络</source>
-        <translation>讓印表機連上無線網路</translation>
+        <translation>將印表機連上 Wi-Fi</translation>
     </message>
     <message>
         <source>请打开打印机电源，然后选择配置方式。</source>
@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>打印机没有显示屏时使用，与路由器上的WPS按钮配合。</source>
-        <translation>印表機沒有顯示幕時使用，與路由器上的 WPS 按鈕配合。</translation>
+        <translation>印表機沒有螢幕時使用，搭配路由器上的 WPS 按鈕。</translation>
     </message>
     <message>
         <source>打印机的菜单</source>
@@ -237,15 +237,15 @@
     </message>
     <message>
         <source>打印机有显示屏和菜单时使用。</source>
-        <translation>印表機有顯示幕和選單時使用。</translation>
+        <translation>印表機有螢幕和選單時使用。</translation>
     </message>
     <message>
         <source>从哪里启动WPS？</source>
-        <translation>從哪裡啟動 WPS？</translation>
+        <translation>要從哪裡啟動 WPS？</translation>
     </message>
     <message>
         <source>看一看您的打印机：它有显示屏和菜单，还是只有Wi-Fi按钮？</source>
-        <translation>看一看您的印表機：它有顯示幕和選單，還是只有 Wi-Fi 按鈕？</translation>
+        <translation>請看看您的印表機：它有螢幕和選單，還是只有 Wi-Fi 按鈕？</translation>
     </message>
     <message>
         <source>按钮方式（PBC）</source>
@@ -253,7 +253,7 @@
     </message>
     <message>
         <source>按一下路由器上的WPS按钮即可。</source>
-        <translation>按一下路由器上的 WPS 按鈕即可。</translation>
+        <translation>只要按一下路由器上的 WPS 按鈕。</translation>
     </message>
     <message>
         <source>PIN码方式</source>
@@ -261,23 +261,23 @@
     </message>
     <message>
         <source>路由器没有WPS按钮时，在它的设置页面输入PIN码。</source>
-        <translation>路由器沒有 WPS 按鈕時，在它的設定頁面輸入 PIN 碼。</translation>
+        <translation>路由器沒有 WPS 按鈕時，在路由器的設定頁面輸入印表機的 PIN 碼。</translation>
     </message>
     <message>
         <source>选择WPS的方式</source>
-        <translation>選擇 WPS 的方式</translation>
+        <translation>選擇 WPS 方式</translation>
     </message>
     <message>
         <source>两种方式都在打印机的菜单里。路由器上有WPS按钮时，按钮方式最简单。</source>
-        <translation>兩種方式都在印表機的選單裡。路由器上有 WPS 按鈕時，按鈕方式最簡單。</translation>
+        <translation>兩種方式都在印表機的選單裡。路由器有 WPS 按鈕時，按鈕方式比較簡單。</translation>
     </message>
     <message>
         <source>用按钮连接</source>
-        <translation>用按鈕連接</translation>
+        <translation>用按鈕連線</translation>
     </message>
     <message>
         <source>请在两分钟内完成前两步。</source>
-        <translation>請在兩分鐘內完成前兩步。</translation>
+        <translation>請在兩分鐘內完成前兩個步驟。</translation>
     </message>
     <message>
         <source>按住打印机上的Wi-Fi按钮约3秒，直到指示灯开始闪烁。</source>
@@ -289,75 +289,75 @@
     </message>
     <message>
         <source>等待最多两分钟。指示灯不再闪烁时，点击“下一步”。</source>
-        <translation>等待最多兩分鐘。指示燈不再閃爍時，點選「下一步」。</translation>
+        <translation>最多等待兩分鐘。指示燈不再閃爍後，點選「下一步」。</translation>
     </message>
     <message>
         <source>在打印机菜单中使用按钮方式</source>
-        <translation>在印表機選單中使用按鈕方式</translation>
+        <translation>從印表機選單使用按鈕方式</translation>
     </message>
     <message>
         <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PBC，然后按OK确认。</source>
-        <translation>在印表機的顯示幕上選擇：選單 › 網路 › WPS › PBC，然後按 OK 確認。</translation>
+        <translation>在印表機螢幕上選擇：選單 › 網路 › WPS › PBC，然後按 OK。</translation>
     </message>
     <message>
         <source>等待最多两分钟。显示屏显示结果后，点击“下一步”。</source>
-        <translation>等待最多兩分鐘。顯示幕顯示結果後，點選「下一步」。</translation>
+        <translation>最多等待兩分鐘。螢幕顯示結果後，點選「下一步」。</translation>
     </message>
     <message>
         <source>在打印机菜单中使用PIN码</source>
-        <translation>在印表機選單中使用 PIN 碼</translation>
+        <translation>從印表機選單使用 PIN 碼</translation>
     </message>
     <message>
         <source>PIN码几分钟后失效，请先准备好路由器的设置页面。</source>
-        <translation>PIN 碼幾分鐘後失效，請先準備好路由器的設定頁面。</translation>
+        <translation>PIN 碼幾分鐘後就會失效，請先開啟路由器的設定頁面。</translation>
     </message>
     <message>
         <source>在打印机的显示屏上选择：菜单 › 网络 › WPS › PIN，显示屏会显示一个8位数字。</source>
-        <translation>在印表機的顯示幕上選擇：選單 › 網路 › WPS › PIN，顯示幕會顯示一個 8 位數字。</translation>
+        <translation>在印表機螢幕上選擇：選單 › 網路 › WPS › PIN，螢幕會顯示一組 8 位數字。</translation>
     </message>
     <message>
         <source>在路由器设置页面的WPS栏输入这个PIN码，然后开始连接。</source>
-        <translation>在路由器設定頁面的 WPS 欄輸入這個 PIN 碼，然後開始連接。</translation>
+        <translation>在路由器設定頁面的 WPS 欄位輸入這組 PIN 碼，然後開始連線。</translation>
     </message>
     <message>
         <source>打印机的显示屏显示什么？</source>
-        <translation>印表機的顯示幕顯示什麼？</translation>
+        <translation>印表機螢幕上顯示什麼？</translation>
     </message>
     <message>
         <source>请看打印机的显示屏，选择您看到的结果。</source>
-        <translation>請看印表機的顯示幕，選擇您看到的結果。</translation>
+        <translation>請看印表機螢幕，選擇您看到的結果。</translation>
     </message>
     <message>
         <source>连接成功</source>
-        <translation>連接成功</translation>
+        <translation>連線成功</translation>
     </message>
     <message>
         <source>显示屏显示“连接成功”或IP地址。</source>
-        <translation>顯示幕顯示「連接成功」或 IP 位址。</translation>
+        <translation>螢幕顯示「連線成功」或 IP 位址。</translation>
     </message>
     <message>
         <source>连接失败</source>
-        <translation>連接失敗</translation>
+        <translation>連線失敗</translation>
     </message>
     <message>
         <source>显示屏显示“连接失败”或“超时”。请返回，再试一次。</source>
-        <translation>顯示幕顯示「連接失敗」或「逾時」。請返回，再試一次。</translation>
+        <translation>螢幕顯示「連線失敗」或「逾時」。請返回，再試一次。</translation>
     </message>
     <message>
         <source>打印机的Wi-Fi指示灯怎么样？</source>
-        <translation>印表機的 Wi-Fi 指示燈怎麼樣？</translation>
+        <translation>印表機的 Wi-Fi 指示燈狀態為何？</translation>
     </message>
     <message>
         <source>请看打印机的Wi-Fi指示灯，选择您看到的样子。</source>
-        <translation>請看印表機的 Wi-Fi 指示燈，選擇您看到的樣子。</translation>
+        <translation>請看印表機的 Wi-Fi 指示燈，選擇您看到的狀態。</translation>
     </message>
     <message>
         <source>指示灯常亮</source>
-        <translation>指示燈恆亮</translation>
+        <translation>指示燈持續亮著</translation>
     </message>
     <message>
         <source>打印机已经连上无线网络。</source>
-        <translation>印表機已經連上無線網路。</translation>
+        <translation>印表機已連上 Wi-Fi。</translation>
     </message>
     <message>
         <source>指示灯闪烁或熄灭</source>
@@ -369,63 +369,63 @@
     </message>
     <message>
         <source>打开系统的添加打印机窗口</source>
-        <translation>開啟系統的新增印表機視窗</translation>
+        <translation>開啟系統的「新增印表機」視窗(&amp;O)</translation>
     </message>
     <message>
         <source>恭喜，您完成了无线网络配置！</source>
-        <translation>恭喜，您完成了無線網路設定！</translation>
+        <translation>恭喜，印表機的 Wi-Fi 已設定完成！</translation>
     </message>
     <message>
         <source>现在可以拔掉USB数据线了。要在这台电脑上打印，请把打印机添加到系统：勾选下面的选项，然后点击“完成并退出”。</source>
-        <translation>現在可以拔掉 USB 傳輸線了。要在這台電腦上列印，請將印表機新增到系統：勾選下面的選項，然後點選「完成並結束」。</translation>
+        <translation>現在可以拔下 USB 傳輸線了。要在這台電腦上列印，請將印表機新增到系統：勾選下方的選項，然後點選「完成並結束」。</translation>
     </message>
     <message>
         <source>打印机已连上无线网络</source>
-        <translation>印表機已連上無線網路</translation>
+        <translation>印表機已連上 Wi-Fi</translation>
     </message>
     <message>
         <source>打印机没有连上无线网络</source>
-        <translation>印表機沒有連上無線網路</translation>
+        <translation>印表機沒有連上 Wi-Fi</translation>
     </message>
     <message>
         <source>打印机配置失败，当前打印机网络未开启，无法进行配网。</source>
-        <translation>印表機設定失敗，目前印表機網路未開啟，無法進行設定。</translation>
+        <translation>設定失敗：印表機的 Wi-Fi 已關閉。</translation>
     </message>
     <message>
         <source>配网失败</source>
-        <translation>網路設定失敗</translation>
+        <translation>網路設定失敗。</translation>
     </message>
     <message>
         <source>打印机配置失败，当前打印机Wi-Fi模块未装配，无法进行配网。</source>
-        <translation>印表機設定失敗，目前印表機未安裝 Wi-Fi 模組，無法進行設定。</translation>
+        <translation>設定失敗：印表機沒有 Wi-Fi 模組。</translation>
     </message>
     <message>
         <source>Wi-Fi故障，打印机配置失败。</source>
-        <translation>Wi-Fi 故障，印表機設定失敗。</translation>
+        <translation>設定失敗：印表機的 Wi-Fi 故障。</translation>
     </message>
     <message>
         <source>打印机配置失败，系统升级过程中，不允许配置网络。</source>
-        <translation>印表機設定失敗，系統升級過程中不允許設定網路。</translation>
+        <translation>設定失敗：印表機正在更新系統，目前無法設定。</translation>
     </message>
     <message>
         <source>请检查打印机是否已开机、数据线是否插好、网络名称和密码是否正确，然后重新打开本工具再试一次。</source>
-        <translation>請檢查印表機是否已開機、傳輸線是否插好、網路名稱和密碼是否正確，然後重新開啟本工具再試一次。</translation>
+        <translation>請檢查印表機是否已開機、傳輸線是否插好、網路名稱和密碼是否正確，然後重新啟動本程式再試一次。</translation>
     </message>
     <message>
         <source>这台打印机没有安装Wi-Fi模块。请继续使用USB数据线打印，或向经销商咨询Wi-Fi模块。</source>
-        <translation>這台印表機沒有安裝 Wi-Fi 模組。請繼續使用 USB 傳輸線列印，或向經銷商洽詢 Wi-Fi 模組。</translation>
+        <translation>請繼續使用 USB 傳輸線列印，或向經銷商洽詢 Wi-Fi 模組。</translation>
     </message>
     <message>
         <source>请关闭打印机，等待10秒后重新打开，再试一次。如果问题依旧，请联系售后服务。</source>
-        <translation>請關閉印表機，等待 10 秒後重新開啟，再試一次。如果問題依舊，請聯絡售後服務。</translation>
+        <translation>請關閉印表機，等待 10 秒後重新開啟，再試一次。如果問題仍未解決，請聯絡客戶服務。</translation>
     </message>
     <message>
         <source>请等待打印机升级完成，期间不要关闭电源，然后再试一次。</source>
-        <translation>請等待印表機升級完成，期間不要關閉電源，然後再試一次。</translation>
+        <translation>請等待印表機更新完成，期間不要關閉電源，然後再試一次。</translation>
     </message>
     <message>
         <source>请在打印机上打开Wi-Fi功能，重新启动打印机，然后再试一次。</source>
-        <translation>請在印表機上開啟 Wi-Fi 功能，重新啟動印表機，然後再試一次。</translation>
+        <translation>請開啟印表機的 Wi-Fi，重新啟動印表機，然後再試一次。</translation>
     </message>
     <message>
         <source>您可以这样做</source>
@@ -433,19 +433,19 @@
     </message>
     <message>
         <source>运行日志：%@</source>
-        <translation>執行記錄：%@</translation>
+        <translation>記錄檔：%@</translation>
     </message>
     <message>
         <source>配置没有成功</source>
-        <translation>設定沒有成功</translation>
+        <translation>設定未成功</translation>
     </message>
     <message>
         <source>打印机没有接受这次配置。</source>
-        <translation>印表機沒有接受這次設定。</translation>
+        <translation>印表機沒有接受設定。</translation>
     </message>
     <message>
         <source>请检查网络名称和密码（注意大小写），并确认打印机已开机、数据线已插好、离路由器不太远。然后返回，再试一次。</source>
-        <translation>請檢查網路名稱和密碼（注意大小寫），並確認印表機已開機、傳輸線已插好、離路由器不太遠。然後返回，再試一次。</translation>
+        <translation>請檢查網路名稱和密碼（大小寫視為不同），並確認印表機已開機、傳輸線已插好、離路由器不太遠。然後返回，再試一次。</translation>
     </message>
     <message>
         <source>没有连接打印机</source>
@@ -453,11 +453,11 @@
     </message>
     <message>
         <source>没有找到支持无线网络的打印机。</source>
-        <translation>沒有找到支援無線網路的印表機。</translation>
+        <translation>找不到支援 Wi-Fi 的印表機。</translation>
     </message>
     <message>
         <source>请打开打印机电源，用USB数据线把它直接连到这台电脑（不要经过集线器），等待几秒。然后返回，再试一次。</source>
-        <translation>請開啟印表機電源，用 USB 傳輸線將它直接連到這台電腦（不要經過集線器），等待幾秒。然後返回，再試一次。</translation>
+        <translation>請開啟印表機電源，用 USB 傳輸線將它直接連接到這台電腦（不要經過集線器），等待幾秒。然後返回，再試一次。</translation>
     </message>
     <message>
         <source>隐藏密码</source>
@@ -493,39 +493,39 @@
     </message>
     <message>
         <source>选择无线网络</source>
-        <translation>選擇無線網路</translation>
+        <translation>選擇 Wi-Fi 網路</translation>
     </message>
     <message>
         <source>请选择打印机要连接的网络，并输入它的密码。</source>
-        <translation>請選擇印表機要連接的網路，並輸入它的密碼。</translation>
+        <translation>請選擇印表機要連線的網路，並輸入密碼。</translation>
     </message>
     <message>
         <source>附近的无线网络</source>
-        <translation>附近的無線網路</translation>
+        <translation>附近的網路</translation>
     </message>
     <message>
         <source>正在查找无线网络…</source>
-        <translation>正在尋找無線網路…</translation>
+        <translation>正在尋找網路…</translation>
     </message>
     <message>
         <source>刷新</source>
-        <translation>重新整理</translation>
+        <translation>重新整理(&amp;R)</translation>
     </message>
     <message>
         <source>此电脑</source>
-        <translation>此電腦</translation>
+        <translation>此電腦使用中</translation>
     </message>
     <message>
         <source>前往设置</source>
-        <translation>前往設定</translation>
+        <translation>開啟設定</translation>
     </message>
     <message>
         <source>请打开定位服务，步骤：系统设置-&gt;隐私与安全性-&gt;隐私-&gt;定位服务。</source>
-        <translation>請允許本程式尋找無線網路，步驟：系統設定 -&gt; 隱私權或 Wi-Fi。</translation>
+        <translation>本程式沒有搜尋 Wi-Fi 網路的權限。請在系統設定的「隱私權」或「Wi-Fi」中允許。</translation>
     </message>
     <message>
         <source>打印端口被占用，无法配置打印机</source>
-        <translation>列印連接埠被佔用，無法設定印表機</translation>
+        <translation>印表機正在處理其他工作，目前無法設定。請等工作完成後，再按一次「下一步」。</translation>
     </message>
     <message>
         <source>请从列表中选择，或在此输入名称。</source>

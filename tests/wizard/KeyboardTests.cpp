@@ -236,7 +236,7 @@ void KeyboardTests::heldEnterActsOnce()
 void KeyboardTests::mnemonics_data()
 {
     QTest::addColumn<QString>("language");
-    for (const char *language : {"de", "en", "es", "fr"})
+    for (const char *language : {"de", "en", "es", "fr", "ja", "ko", "zh-Hans", "zh-Hant"})
         QTest::newRow(language) << QString::fromLatin1(language);
 }
 

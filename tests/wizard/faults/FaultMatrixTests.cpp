@@ -40,7 +40,8 @@ Expected expectedAt(Ending ending)
     case Ending::ConfigFailed:
         return {"WTConfigFailedView", u"打印机没有接受这次配置。"_s, WTManager::CloseAsks};
     case Ending::Unanswered:
-        return {"WTInstallingView", u"打印机没有应答，您现在可以关闭此窗口。"_s, WTManager::CloseAsks};
+        return {"WTInstallingView", u"打印机没有响应。请关闭此窗口，重新启动打印机后再试一次。"_s,
+                WTManager::CloseAsks};
     }
     Q_UNREACHABLE();
 }

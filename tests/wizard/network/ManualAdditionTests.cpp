@@ -222,7 +222,7 @@ void ManualAdditionTests::staysAndSaysWhy_data()
     QTest::addColumn<QString>("informativeText");
 
     const auto busy = u"打印端口被占用，无法打印无线网络信息页。"_s;
-    const auto tooLong = u"打印机最多接受 31 个字节的密码，请为网络设置较短的密码。"_s;
+    const auto tooLong = u"密码太长，打印机最多接受 31 个字节（普通字母或数字各占一个）。请为网络设置较短的密码。"_s;
     const QString longPassword = u"-long-password-"_s.repeated(3);
     QTest::newRow("printing") << QByteArray("4") << u"Home"_s << u"secret"_s << u"printer is busy now"_s << busy;
     QTest::newRow("printing comes first")
