@@ -531,5 +531,217 @@
         <source>请从列表中选择，或在此输入名称。</source>
         <translation>Aus der Liste wählen oder hier eingeben.</translation>
     </message>
+    <message>
+        <source>唤醒打印机</source>
+        <translation>Drucker aufwecken</translation>
+    </message>
+    <message>
+        <source>询问打印机能否使用 Wi-Fi</source>
+        <translation>WLAN-Fähigkeit abfragen</translation>
+    </message>
+    <message>
+        <source>发送网络设置</source>
+        <translation>Netzwerkdaten senden</translation>
+    </message>
+    <message>
+        <source>查询打印机的地址</source>
+        <translation>Adresse des Druckers abfragen</translation>
+    </message>
+    <message>
+        <source>打印信息页</source>
+        <translation>Infoseite drucken</translation>
+    </message>
+    <message>
+        <source>“%@”（进程 %@）正在使用打印机。</source>
+        <translation>„%@“ (Prozess %@) benutzt den Drucker.</translation>
+    </message>
+    <message>
+        <source>请关闭该程序，然后再试一次。如果打印机已连接到虚拟机，请先在虚拟机中断开。</source>
+        <translation>Schließen Sie dieses Programm und versuchen Sie es noch einmal. Hat eine virtuelle Maschine den Drucker übernommen, trennen Sie ihn zuerst dort.</translation>
+    </message>
+    <message>
+        <source>另一个程序正在使用打印机。</source>
+        <translation>Ein anderes Programm benutzt den Drucker.</translation>
+    </message>
+    <message>
+        <source>请关闭正在打印或扫描的程序以及虚拟机，然后再试一次。</source>
+        <translation>Schließen Sie Programme, die drucken oder scannen, sowie virtuelle Maschinen und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>此电脑不允许您使用打印机：缺少规则 60-wifitool.rules。</source>
+        <translation>Dieser Computer lässt Sie den Drucker nicht benutzen: Die Regel 60-wifitool.rules fehlt.</translation>
+    </message>
+    <message>
+        <source>请重新安装带有此规则的 wifitool 软件包，拔下 USB 数据线再插上，然后再试一次。</source>
+        <translation>Installieren Sie das Paket wifitool neu, das diese Regel mitbringt. Ziehen Sie dann das USB-Kabel ab, stecken Sie es wieder ein und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>此电脑还没有允许您使用打印机。</source>
+        <translation>Dieser Computer lässt Sie den Drucker noch nicht benutzen.</translation>
+    </message>
+    <message>
+        <source>请拔下 USB 数据线再插上，等待几秒，然后再试一次。如果没有用，请重新启动电脑。</source>
+        <translation>Ziehen Sie das USB-Kabel ab, stecken Sie es wieder ein, warten Sie einige Sekunden und versuchen Sie es noch einmal. Hilft das nicht, starten Sie den Computer neu.</translation>
+    </message>
+    <message>
+        <source>只有直接在此电脑前登录的人才能使用打印机。您的会话是远程的，或是以其他方式启动的。</source>
+        <translation>Nur wer direkt an diesem Computer angemeldet ist, darf den Drucker benutzen. Ihre Sitzung läuft aus der Ferne oder wurde anders gestartet.</translation>
+    </message>
+    <message>
+        <source>请直接在此电脑上登录后再试一次，或请管理员帮忙。</source>
+        <translation>Melden Sie sich direkt am Computer an und versuchen Sie es noch einmal, oder fragen Sie dessen Administrator.</translation>
+    </message>
+    <message>
+        <source>打印机被拔下或关闭了（步骤：%@）。</source>
+        <translation>Der Drucker wurde abgezogen oder ausgeschaltet (Schritt: %@).</translation>
+    </message>
+    <message>
+        <source>在 USB 上找不到打印机。</source>
+        <translation>Der Drucker wurde am USB-Anschluss nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>请打开打印机并插好数据线，等它准备就绪后再试一次。完成之前请不要拔线。</source>
+        <translation>Schalten Sie den Drucker ein und stecken Sie das Kabel fest ein. Wenn der Drucker bereit ist, versuchen Sie es noch einmal und lassen Sie das Kabel bis zum Schluss stecken.</translation>
+    </message>
+    <message>
+        <source>打印机在 %d 秒内没有响应（步骤：%@）。</source>
+        <translation>Der Drucker hat %d Sekunden lang nicht geantwortet (Schritt: %@).</translation>
+    </message>
+    <message>
+        <source>打印机可能在休眠或正忙：请按一下打印机上的任意键，等它准备就绪后再试一次。如果没有用，请关闭打印机，10 秒后再打开。</source>
+        <translation>Vielleicht schläft der Drucker oder er ist beschäftigt: Drücken Sie eine Taste am Drucker, warten Sie, bis er bereit ist, und versuchen Sie es noch einmal. Hilft das nicht, schalten Sie ihn aus und nach 10 Sekunden wieder ein.</translation>
+    </message>
+    <message>
+        <source>打印机给出了意外的响应（步骤：%@）。</source>
+        <translation>Der Drucker hat etwas Unerwartetes geantwortet (Schritt: %@).</translation>
+    </message>
+    <message>
+        <source>与打印机的 USB 通信出错（步骤：%@）。</source>
+        <translation>Die USB-Verbindung zum Drucker ist gestört (Schritt: %@).</translation>
+    </message>
+    <message>
+        <source>请把打印机直接接到电脑的另一个 USB 接口（不要经过集线器），最好换一根数据线，然后再试一次。</source>
+        <translation>Verbinden Sie den Drucker direkt mit einem anderen USB-Anschluss des Computers (ohne Hub), möglichst mit einem anderen Kabel, und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>打印机拒绝了网络设置，最可能的原因是密码不对。</source>
+        <translation>Der Drucker hat die Netzwerkdaten abgelehnt; wahrscheinlich stimmt das Passwort nicht.</translation>
+    </message>
+    <message>
+        <source>请检查密码（区分大小写）。许多打印机只支持 2.4 GHz，不支持 5 GHz。如果打印机离路由器太远，请移近一些。然后再试一次。</source>
+        <translation>Prüfen Sie das Passwort (Groß-/Kleinschreibung beachten). Viele Drucker können nur 2,4-GHz-Netzwerke nutzen, kein 5 GHz. Steht der Drucker weit vom Router entfernt, stellen Sie ihn näher heran. Versuchen Sie es dann noch einmal.</translation>
+    </message>
+    <message>
+        <source>打印机收到了设置，但没有从路由器得到地址。</source>
+        <translation>Der Drucker hat die Daten angenommen, aber vom Router keine Adresse bekommen.</translation>
+    </message>
+    <message>
+        <source>最可能的原因是密码不对、网络只有 5 GHz，或路由器太远：请检查后再试一次。如果都没有问题，请重新启动路由器，并查看它是否只允许已知的设备。</source>
+        <translation>Wahrscheinlich stimmt das Passwort nicht, das Netzwerk hat nur 5 GHz oder der Router ist zu weit weg: Prüfen Sie das und versuchen Sie es noch einmal. Ist alles in Ordnung, starten Sie den Router neu und sehen Sie nach, ob er nur bekannte Geräte zulässt.</translation>
+    </message>
+    <message>
+        <source>打印机没有说明能否配置 Wi-Fi。</source>
+        <translation>Der Drucker hat nicht mitgeteilt, ob er sich für WLAN einrichten lässt.</translation>
+    </message>
+    <message>
+        <source>详细信息</source>
+        <translation>&amp;Details</translation>
+    </message>
+    <message>
+        <source>复制详细信息</source>
+        <translation>Details &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>已复制</source>
+        <translation>Kopiert</translation>
+    </message>
+    <message>
+        <source>打印机地址</source>
+        <translation>Adresse des Druckers</translation>
+    </message>
+    <message>
+        <source>复制地址</source>
+        <translation>Adresse &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>打开打印机的网页</source>
+        <translation>Web&amp;seite des Druckers öffnen</translation>
+    </message>
+    <message>
+        <source>正在检查此电脑能否连上打印机…</source>
+        <translation>Es wird geprüft, ob dieser Computer den Drucker erreicht …</translation>
+    </message>
+    <message>
+        <source>此电脑可以连上打印机。</source>
+        <translation>Dieser Computer erreicht den Drucker.</translation>
+    </message>
+    <message>
+        <source>此电脑连不上打印机。打印机可能在另一个网络上，或在会隔离设备的访客网络上。</source>
+        <translation>Dieser Computer erreicht den Drucker nicht. Vielleicht ist der Drucker in einem anderen Netzwerk oder in einem Gastnetzwerk, das Geräte voneinander trennt.</translation>
+    </message>
+    <message>
+        <source>此网络还要求用户名，而用户名无法发送给打印机。</source>
+        <translation>Dieses Netzwerk verlangt auch einen Benutzernamen; dieser kann nicht an den Drucker gesendet werden.</translation>
+    </message>
+    <message>
+        <source>此网络只接受 WPA3，有些打印机不支持。</source>
+        <translation>Dieses Netzwerk erlaubt nur WPA3; manche Drucker beherrschen das nicht.</translation>
+    </message>
+    <message>
+        <source>此网络只有 5 GHz，许多打印机需要 2.4 GHz。</source>
+        <translation>Dieses Netzwerk hat nur 5 GHz; viele Drucker brauchen 2,4 GHz.</translation>
+    </message>
+    <message>
+        <source>此网络需要密码，您还没有输入。</source>
+        <translation>Dieses Netzwerk braucht ein Passwort; es ist keines eingegeben.</translation>
+    </message>
+    <message>
+        <source>名称的开头或结尾有空格。</source>
+        <translation>Der Name beginnt oder endet mit einem Leerzeichen.</translation>
+    </message>
+    <message>
+        <source>密码的开头或结尾有空格。</source>
+        <translation>Das Passwort beginnt oder endet mit einem Leerzeichen.</translation>
+    </message>
+    <message>
+        <source>名称含有控制字符，无法发送给打印机。</source>
+        <translation>Dieser Name enthält Steuerzeichen und kann nicht an den Drucker gesendet werden.</translation>
+    </message>
+    <message>
+        <source>正在等待系统许可…</source>
+        <translation>Warten auf die Erlaubnis …</translation>
+    </message>
+    <message>
+        <source>系统尚未回答是否允许查找网络。请点击“刷新”再试一次，或直接输入名称。</source>
+        <translation>Das System hat noch nicht geantwortet, ob nach Netzwerken gesucht werden darf. Klicken Sie auf „Aktualisieren“, um es noch einmal zu versuchen, oder geben Sie den Namen ein.</translation>
+    </message>
+    <message>
+        <source>没有查找网络的权限。请在系统设置中允许，然后点击“刷新”，或直接输入名称。</source>
+        <translation>Dieses Programm darf nicht nach Netzwerken suchen. Erlauben Sie es in den Systemeinstellungen und klicken Sie auf „Aktualisieren“, oder geben Sie den Namen ein.</translation>
+    </message>
+    <message>
+        <source>没有找到网络。请点击“刷新”再找一次，或直接输入名称。</source>
+        <translation>Es wurden keine Netzwerke gefunden. Klicken Sie auf „Aktualisieren“, um noch einmal zu suchen, oder geben Sie den Namen ein.</translation>
+    </message>
+    <message>
+        <source>%ld%%</source>
+        <translation>%ld %%</translation>
+    </message>
+    <message>
+        <source>此桌面没有添加打印机的窗口。请自行打开系统设置中的“打印机”，或在浏览器中打开 %@。</source>
+        <translation>Dieser Desktop hat kein Fenster zum Hinzufügen von Druckern. Öffnen Sie selbst „Drucker“ in den Systemeinstellungen oder %@ in einem Browser.</translation>
+    </message>
+    <message>
+        <source>无法从这里打开系统设置。请自行打开，并在“隐私”或“Wi-Fi”中允许查找网络。</source>
+        <translation>Die Systemeinstellungen lassen sich von hier aus nicht öffnen. Öffnen Sie sie selbst und erlauben Sie unter Datenschutz oder WLAN die Suche nach Netzwerken.</translation>
+    </message>
+    <message>
+        <source>此电脑没有 Wi-Fi 适配器，无法列出附近的网络。请输入打印机要连接的网络。</source>
+        <translation>Dieser Computer hat keinen WLAN-Adapter, deshalb kann er keine Netzwerke auflisten. Geben Sie das Netzwerk ein, mit dem sich der Drucker verbinden soll.</translation>
+    </message>
+    <message>
+        <source>已连接 %d 台打印机，将配置“%@”。要配置另一台，请先拔下这一台。</source>
+        <translation>Es sind %d Drucker angeschlossen. „%@“ wird eingerichtet; für einen anderen ziehen Sie diesen zuerst ab.</translation>
+    </message>
 </context>
 </TS>

@@ -531,5 +531,217 @@
         <source>请从列表中选择，或在此输入名称。</source>
         <translation>Choose from the list, or type the name here.</translation>
     </message>
+    <message>
+        <source>唤醒打印机</source>
+        <translation>waking the printer</translation>
+    </message>
+    <message>
+        <source>询问打印机能否使用 Wi-Fi</source>
+        <translation>asking the printer whether it can use Wi-Fi</translation>
+    </message>
+    <message>
+        <source>发送网络设置</source>
+        <translation>sending the network settings</translation>
+    </message>
+    <message>
+        <source>查询打印机的地址</source>
+        <translation>asking for the printer’s address</translation>
+    </message>
+    <message>
+        <source>打印信息页</source>
+        <translation>printing the information page</translation>
+    </message>
+    <message>
+        <source>“%@”（进程 %@）正在使用打印机。</source>
+        <translation>“%@” (process %@) is using the printer.</translation>
+    </message>
+    <message>
+        <source>请关闭该程序，然后再试一次。如果打印机已连接到虚拟机，请先在虚拟机中断开。</source>
+        <translation>Close that program, then try again. If a virtual machine has taken the printer, disconnect it there first.</translation>
+    </message>
+    <message>
+        <source>另一个程序正在使用打印机。</source>
+        <translation>Another program is using the printer.</translation>
+    </message>
+    <message>
+        <source>请关闭正在打印或扫描的程序以及虚拟机，然后再试一次。</source>
+        <translation>Close programs that print or scan, and virtual machines, then try again.</translation>
+    </message>
+    <message>
+        <source>此电脑不允许您使用打印机：缺少规则 60-wifitool.rules。</source>
+        <translation>This computer does not let you use the printer: the rule 60-wifitool.rules is missing.</translation>
+    </message>
+    <message>
+        <source>请重新安装带有此规则的 wifitool 软件包，拔下 USB 数据线再插上，然后再试一次。</source>
+        <translation>Install the package wifitool again, which brings this rule. Then unplug the USB cable, plug it in again and try again.</translation>
+    </message>
+    <message>
+        <source>此电脑还没有允许您使用打印机。</source>
+        <translation>This computer does not let you use the printer yet.</translation>
+    </message>
+    <message>
+        <source>请拔下 USB 数据线再插上，等待几秒，然后再试一次。如果没有用，请重新启动电脑。</source>
+        <translation>Unplug the USB cable, plug it in again, wait a few seconds, then try again. If that does not help, restart the computer.</translation>
+    </message>
+    <message>
+        <source>只有直接在此电脑前登录的人才能使用打印机。您的会话是远程的，或是以其他方式启动的。</source>
+        <translation>Only someone signed in at this computer itself may use the printer. Your session is remote or was started in another way.</translation>
+    </message>
+    <message>
+        <source>请直接在此电脑上登录后再试一次，或请管理员帮忙。</source>
+        <translation>Sign in at the computer itself and try again, or ask its administrator.</translation>
+    </message>
+    <message>
+        <source>打印机被拔下或关闭了（步骤：%@）。</source>
+        <translation>The printer was unplugged or switched off (step: %@).</translation>
+    </message>
+    <message>
+        <source>在 USB 上找不到打印机。</source>
+        <translation>The printer was not found on USB.</translation>
+    </message>
+    <message>
+        <source>请打开打印机并插好数据线，等它准备就绪后再试一次。完成之前请不要拔线。</source>
+        <translation>Switch the printer on and plug the cable in firmly. When the printer is ready, try again, and leave the cable in until the end.</translation>
+    </message>
+    <message>
+        <source>打印机在 %d 秒内没有响应（步骤：%@）。</source>
+        <translation>The printer did not answer within %d seconds (step: %@).</translation>
+    </message>
+    <message>
+        <source>打印机可能在休眠或正忙：请按一下打印机上的任意键，等它准备就绪后再试一次。如果没有用，请关闭打印机，10 秒后再打开。</source>
+        <translation>The printer may be asleep or busy: press any key on it, wait until it is ready and try again. If that does not help, switch it off and, after 10 seconds, on again.</translation>
+    </message>
+    <message>
+        <source>打印机给出了意外的响应（步骤：%@）。</source>
+        <translation>The printer gave an unexpected answer (step: %@).</translation>
+    </message>
+    <message>
+        <source>与打印机的 USB 通信出错（步骤：%@）。</source>
+        <translation>The USB connection to the printer failed (step: %@).</translation>
+    </message>
+    <message>
+        <source>请把打印机直接接到电脑的另一个 USB 接口（不要经过集线器），最好换一根数据线，然后再试一次。</source>
+        <translation>Connect the printer directly to another USB port of the computer (no hub), if possible with another cable, then try again.</translation>
+    </message>
+    <message>
+        <source>打印机拒绝了网络设置，最可能的原因是密码不对。</source>
+        <translation>The printer refused the network settings; most likely the password is wrong.</translation>
+    </message>
+    <message>
+        <source>请检查密码（区分大小写）。许多打印机只支持 2.4 GHz，不支持 5 GHz。如果打印机离路由器太远，请移近一些。然后再试一次。</source>
+        <translation>Check the password; upper and lower case matter. Many printers can use 2.4 GHz networks only, not 5 GHz. If the printer is far from the router, move it closer. Then try again.</translation>
+    </message>
+    <message>
+        <source>打印机收到了设置，但没有从路由器得到地址。</source>
+        <translation>The printer took the settings, but got no address from the router.</translation>
+    </message>
+    <message>
+        <source>最可能的原因是密码不对、网络只有 5 GHz，或路由器太远：请检查后再试一次。如果都没有问题，请重新启动路由器，并查看它是否只允许已知的设备。</source>
+        <translation>Most likely the password is wrong, the network is 5 GHz only or the router is too far away: check this and try again. If all is right, restart the router and see whether it admits known devices only.</translation>
+    </message>
+    <message>
+        <source>打印机没有说明能否配置 Wi-Fi。</source>
+        <translation>The printer did not say whether it can be set up for Wi-Fi.</translation>
+    </message>
+    <message>
+        <source>详细信息</source>
+        <translation>&amp;Details</translation>
+    </message>
+    <message>
+        <source>复制详细信息</source>
+        <translation>&amp;Copy details</translation>
+    </message>
+    <message>
+        <source>已复制</source>
+        <translation>Copied</translation>
+    </message>
+    <message>
+        <source>打印机地址</source>
+        <translation>Printer address</translation>
+    </message>
+    <message>
+        <source>复制地址</source>
+        <translation>&amp;Copy address</translation>
+    </message>
+    <message>
+        <source>打开打印机的网页</source>
+        <translation>Open the printer’s web &amp;page</translation>
+    </message>
+    <message>
+        <source>正在检查此电脑能否连上打印机…</source>
+        <translation>Checking whether this computer can reach the printer…</translation>
+    </message>
+    <message>
+        <source>此电脑可以连上打印机。</source>
+        <translation>This computer can reach the printer.</translation>
+    </message>
+    <message>
+        <source>此电脑连不上打印机。打印机可能在另一个网络上，或在会隔离设备的访客网络上。</source>
+        <translation>This computer cannot reach the printer. The printer may be on another network, or on a guest network that keeps devices apart.</translation>
+    </message>
+    <message>
+        <source>此网络还要求用户名，而用户名无法发送给打印机。</source>
+        <translation>This network also asks for a user name, which cannot be sent to the printer.</translation>
+    </message>
+    <message>
+        <source>此网络只接受 WPA3，有些打印机不支持。</source>
+        <translation>This network takes WPA3 only, which some printers cannot use.</translation>
+    </message>
+    <message>
+        <source>此网络只有 5 GHz，许多打印机需要 2.4 GHz。</source>
+        <translation>This network is 5 GHz only; many printers need 2.4 GHz.</translation>
+    </message>
+    <message>
+        <source>此网络需要密码，您还没有输入。</source>
+        <translation>This network needs a password, and none is entered.</translation>
+    </message>
+    <message>
+        <source>名称的开头或结尾有空格。</source>
+        <translation>The name begins or ends with a space.</translation>
+    </message>
+    <message>
+        <source>密码的开头或结尾有空格。</source>
+        <translation>The password begins or ends with a space.</translation>
+    </message>
+    <message>
+        <source>名称含有控制字符，无法发送给打印机。</source>
+        <translation>This name has control characters, so it cannot be sent to the printer.</translation>
+    </message>
+    <message>
+        <source>正在等待系统许可…</source>
+        <translation>Waiting for permission…</translation>
+    </message>
+    <message>
+        <source>系统尚未回答是否允许查找网络。请点击“刷新”再试一次，或直接输入名称。</source>
+        <translation>The system has not yet said whether networks may be looked for. Click “Refresh” to try again, or type the name.</translation>
+    </message>
+    <message>
+        <source>没有查找网络的权限。请在系统设置中允许，然后点击“刷新”，或直接输入名称。</source>
+        <translation>This program is not allowed to look for networks. Allow it in the system settings and click “Refresh”, or type the name.</translation>
+    </message>
+    <message>
+        <source>没有找到网络。请点击“刷新”再找一次，或直接输入名称。</source>
+        <translation>No networks were found. Click “Refresh” to search again, or type the name.</translation>
+    </message>
+    <message>
+        <source>%ld%%</source>
+        <translation>%ld%%</translation>
+    </message>
+    <message>
+        <source>此桌面没有添加打印机的窗口。请自行打开系统设置中的“打印机”，或在浏览器中打开 %@。</source>
+        <translation>This desktop has no window for adding printers. Open “Printers” in the system settings yourself, or %@ in a browser.</translation>
+    </message>
+    <message>
+        <source>无法从这里打开系统设置。请自行打开，并在“隐私”或“Wi-Fi”中允许查找网络。</source>
+        <translation>The system settings cannot be opened from here. Open them yourself, and allow looking for networks under Privacy or Wi-Fi.</translation>
+    </message>
+    <message>
+        <source>此电脑没有 Wi-Fi 适配器，无法列出附近的网络。请输入打印机要连接的网络。</source>
+        <translation>This computer has no Wi-Fi adapter, so it cannot list the networks nearby. Enter the network that the printer should join.</translation>
+    </message>
+    <message>
+        <source>已连接 %d 台打印机，将配置“%@”。要配置另一台，请先拔下这一台。</source>
+        <translation>%d printers are plugged in. “%@” will be set up; to choose another one, unplug this one first.</translation>
+    </message>
 </context>
 </TS>

@@ -531,5 +531,217 @@
         <source>请从列表中选择，或在此输入名称。</source>
         <translation>Elija de la lista o escriba aquí el nombre.</translation>
     </message>
+    <message>
+        <source>唤醒打印机</source>
+        <translation>activar la impresora</translation>
+    </message>
+    <message>
+        <source>询问打印机能否使用 Wi-Fi</source>
+        <translation>comprobar la compatibilidad con Wi-Fi</translation>
+    </message>
+    <message>
+        <source>发送网络设置</source>
+        <translation>enviar los datos de la red</translation>
+    </message>
+    <message>
+        <source>查询打印机的地址</source>
+        <translation>consultar la dirección de la impresora</translation>
+    </message>
+    <message>
+        <source>打印信息页</source>
+        <translation>imprimir la página de información</translation>
+    </message>
+    <message>
+        <source>“%@”（进程 %@）正在使用打印机。</source>
+        <translation>«%@» (proceso %@) está usando la impresora.</translation>
+    </message>
+    <message>
+        <source>请关闭该程序，然后再试一次。如果打印机已连接到虚拟机，请先在虚拟机中断开。</source>
+        <translation>Cierre ese programa e inténtelo otra vez. Si la impresora está conectada a una máquina virtual, desconéctela antes de ella.</translation>
+    </message>
+    <message>
+        <source>另一个程序正在使用打印机。</source>
+        <translation>Otro programa está usando la impresora.</translation>
+    </message>
+    <message>
+        <source>请关闭正在打印或扫描的程序以及虚拟机，然后再试一次。</source>
+        <translation>Cierre los programas que impriman o escaneen y las máquinas virtuales e inténtelo otra vez.</translation>
+    </message>
+    <message>
+        <source>此电脑不允许您使用打印机：缺少规则 60-wifitool.rules。</source>
+        <translation>Este equipo no le permite usar la impresora: falta la regla 60-wifitool.rules.</translation>
+    </message>
+    <message>
+        <source>请重新安装带有此规则的 wifitool 软件包，拔下 USB 数据线再插上，然后再试一次。</source>
+        <translation>Vuelva a instalar el paquete wifitool, que incluye esta regla. Después desconecte el cable USB, conéctelo de nuevo e inténtelo otra vez.</translation>
+    </message>
+    <message>
+        <source>此电脑还没有允许您使用打印机。</source>
+        <translation>Este equipo todavía no le permite usar la impresora.</translation>
+    </message>
+    <message>
+        <source>请拔下 USB 数据线再插上，等待几秒，然后再试一次。如果没有用，请重新启动电脑。</source>
+        <translation>Desconecte el cable USB, conéctelo de nuevo, espere unos segundos e inténtelo otra vez. Si no se soluciona, reinicie el equipo.</translation>
+    </message>
+    <message>
+        <source>只有直接在此电脑前登录的人才能使用打印机。您的会话是远程的，或是以其他方式启动的。</source>
+        <translation>Solo quien ha iniciado sesión directamente en este equipo puede usar la impresora. Su sesión es remota o se inició de otra manera.</translation>
+    </message>
+    <message>
+        <source>请直接在此电脑上登录后再试一次，或请管理员帮忙。</source>
+        <translation>Inicie sesión directamente en el equipo e inténtelo otra vez, o consulte con su administrador.</translation>
+    </message>
+    <message>
+        <source>打印机被拔下或关闭了（步骤：%@）。</source>
+        <translation>La impresora se desconectó o se apagó (paso: %@).</translation>
+    </message>
+    <message>
+        <source>在 USB 上找不到打印机。</source>
+        <translation>No se encontró la impresora en los puertos USB.</translation>
+    </message>
+    <message>
+        <source>请打开打印机并插好数据线，等它准备就绪后再试一次。完成之前请不要拔线。</source>
+        <translation>Encienda la impresora y conecte bien el cable. Cuando la impresora esté lista, inténtelo otra vez y deje el cable conectado hasta el final.</translation>
+    </message>
+    <message>
+        <source>打印机在 %d 秒内没有响应（步骤：%@）。</source>
+        <translation>La impresora no respondió en %d segundos (paso: %@).</translation>
+    </message>
+    <message>
+        <source>打印机可能在休眠或正忙：请按一下打印机上的任意键，等它准备就绪后再试一次。如果没有用，请关闭打印机，10 秒后再打开。</source>
+        <translation>Puede que la impresora esté en reposo u ocupada: pulse una de sus teclas, espere a que esté lista e inténtelo otra vez. Si no se soluciona, apáguela y vuelva a encenderla a los 10 segundos.</translation>
+    </message>
+    <message>
+        <source>打印机给出了意外的响应（步骤：%@）。</source>
+        <translation>La impresora dio una respuesta inesperada (paso: %@).</translation>
+    </message>
+    <message>
+        <source>与打印机的 USB 通信出错（步骤：%@）。</source>
+        <translation>Falló la conexión USB con la impresora (paso: %@).</translation>
+    </message>
+    <message>
+        <source>请把打印机直接接到电脑的另一个 USB 接口（不要经过集线器），最好换一根数据线，然后再试一次。</source>
+        <translation>Conecte la impresora directamente a otro puerto USB del equipo (sin concentrador), si puede con otro cable, e inténtelo otra vez.</translation>
+    </message>
+    <message>
+        <source>打印机拒绝了网络设置，最可能的原因是密码不对。</source>
+        <translation>La impresora rechazó los datos de la red; lo más probable es que la contraseña no sea correcta.</translation>
+    </message>
+    <message>
+        <source>请检查密码（区分大小写）。许多打印机只支持 2.4 GHz，不支持 5 GHz。如果打印机离路由器太远，请移近一些。然后再试一次。</source>
+        <translation>Compruebe la contraseña; se distinguen mayúsculas y minúsculas. Muchas impresoras solo usan redes de 2,4 GHz, no de 5 GHz. Si la impresora está lejos del router, acérquela. Después inténtelo otra vez.</translation>
+    </message>
+    <message>
+        <source>打印机收到了设置，但没有从路由器得到地址。</source>
+        <translation>La impresora aceptó los datos, pero no recibió ninguna dirección del router.</translation>
+    </message>
+    <message>
+        <source>最可能的原因是密码不对、网络只有 5 GHz，或路由器太远：请检查后再试一次。如果都没有问题，请重新启动路由器，并查看它是否只允许已知的设备。</source>
+        <translation>Lo más probable es que la contraseña no sea correcta, que la red sea solo de 5 GHz o que el router esté demasiado lejos: compruébelo e inténtelo otra vez. Si todo está bien, reinicie el router y mire si solo admite dispositivos conocidos.</translation>
+    </message>
+    <message>
+        <source>打印机没有说明能否配置 Wi-Fi。</source>
+        <translation>La impresora no indicó si se puede configurar para Wi-Fi.</translation>
+    </message>
+    <message>
+        <source>详细信息</source>
+        <translation>&amp;Detalles</translation>
+    </message>
+    <message>
+        <source>复制详细信息</source>
+        <translation>&amp;Copiar los detalles</translation>
+    </message>
+    <message>
+        <source>已复制</source>
+        <translation>Copiado</translation>
+    </message>
+    <message>
+        <source>打印机地址</source>
+        <translation>Dirección de la impresora</translation>
+    </message>
+    <message>
+        <source>复制地址</source>
+        <translation>&amp;Copiar la dirección</translation>
+    </message>
+    <message>
+        <source>打开打印机的网页</source>
+        <translation>Abrir la &amp;página web de la impresora</translation>
+    </message>
+    <message>
+        <source>正在检查此电脑能否连上打印机…</source>
+        <translation>Comprobando si este equipo puede comunicarse con la impresora…</translation>
+    </message>
+    <message>
+        <source>此电脑可以连上打印机。</source>
+        <translation>Este equipo puede comunicarse con la impresora.</translation>
+    </message>
+    <message>
+        <source>此电脑连不上打印机。打印机可能在另一个网络上，或在会隔离设备的访客网络上。</source>
+        <translation>Este equipo no puede comunicarse con la impresora. Puede que la impresora esté en otra red o en una red de invitados que aísla los dispositivos.</translation>
+    </message>
+    <message>
+        <source>此网络还要求用户名，而用户名无法发送给打印机。</source>
+        <translation>Esta red pide también un nombre de usuario, que no se puede enviar a la impresora.</translation>
+    </message>
+    <message>
+        <source>此网络只接受 WPA3，有些打印机不支持。</source>
+        <translation>Esta red solo admite WPA3, que algunas impresoras no pueden usar.</translation>
+    </message>
+    <message>
+        <source>此网络只有 5 GHz，许多打印机需要 2.4 GHz。</source>
+        <translation>Esta red es solo de 5 GHz; muchas impresoras necesitan 2,4 GHz.</translation>
+    </message>
+    <message>
+        <source>此网络需要密码，您还没有输入。</source>
+        <translation>Esta red necesita contraseña y no se ha introducido ninguna.</translation>
+    </message>
+    <message>
+        <source>名称的开头或结尾有空格。</source>
+        <translation>El nombre empieza o termina con un espacio.</translation>
+    </message>
+    <message>
+        <source>密码的开头或结尾有空格。</source>
+        <translation>La contraseña empieza o termina con un espacio.</translation>
+    </message>
+    <message>
+        <source>名称含有控制字符，无法发送给打印机。</source>
+        <translation>Este nombre contiene caracteres de control y no se puede enviar a la impresora.</translation>
+    </message>
+    <message>
+        <source>正在等待系统许可…</source>
+        <translation>Esperando el permiso…</translation>
+    </message>
+    <message>
+        <source>系统尚未回答是否允许查找网络。请点击“刷新”再试一次，或直接输入名称。</source>
+        <translation>El sistema aún no ha indicado si se pueden buscar redes. Haga clic en «Actualizar» para intentarlo otra vez o escriba el nombre.</translation>
+    </message>
+    <message>
+        <source>没有查找网络的权限。请在系统设置中允许，然后点击“刷新”，或直接输入名称。</source>
+        <translation>Este programa no tiene permiso para buscar redes. Concédalo en la configuración del sistema y haga clic en «Actualizar», o escriba el nombre.</translation>
+    </message>
+    <message>
+        <source>没有找到网络。请点击“刷新”再找一次，或直接输入名称。</source>
+        <translation>No se han encontrado redes. Haga clic en «Actualizar» para buscar otra vez o escriba el nombre.</translation>
+    </message>
+    <message>
+        <source>%ld%%</source>
+        <translation>%ld %%</translation>
+    </message>
+    <message>
+        <source>此桌面没有添加打印机的窗口。请自行打开系统设置中的“打印机”，或在浏览器中打开 %@。</source>
+        <translation>Este escritorio no tiene ninguna ventana para añadir impresoras. Abra usted mismo «Impresoras» en la configuración del sistema, o %@ en un navegador.</translation>
+    </message>
+    <message>
+        <source>无法从这里打开系统设置。请自行打开，并在“隐私”或“Wi-Fi”中允许查找网络。</source>
+        <translation>No se puede abrir la configuración del sistema desde aquí. Ábrala usted mismo y permita la búsqueda de redes en Privacidad o Wi-Fi.</translation>
+    </message>
+    <message>
+        <source>此电脑没有 Wi-Fi 适配器，无法列出附近的网络。请输入打印机要连接的网络。</source>
+        <translation>Este equipo no tiene adaptador Wi-Fi; por eso no se pueden mostrar las redes cercanas. Introduzca la red a la que debe conectarse la impresora.</translation>
+    </message>
+    <message>
+        <source>已连接 %d 台打印机，将配置“%@”。要配置另一台，请先拔下这一台。</source>
+        <translation>Hay %d impresoras conectadas. Se configurará «%@»; para elegir otra, desconecte antes esta.</translation>
+    </message>
 </context>
 </TS>

@@ -531,5 +531,217 @@
         <source>请从列表中选择，或在此输入名称。</source>
         <translation>Choisissez dans la liste ou saisissez le nom ici.</translation>
     </message>
+    <message>
+        <source>唤醒打印机</source>
+        <translation>réveil de l’imprimante</translation>
+    </message>
+    <message>
+        <source>询问打印机能否使用 Wi-Fi</source>
+        <translation>vérification de la compatibilité Wi-Fi</translation>
+    </message>
+    <message>
+        <source>发送网络设置</source>
+        <translation>envoi des paramètres du réseau</translation>
+    </message>
+    <message>
+        <source>查询打印机的地址</source>
+        <translation>demande de l’adresse de l’imprimante</translation>
+    </message>
+    <message>
+        <source>打印信息页</source>
+        <translation>impression de la page d’infos</translation>
+    </message>
+    <message>
+        <source>“%@”（进程 %@）正在使用打印机。</source>
+        <translation>« %@ » (processus %@) utilise l’imprimante.</translation>
+    </message>
+    <message>
+        <source>请关闭该程序，然后再试一次。如果打印机已连接到虚拟机，请先在虚拟机中断开。</source>
+        <translation>Fermez ce programme, puis réessayez. Si une machine virtuelle utilise l’imprimante, déconnectez-la d’abord de cette machine.</translation>
+    </message>
+    <message>
+        <source>另一个程序正在使用打印机。</source>
+        <translation>Un autre programme utilise l’imprimante.</translation>
+    </message>
+    <message>
+        <source>请关闭正在打印或扫描的程序以及虚拟机，然后再试一次。</source>
+        <translation>Fermez les programmes qui impriment ou numérisent ainsi que les machines virtuelles, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>此电脑不允许您使用打印机：缺少规则 60-wifitool.rules。</source>
+        <translation>Cet ordinateur ne vous laisse pas utiliser l’imprimante : la règle 60-wifitool.rules est absente.</translation>
+    </message>
+    <message>
+        <source>请重新安装带有此规则的 wifitool 软件包，拔下 USB 数据线再插上，然后再试一次。</source>
+        <translation>Réinstallez le paquet wifitool, qui contient cette règle. Débranchez ensuite le câble USB, rebranchez-le et réessayez.</translation>
+    </message>
+    <message>
+        <source>此电脑还没有允许您使用打印机。</source>
+        <translation>Cet ordinateur ne vous laisse pas encore utiliser l’imprimante.</translation>
+    </message>
+    <message>
+        <source>请拔下 USB 数据线再插上，等待几秒，然后再试一次。如果没有用，请重新启动电脑。</source>
+        <translation>Débranchez le câble USB, rebranchez-le, attendez quelques secondes et réessayez. Si cela ne suffit pas, redémarrez l’ordinateur.</translation>
+    </message>
+    <message>
+        <source>只有直接在此电脑前登录的人才能使用打印机。您的会话是远程的，或是以其他方式启动的。</source>
+        <translation>Seule une personne connectée directement sur cet ordinateur peut utiliser l’imprimante. Votre session est distante ou a été lancée autrement.</translation>
+    </message>
+    <message>
+        <source>请直接在此电脑上登录后再试一次，或请管理员帮忙。</source>
+        <translation>Connectez-vous directement sur l’ordinateur et réessayez, ou adressez-vous à son administrateur.</translation>
+    </message>
+    <message>
+        <source>打印机被拔下或关闭了（步骤：%@）。</source>
+        <translation>L’imprimante a été débranchée ou éteinte (étape : %@).</translation>
+    </message>
+    <message>
+        <source>在 USB 上找不到打印机。</source>
+        <translation>L’imprimante n’a pas été trouvée sur les ports USB.</translation>
+    </message>
+    <message>
+        <source>请打开打印机并插好数据线，等它准备就绪后再试一次。完成之前请不要拔线。</source>
+        <translation>Allumez l’imprimante et branchez bien le câble. Quand l’imprimante est prête, réessayez et laissez le câble branché jusqu’à la fin.</translation>
+    </message>
+    <message>
+        <source>打印机在 %d 秒内没有响应（步骤：%@）。</source>
+        <translation>L’imprimante n’a pas répondu en %d secondes (étape : %@).</translation>
+    </message>
+    <message>
+        <source>打印机可能在休眠或正忙：请按一下打印机上的任意键，等它准备就绪后再试一次。如果没有用，请关闭打印机，10 秒后再打开。</source>
+        <translation>L’imprimante est peut-être en veille ou occupée : appuyez sur une de ses touches, attendez qu’elle soit prête et réessayez. Si cela ne suffit pas, éteignez-la et rallumez-la après 10 secondes.</translation>
+    </message>
+    <message>
+        <source>打印机给出了意外的响应（步骤：%@）。</source>
+        <translation>L’imprimante a donné une réponse inattendue (étape : %@).</translation>
+    </message>
+    <message>
+        <source>与打印机的 USB 通信出错（步骤：%@）。</source>
+        <translation>La connexion USB avec l’imprimante a échoué (étape : %@).</translation>
+    </message>
+    <message>
+        <source>请把打印机直接接到电脑的另一个 USB 接口（不要经过集线器），最好换一根数据线，然后再试一次。</source>
+        <translation>Reliez l’imprimante directement à un autre port USB de l’ordinateur (sans concentrateur), si possible avec un autre câble, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>打印机拒绝了网络设置，最可能的原因是密码不对。</source>
+        <translation>L’imprimante a refusé les paramètres du réseau ; le mot de passe est sans doute incorrect.</translation>
+    </message>
+    <message>
+        <source>请检查密码（区分大小写）。许多打印机只支持 2.4 GHz，不支持 5 GHz。如果打印机离路由器太远，请移近一些。然后再试一次。</source>
+        <translation>Vérifiez le mot de passe ; majuscules et minuscules comptent. Beaucoup d’imprimantes n’utilisent que le 2,4 GHz, pas le 5 GHz. Si l’imprimante est loin du routeur, rapprochez-la. Puis réessayez.</translation>
+    </message>
+    <message>
+        <source>打印机收到了设置，但没有从路由器得到地址。</source>
+        <translation>L’imprimante a accepté les paramètres, mais n’a pas reçu d’adresse du routeur.</translation>
+    </message>
+    <message>
+        <source>最可能的原因是密码不对、网络只有 5 GHz，或路由器太远：请检查后再试一次。如果都没有问题，请重新启动路由器，并查看它是否只允许已知的设备。</source>
+        <translation>Le plus souvent, le mot de passe est incorrect, le réseau n’utilise que le 5 GHz ou le routeur est trop loin : vérifiez-le et réessayez. Si tout est correct, redémarrez le routeur et regardez s’il n’admet que les appareils connus.</translation>
+    </message>
+    <message>
+        <source>打印机没有说明能否配置 Wi-Fi。</source>
+        <translation>L’imprimante n’a pas indiqué si elle peut être configurée pour le Wi-Fi.</translation>
+    </message>
+    <message>
+        <source>详细信息</source>
+        <translation>&amp;Détails</translation>
+    </message>
+    <message>
+        <source>复制详细信息</source>
+        <translation>&amp;Copier les détails</translation>
+    </message>
+    <message>
+        <source>已复制</source>
+        <translation>Copié</translation>
+    </message>
+    <message>
+        <source>打印机地址</source>
+        <translation>Adresse de l’imprimante</translation>
+    </message>
+    <message>
+        <source>复制地址</source>
+        <translation>&amp;Copier l’adresse</translation>
+    </message>
+    <message>
+        <source>打开打印机的网页</source>
+        <translation>Ouvrir la &amp;page web de l’imprimante</translation>
+    </message>
+    <message>
+        <source>正在检查此电脑能否连上打印机…</source>
+        <translation>Vérification de l’accès à l’imprimante depuis cet ordinateur…</translation>
+    </message>
+    <message>
+        <source>此电脑可以连上打印机。</source>
+        <translation>Cet ordinateur peut joindre l’imprimante.</translation>
+    </message>
+    <message>
+        <source>此电脑连不上打印机。打印机可能在另一个网络上，或在会隔离设备的访客网络上。</source>
+        <translation>Cet ordinateur ne peut pas joindre l’imprimante. Elle est peut-être sur un autre réseau, ou sur un réseau invité qui isole les appareils.</translation>
+    </message>
+    <message>
+        <source>此网络还要求用户名，而用户名无法发送给打印机。</source>
+        <translation>Ce réseau demande aussi un nom d’utilisateur, qui ne peut pas être envoyé à l’imprimante.</translation>
+    </message>
+    <message>
+        <source>此网络只接受 WPA3，有些打印机不支持。</source>
+        <translation>Ce réseau n’accepte que WPA3 ; certaines imprimantes ne le prennent pas en charge.</translation>
+    </message>
+    <message>
+        <source>此网络只有 5 GHz，许多打印机需要 2.4 GHz。</source>
+        <translation>Ce réseau n’utilise que le 5 GHz ; beaucoup d’imprimantes exigent le 2,4 GHz.</translation>
+    </message>
+    <message>
+        <source>此网络需要密码，您还没有输入。</source>
+        <translation>Ce réseau demande un mot de passe ; aucun n’est saisi.</translation>
+    </message>
+    <message>
+        <source>名称的开头或结尾有空格。</source>
+        <translation>Le nom commence ou se termine par une espace.</translation>
+    </message>
+    <message>
+        <source>密码的开头或结尾有空格。</source>
+        <translation>Le mot de passe commence ou se termine par une espace.</translation>
+    </message>
+    <message>
+        <source>名称含有控制字符，无法发送给打印机。</source>
+        <translation>Ce nom contient des caractères de contrôle et ne peut pas être envoyé à l’imprimante.</translation>
+    </message>
+    <message>
+        <source>正在等待系统许可…</source>
+        <translation>En attente d’autorisation…</translation>
+    </message>
+    <message>
+        <source>系统尚未回答是否允许查找网络。请点击“刷新”再试一次，或直接输入名称。</source>
+        <translation>Le système n’a pas encore indiqué si la recherche de réseaux est autorisée. Cliquez sur « Actualiser » pour réessayer, ou saisissez le nom.</translation>
+    </message>
+    <message>
+        <source>没有查找网络的权限。请在系统设置中允许，然后点击“刷新”，或直接输入名称。</source>
+        <translation>Ce programme n’est pas autorisé à chercher des réseaux. Autorisez-le dans les paramètres du système et cliquez sur « Actualiser », ou saisissez le nom.</translation>
+    </message>
+    <message>
+        <source>没有找到网络。请点击“刷新”再找一次，或直接输入名称。</source>
+        <translation>Aucun réseau n’a été trouvé. Cliquez sur « Actualiser » pour relancer la recherche, ou saisissez le nom.</translation>
+    </message>
+    <message>
+        <source>%ld%%</source>
+        <translation>%ld %%</translation>
+    </message>
+    <message>
+        <source>此桌面没有添加打印机的窗口。请自行打开系统设置中的“打印机”，或在浏览器中打开 %@。</source>
+        <translation>Ce bureau n’a pas de fenêtre pour ajouter une imprimante. Ouvrez vous-même « Imprimantes » dans les paramètres du système, ou %@ dans un navigateur.</translation>
+    </message>
+    <message>
+        <source>无法从这里打开系统设置。请自行打开，并在“隐私”或“Wi-Fi”中允许查找网络。</source>
+        <translation>Impossible d’ouvrir les paramètres du système d’ici. Ouvrez-les vous-même et autorisez la recherche de réseaux, sous Confidentialité ou Wi-Fi.</translation>
+    </message>
+    <message>
+        <source>此电脑没有 Wi-Fi 适配器，无法列出附近的网络。请输入打印机要连接的网络。</source>
+        <translation>Cet ordinateur n’a pas d’adaptateur Wi-Fi : il ne peut pas lister les réseaux alentour. Saisissez le réseau que l’imprimante doit rejoindre.</translation>
+    </message>
+    <message>
+        <source>已连接 %d 台打印机，将配置“%@”。要配置另一台，请先拔下这一台。</source>
+        <translation>%d imprimantes sont branchées. « %@ » sera configurée ; pour en choisir une autre, débranchez d’abord celle-ci.</translation>
+    </message>
 </context>
 </TS>

@@ -531,5 +531,217 @@
         <source>请从列表中选择，或在此输入名称。</source>
         <translation>一覧から選ぶか、ここに名前を入力してください。</translation>
     </message>
+    <message>
+        <source>唤醒打印机</source>
+        <translation>スリープからの復帰</translation>
+    </message>
+    <message>
+        <source>询问打印机能否使用 Wi-Fi</source>
+        <translation>Wi-Fi対応の確認</translation>
+    </message>
+    <message>
+        <source>发送网络设置</source>
+        <translation>ネットワーク設定の送信</translation>
+    </message>
+    <message>
+        <source>查询打印机的地址</source>
+        <translation>プリンターのアドレスの確認</translation>
+    </message>
+    <message>
+        <source>打印信息页</source>
+        <translation>情報ページの印刷</translation>
+    </message>
+    <message>
+        <source>“%@”（进程 %@）正在使用打印机。</source>
+        <translation>「%@」（プロセス%@）がプリンターを使用しています。</translation>
+    </message>
+    <message>
+        <source>请关闭该程序，然后再试一次。如果打印机已连接到虚拟机，请先在虚拟机中断开。</source>
+        <translation>そのプログラムを終了してから、もう一度お試しください。プリンターが仮想マシンに接続されている場合は、先にそちらで切断してください。</translation>
+    </message>
+    <message>
+        <source>另一个程序正在使用打印机。</source>
+        <translation>別のプログラムがプリンターを使用しています。</translation>
+    </message>
+    <message>
+        <source>请关闭正在打印或扫描的程序以及虚拟机，然后再试一次。</source>
+        <translation>印刷やスキャンをしているプログラムと仮想マシンを終了してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>此电脑不允许您使用打印机：缺少规则 60-wifitool.rules。</source>
+        <translation>このコンピューターではプリンターの使用が許可されていません。ルール60-wifitool.rulesがありません。</translation>
+    </message>
+    <message>
+        <source>请重新安装带有此规则的 wifitool 软件包，拔下 USB 数据线再插上，然后再试一次。</source>
+        <translation>このルールを含むwifitoolパッケージを再インストールしてください。その後、USBケーブルを抜いてつなぎ直し、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>此电脑还没有允许您使用打印机。</source>
+        <translation>このコンピューターでは、プリンターの使用がまだ許可されていません。</translation>
+    </message>
+    <message>
+        <source>请拔下 USB 数据线再插上，等待几秒，然后再试一次。如果没有用，请重新启动电脑。</source>
+        <translation>USBケーブルを抜いてつなぎ直し、数秒待ってから、もう一度お試しください。解決しない場合は、コンピューターを再起動してください。</translation>
+    </message>
+    <message>
+        <source>只有直接在此电脑前登录的人才能使用打印机。您的会话是远程的，或是以其他方式启动的。</source>
+        <translation>このコンピューターに直接ログインしている人だけがプリンターを使用できます。現在のセッションはリモートか、別の方法で開始されたものです。</translation>
+    </message>
+    <message>
+        <source>请直接在此电脑上登录后再试一次，或请管理员帮忙。</source>
+        <translation>コンピューターに直接ログインしてもう一度お試しになるか、管理者にご相談ください。</translation>
+    </message>
+    <message>
+        <source>打印机被拔下或关闭了（步骤：%@）。</source>
+        <translation>プリンターが取り外されたか、電源が切れました（手順：%@）。</translation>
+    </message>
+    <message>
+        <source>在 USB 上找不到打印机。</source>
+        <translation>USBにプリンターが見つかりません。</translation>
+    </message>
+    <message>
+        <source>请打开打印机并插好数据线，等它准备就绪后再试一次。完成之前请不要拔线。</source>
+        <translation>プリンターの電源を入れ、ケーブルをしっかりつないでください。準備ができたらもう一度お試しになり、終わるまでケーブルを抜かないでください。</translation>
+    </message>
+    <message>
+        <source>打印机在 %d 秒内没有响应（步骤：%@）。</source>
+        <translation>プリンターが%d秒以内に応答しませんでした（手順：%@）。</translation>
+    </message>
+    <message>
+        <source>打印机可能在休眠或正忙：请按一下打印机上的任意键，等它准备就绪后再试一次。如果没有用，请关闭打印机，10 秒后再打开。</source>
+        <translation>プリンターがスリープ中か、処理中の可能性があります。プリンターのボタンを押し、準備ができてからもう一度お試しください。解決しない場合は、電源を切り、10秒待ってから入れ直してください。</translation>
+    </message>
+    <message>
+        <source>打印机给出了意外的响应（步骤：%@）。</source>
+        <translation>プリンターから予期しない応答がありました（手順：%@）。</translation>
+    </message>
+    <message>
+        <source>与打印机的 USB 通信出错（步骤：%@）。</source>
+        <translation>プリンターとのUSB通信に問題が発生しました（手順：%@）。</translation>
+    </message>
+    <message>
+        <source>请把打印机直接接到电脑的另一个 USB 接口（不要经过集线器），最好换一根数据线，然后再试一次。</source>
+        <translation>プリンターをコンピューターの別のUSBポートに（ハブを使わず直接）、できれば別のケーブルでつなぎ、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>打印机拒绝了网络设置，最可能的原因是密码不对。</source>
+        <translation>プリンターがネットワーク設定を拒否しました。パスワードが間違っている可能性があります。</translation>
+    </message>
+    <message>
+        <source>请检查密码（区分大小写）。许多打印机只支持 2.4 GHz，不支持 5 GHz。如果打印机离路由器太远，请移近一些。然后再试一次。</source>
+        <translation>パスワードを確認してください（大文字と小文字は区別されます）。多くのプリンターは2.4 GHzのみに対応し、5 GHzには接続できません。ルーターから遠い場合は近づけてください。その後、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>打印机收到了设置，但没有从路由器得到地址。</source>
+        <translation>プリンターは設定を受け取りましたが、ルーターからアドレスを取得できませんでした。</translation>
+    </message>
+    <message>
+        <source>最可能的原因是密码不对、网络只有 5 GHz，或路由器太远：请检查后再试一次。如果都没有问题，请重新启动路由器，并查看它是否只允许已知的设备。</source>
+        <translation>パスワードの間違い、5 GHzのみのネットワーク、またはルーターが遠すぎることが考えられます。確認して、もう一度お試しください。問題がない場合は、ルーターを再起動し、登録済みの機器だけを許可していないか確認してください。</translation>
+    </message>
+    <message>
+        <source>打印机没有说明能否配置 Wi-Fi。</source>
+        <translation>プリンターから、Wi-Fi設定に対応しているかどうかの回答がありませんでした。</translation>
+    </message>
+    <message>
+        <source>详细信息</source>
+        <translation>詳細(&amp;D)</translation>
+    </message>
+    <message>
+        <source>复制详细信息</source>
+        <translation>詳細をコピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>已复制</source>
+        <translation>コピーしました</translation>
+    </message>
+    <message>
+        <source>打印机地址</source>
+        <translation>プリンターのアドレス</translation>
+    </message>
+    <message>
+        <source>复制地址</source>
+        <translation>アドレスをコピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>打开打印机的网页</source>
+        <translation>プリンターのWebページを開く(&amp;P)</translation>
+    </message>
+    <message>
+        <source>正在检查此电脑能否连上打印机…</source>
+        <translation>このコンピューターからプリンターに接続できるか確認しています…</translation>
+    </message>
+    <message>
+        <source>此电脑可以连上打印机。</source>
+        <translation>このコンピューターからプリンターに接続できます。</translation>
+    </message>
+    <message>
+        <source>此电脑连不上打印机。打印机可能在另一个网络上，或在会隔离设备的访客网络上。</source>
+        <translation>このコンピューターからプリンターに接続できません。プリンターは別のネットワークか、機器同士を隔てるゲスト用ネットワークにつながっている可能性があります。</translation>
+    </message>
+    <message>
+        <source>此网络还要求用户名，而用户名无法发送给打印机。</source>
+        <translation>このネットワークにはユーザー名も必要ですが、プリンターには送信できません。</translation>
+    </message>
+    <message>
+        <source>此网络只接受 WPA3，有些打印机不支持。</source>
+        <translation>このネットワークはWPA3専用です。対応していないプリンターもあります。</translation>
+    </message>
+    <message>
+        <source>此网络只有 5 GHz，许多打印机需要 2.4 GHz。</source>
+        <translation>このネットワークは5 GHz専用です。多くのプリンターには2.4 GHzが必要です。</translation>
+    </message>
+    <message>
+        <source>此网络需要密码，您还没有输入。</source>
+        <translation>このネットワークにはパスワードが必要ですが、入力されていません。</translation>
+    </message>
+    <message>
+        <source>名称的开头或结尾有空格。</source>
+        <translation>名前の先頭または末尾に空白があります。</translation>
+    </message>
+    <message>
+        <source>密码的开头或结尾有空格。</source>
+        <translation>パスワードの先頭または末尾に空白があります。</translation>
+    </message>
+    <message>
+        <source>名称含有控制字符，无法发送给打印机。</source>
+        <translation>名前に制御文字が含まれているため、プリンターに送信できません。</translation>
+    </message>
+    <message>
+        <source>正在等待系统许可…</source>
+        <translation>許可を待っています…</translation>
+    </message>
+    <message>
+        <source>系统尚未回答是否允许查找网络。请点击“刷新”再试一次，或直接输入名称。</source>
+        <translation>ネットワークの検索が許可されているか、システムからまだ応答がありません。「再検索」を押してもう一度試すか、名前を入力してください。</translation>
+    </message>
+    <message>
+        <source>没有查找网络的权限。请在系统设置中允许，然后点击“刷新”，或直接输入名称。</source>
+        <translation>このプログラムにはネットワークを検索する許可がありません。システム設定で許可してから「再検索」を押すか、名前を入力してください。</translation>
+    </message>
+    <message>
+        <source>没有找到网络。请点击“刷新”再找一次，或直接输入名称。</source>
+        <translation>ネットワークが見つかりません。「再検索」を押すか、名前を入力してください。</translation>
+    </message>
+    <message>
+        <source>%ld%%</source>
+        <translation>%ld%%</translation>
+    </message>
+    <message>
+        <source>此桌面没有添加打印机的窗口。请自行打开系统设置中的“打印机”，或在浏览器中打开 %@。</source>
+        <translation>このデスクトップにはプリンターを追加する画面がありません。システム設定の「プリンター」を開くか、ブラウザーで%@を開いてください。</translation>
+    </message>
+    <message>
+        <source>无法从这里打开系统设置。请自行打开，并在“隐私”或“Wi-Fi”中允许查找网络。</source>
+        <translation>ここからシステム設定を開くことができません。ご自分でシステム設定を開き、「プライバシー」または「Wi-Fi」でネットワークの検索を許可してください。</translation>
+    </message>
+    <message>
+        <source>此电脑没有 Wi-Fi 适配器，无法列出附近的网络。请输入打印机要连接的网络。</source>
+        <translation>このコンピューターにはWi-Fiアダプターがないため、近くのネットワークを表示できません。プリンターを接続するネットワークを入力してください。</translation>
+    </message>
+    <message>
+        <source>已连接 %d 台打印机，将配置“%@”。要配置另一台，请先拔下这一台。</source>
+        <translation>%d台のプリンターが接続されています。「%@」を設定します。別のプリンターを設定するには、先にこのプリンターを取り外してください。</translation>
+    </message>
 </context>
 </TS>

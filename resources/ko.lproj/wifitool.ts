@@ -531,5 +531,217 @@
         <source>请从列表中选择，或在此输入名称。</source>
         <translation>목록에서 선택하거나 여기에 이름을 입력하십시오.</translation>
     </message>
+    <message>
+        <source>唤醒打印机</source>
+        <translation>프린터 깨우기</translation>
+    </message>
+    <message>
+        <source>询问打印机能否使用 Wi-Fi</source>
+        <translation>Wi-Fi 지원 여부 확인</translation>
+    </message>
+    <message>
+        <source>发送网络设置</source>
+        <translation>네트워크 설정 보내기</translation>
+    </message>
+    <message>
+        <source>查询打印机的地址</source>
+        <translation>프린터 주소 확인</translation>
+    </message>
+    <message>
+        <source>打印信息页</source>
+        <translation>정보 페이지 인쇄</translation>
+    </message>
+    <message>
+        <source>“%@”（进程 %@）正在使用打印机。</source>
+        <translation>‘%@’(프로세스 %@)에서 프린터를 사용 중입니다.</translation>
+    </message>
+    <message>
+        <source>请关闭该程序，然后再试一次。如果打印机已连接到虚拟机，请先在虚拟机中断开。</source>
+        <translation>해당 프로그램을 닫은 다음 다시 시도하십시오. 프린터가 가상 머신에 연결되어 있으면 먼저 가상 머신에서 연결을 해제하십시오.</translation>
+    </message>
+    <message>
+        <source>另一个程序正在使用打印机。</source>
+        <translation>다른 프로그램에서 프린터를 사용 중입니다.</translation>
+    </message>
+    <message>
+        <source>请关闭正在打印或扫描的程序以及虚拟机，然后再试一次。</source>
+        <translation>인쇄하거나 스캔하는 프로그램과 가상 머신을 닫은 다음 다시 시도하십시오.</translation>
+    </message>
+    <message>
+        <source>此电脑不允许您使用打印机：缺少规则 60-wifitool.rules。</source>
+        <translation>이 컴퓨터에서 프린터를 사용할 권한이 없습니다. 60-wifitool.rules 규칙이 없습니다.</translation>
+    </message>
+    <message>
+        <source>请重新安装带有此规则的 wifitool 软件包，拔下 USB 数据线再插上，然后再试一次。</source>
+        <translation>이 규칙이 들어 있는 wifitool 패키지를 다시 설치하십시오. 그런 다음 USB 케이블을 뽑았다가 다시 꽂고 다시 시도하십시오.</translation>
+    </message>
+    <message>
+        <source>此电脑还没有允许您使用打印机。</source>
+        <translation>이 컴퓨터에서 아직 프린터를 사용할 권한이 없습니다.</translation>
+    </message>
+    <message>
+        <source>请拔下 USB 数据线再插上，等待几秒，然后再试一次。如果没有用，请重新启动电脑。</source>
+        <translation>USB 케이블을 뽑았다가 다시 꽂고 몇 초 기다린 다음 다시 시도하십시오. 해결되지 않으면 컴퓨터를 다시 시작하십시오.</translation>
+    </message>
+    <message>
+        <source>只有直接在此电脑前登录的人才能使用打印机。您的会话是远程的，或是以其他方式启动的。</source>
+        <translation>이 컴퓨터에 직접 로그인한 사람만 프린터를 사용할 수 있습니다. 현재 세션은 원격이거나 다른 방법으로 시작되었습니다.</translation>
+    </message>
+    <message>
+        <source>请直接在此电脑上登录后再试一次，或请管理员帮忙。</source>
+        <translation>컴퓨터에 직접 로그인하여 다시 시도하거나 관리자에게 문의하십시오.</translation>
+    </message>
+    <message>
+        <source>打印机被拔下或关闭了（步骤：%@）。</source>
+        <translation>프린터가 분리되었거나 꺼졌습니다(단계: %@).</translation>
+    </message>
+    <message>
+        <source>在 USB 上找不到打印机。</source>
+        <translation>USB에서 프린터를 찾을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>请打开打印机并插好数据线，等它准备就绪后再试一次。完成之前请不要拔线。</source>
+        <translation>프린터를 켜고 케이블을 단단히 연결하십시오. 프린터가 준비되면 다시 시도하고, 끝날 때까지 케이블을 뽑지 마십시오.</translation>
+    </message>
+    <message>
+        <source>打印机在 %d 秒内没有响应（步骤：%@）。</source>
+        <translation>프린터가 %d초 안에 응답하지 않았습니다(단계: %@).</translation>
+    </message>
+    <message>
+        <source>打印机可能在休眠或正忙：请按一下打印机上的任意键，等它准备就绪后再试一次。如果没有用，请关闭打印机，10 秒后再打开。</source>
+        <translation>프린터가 절전 상태이거나 사용 중일 수 있습니다. 프린터의 버튼을 누르고 준비될 때까지 기다린 다음 다시 시도하십시오. 해결되지 않으면 프린터를 끄고 10초 뒤에 다시 켜십시오.</translation>
+    </message>
+    <message>
+        <source>打印机给出了意外的响应（步骤：%@）。</source>
+        <translation>프린터에서 예상하지 못한 응답이 왔습니다(단계: %@).</translation>
+    </message>
+    <message>
+        <source>与打印机的 USB 通信出错（步骤：%@）。</source>
+        <translation>프린터와의 USB 통신에 문제가 생겼습니다(단계: %@).</translation>
+    </message>
+    <message>
+        <source>请把打印机直接接到电脑的另一个 USB 接口（不要经过集线器），最好换一根数据线，然后再试一次。</source>
+        <translation>프린터를 컴퓨터의 다른 USB 포트에 (허브 없이 직접), 가능하면 다른 케이블로 연결한 다음 다시 시도하십시오.</translation>
+    </message>
+    <message>
+        <source>打印机拒绝了网络设置，最可能的原因是密码不对。</source>
+        <translation>프린터가 네트워크 설정을 거부했습니다. 비밀번호가 틀렸을 가능성이 큽니다.</translation>
+    </message>
+    <message>
+        <source>请检查密码（区分大小写）。许多打印机只支持 2.4 GHz，不支持 5 GHz。如果打印机离路由器太远，请移近一些。然后再试一次。</source>
+        <translation>비밀번호를 확인하십시오(대소문자 구분). 2.4 GHz만 지원하고 5 GHz는 지원하지 않는 프린터가 많습니다. 프린터가 공유기에서 멀면 더 가까이 옮기십시오. 그런 다음 다시 시도하십시오.</translation>
+    </message>
+    <message>
+        <source>打印机收到了设置，但没有从路由器得到地址。</source>
+        <translation>프린터가 설정을 받았지만 공유기에서 주소를 받지 못했습니다.</translation>
+    </message>
+    <message>
+        <source>最可能的原因是密码不对、网络只有 5 GHz，或路由器太远：请检查后再试一次。如果都没有问题，请重新启动路由器，并查看它是否只允许已知的设备。</source>
+        <translation>비밀번호가 틀렸거나, 네트워크가 5 GHz 전용이거나, 공유기가 너무 멀 가능성이 큽니다. 확인한 다음 다시 시도하십시오. 모두 정상이면 공유기를 다시 시작하고, 등록된 기기만 허용하는지 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>打印机没有说明能否配置 Wi-Fi。</source>
+        <translation>프린터에서 Wi-Fi를 설정할 수 있는지 알려 주지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>详细信息</source>
+        <translation>자세히(&amp;D)</translation>
+    </message>
+    <message>
+        <source>复制详细信息</source>
+        <translation>자세한 정보 복사(&amp;C)</translation>
+    </message>
+    <message>
+        <source>已复制</source>
+        <translation>복사했습니다</translation>
+    </message>
+    <message>
+        <source>打印机地址</source>
+        <translation>프린터 주소</translation>
+    </message>
+    <message>
+        <source>复制地址</source>
+        <translation>주소 복사(&amp;C)</translation>
+    </message>
+    <message>
+        <source>打开打印机的网页</source>
+        <translation>프린터 웹 페이지 열기(&amp;P)</translation>
+    </message>
+    <message>
+        <source>正在检查此电脑能否连上打印机…</source>
+        <translation>이 컴퓨터에서 프린터에 연결할 수 있는지 확인하는 중…</translation>
+    </message>
+    <message>
+        <source>此电脑可以连上打印机。</source>
+        <translation>이 컴퓨터에서 프린터에 연결할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>此电脑连不上打印机。打印机可能在另一个网络上，或在会隔离设备的访客网络上。</source>
+        <translation>이 컴퓨터에서 프린터에 연결할 수 없습니다. 프린터가 다른 네트워크나 기기를 서로 분리하는 게스트 네트워크에 있을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>此网络还要求用户名，而用户名无法发送给打印机。</source>
+        <translation>이 네트워크에는 사용자 이름도 필요하지만 프린터로 보낼 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>此网络只接受 WPA3，有些打印机不支持。</source>
+        <translation>이 네트워크는 WPA3 전용입니다. 지원하지 않는 프린터도 있습니다.</translation>
+    </message>
+    <message>
+        <source>此网络只有 5 GHz，许多打印机需要 2.4 GHz。</source>
+        <translation>이 네트워크는 5 GHz 전용입니다. 2.4 GHz가 필요한 프린터가 많습니다.</translation>
+    </message>
+    <message>
+        <source>此网络需要密码，您还没有输入。</source>
+        <translation>이 네트워크에는 비밀번호가 필요하지만 입력되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>名称的开头或结尾有空格。</source>
+        <translation>이름의 앞이나 뒤에 공백이 있습니다.</translation>
+    </message>
+    <message>
+        <source>密码的开头或结尾有空格。</source>
+        <translation>비밀번호의 앞이나 뒤에 공백이 있습니다.</translation>
+    </message>
+    <message>
+        <source>名称含有控制字符，无法发送给打印机。</source>
+        <translation>이름에 제어 문자가 있어 프린터로 보낼 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>正在等待系统许可…</source>
+        <translation>권한을 기다리는 중…</translation>
+    </message>
+    <message>
+        <source>系统尚未回答是否允许查找网络。请点击“刷新”再试一次，或直接输入名称。</source>
+        <translation>네트워크를 검색해도 되는지 시스템이 아직 응답하지 않았습니다. ‘새로 고침’을 눌러 다시 시도하거나 이름을 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>没有查找网络的权限。请在系统设置中允许，然后点击“刷新”，或直接输入名称。</source>
+        <translation>이 프로그램은 네트워크를 검색할 권한이 없습니다. 시스템 설정에서 허용한 다음 ‘새로 고침’을 누르거나 이름을 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>没有找到网络。请点击“刷新”再找一次，或直接输入名称。</source>
+        <translation>네트워크를 찾지 못했습니다. ‘새로 고침’을 눌러 다시 찾거나 이름을 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>%ld%%</source>
+        <translation>%ld%%</translation>
+    </message>
+    <message>
+        <source>此桌面没有添加打印机的窗口。请自行打开系统设置中的“打印机”，或在浏览器中打开 %@。</source>
+        <translation>이 데스크톱에는 프린터를 추가하는 창이 없습니다. 시스템 설정의 ‘프린터’를 직접 열거나 브라우저에서 %@을(를) 여십시오.</translation>
+    </message>
+    <message>
+        <source>无法从这里打开系统设置。请自行打开，并在“隐私”或“Wi-Fi”中允许查找网络。</source>
+        <translation>여기에서 시스템 설정을 열 수 없습니다. 직접 열어 개인 정보 보호 또는 Wi-Fi에서 네트워크 검색을 허용하십시오.</translation>
+    </message>
+    <message>
+        <source>此电脑没有 Wi-Fi 适配器，无法列出附近的网络。请输入打印机要连接的网络。</source>
+        <translation>이 컴퓨터에는 Wi-Fi 어댑터가 없어 주변 네트워크를 표시할 수 없습니다. 프린터를 연결할 네트워크를 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>已连接 %d 台打印机，将配置“%@”。要配置另一台，请先拔下这一台。</source>
+        <translation>프린터 %d대가 연결되어 있습니다. ‘%@’을(를) 설정합니다. 다른 프린터를 설정하려면 먼저 이 프린터를 분리하십시오.</translation>
+    </message>
 </context>
 </TS>

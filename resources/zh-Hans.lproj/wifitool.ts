@@ -271,5 +271,25 @@
         <source>请打开定位服务，步骤：系统设置-&gt;隐私与安全性-&gt;隐私-&gt;定位服务。</source>
         <translation>本程序没有搜索 Wi-Fi 网络的权限。请在系统设置的“隐私”或“Wi-Fi”中允许。</translation>
     </message>
+    <message>
+        <source>详细信息</source>
+        <translation>详细信息(&amp;D)</translation>
+    </message>
+    <message>
+        <source>复制详细信息</source>
+        <translation>复制详细信息(&amp;C)</translation>
+    </message>
+    <message>
+        <source>复制地址</source>
+        <translation>复制地址(&amp;C)</translation>
+    </message>
+    <message>
+        <source>打开打印机的网页</source>
+        <translation>打开打印机的网页(&amp;P)</translation>
+    </message>
+    <message>
+        <source>%ld%%</source>
+        <translation>%ld%%</translation>
+    </message>
 </context>
 </TS>

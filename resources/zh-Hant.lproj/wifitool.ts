@@ -531,5 +531,217 @@
         <source>请从列表中选择，或在此输入名称。</source>
         <translation>請從清單中選擇，或在此輸入名稱。</translation>
     </message>
+    <message>
+        <source>唤醒打印机</source>
+        <translation>喚醒印表機</translation>
+    </message>
+    <message>
+        <source>询问打印机能否使用 Wi-Fi</source>
+        <translation>詢問印表機能否使用 Wi-Fi</translation>
+    </message>
+    <message>
+        <source>发送网络设置</source>
+        <translation>傳送網路設定</translation>
+    </message>
+    <message>
+        <source>查询打印机的地址</source>
+        <translation>查詢印表機的位址</translation>
+    </message>
+    <message>
+        <source>打印信息页</source>
+        <translation>列印資訊頁</translation>
+    </message>
+    <message>
+        <source>“%@”（进程 %@）正在使用打印机。</source>
+        <translation>「%@」（處理程序 %@）正在使用印表機。</translation>
+    </message>
+    <message>
+        <source>请关闭该程序，然后再试一次。如果打印机已连接到虚拟机，请先在虚拟机中断开。</source>
+        <translation>請關閉該程式，然後再試一次。如果印表機已連接到虛擬機器，請先在虛擬機器中將它中斷。</translation>
+    </message>
+    <message>
+        <source>另一个程序正在使用打印机。</source>
+        <translation>另一個程式正在使用印表機。</translation>
+    </message>
+    <message>
+        <source>请关闭正在打印或扫描的程序以及虚拟机，然后再试一次。</source>
+        <translation>請關閉正在列印或掃描的程式以及虛擬機器，然後再試一次。</translation>
+    </message>
+    <message>
+        <source>此电脑不允许您使用打印机：缺少规则 60-wifitool.rules。</source>
+        <translation>此電腦不允許您使用印表機：缺少規則 60-wifitool.rules。</translation>
+    </message>
+    <message>
+        <source>请重新安装带有此规则的 wifitool 软件包，拔下 USB 数据线再插上，然后再试一次。</source>
+        <translation>請重新安裝含有此規則的 wifitool 套件，拔下 USB 傳輸線再插上，然後再試一次。</translation>
+    </message>
+    <message>
+        <source>此电脑还没有允许您使用打印机。</source>
+        <translation>此電腦尚未允許您使用印表機。</translation>
+    </message>
+    <message>
+        <source>请拔下 USB 数据线再插上，等待几秒，然后再试一次。如果没有用，请重新启动电脑。</source>
+        <translation>請拔下 USB 傳輸線再插上，等待幾秒，然後再試一次。如果沒有用，請重新啟動電腦。</translation>
+    </message>
+    <message>
+        <source>只有直接在此电脑前登录的人才能使用打印机。您的会话是远程的，或是以其他方式启动的。</source>
+        <translation>只有直接在此電腦前登入的人才能使用印表機。您的工作階段位於遠端，或是以其他方式啟動的。</translation>
+    </message>
+    <message>
+        <source>请直接在此电脑上登录后再试一次，或请管理员帮忙。</source>
+        <translation>請直接在此電腦上登入後再試一次，或洽詢系統管理員。</translation>
+    </message>
+    <message>
+        <source>打印机被拔下或关闭了（步骤：%@）。</source>
+        <translation>印表機被拔下或關閉了（步驟：%@）。</translation>
+    </message>
+    <message>
+        <source>在 USB 上找不到打印机。</source>
+        <translation>在 USB 上找不到印表機。</translation>
+    </message>
+    <message>
+        <source>请打开打印机并插好数据线，等它准备就绪后再试一次。完成之前请不要拔线。</source>
+        <translation>請開啟印表機電源並插好傳輸線，等它就緒後再試一次。完成前請勿拔線。</translation>
+    </message>
+    <message>
+        <source>打印机在 %d 秒内没有响应（步骤：%@）。</source>
+        <translation>印表機在 %d 秒內沒有回應（步驟：%@）。</translation>
+    </message>
+    <message>
+        <source>打印机可能在休眠或正忙：请按一下打印机上的任意键，等它准备就绪后再试一次。如果没有用，请关闭打印机，10 秒后再打开。</source>
+        <translation>印表機可能在休眠或忙碌中：請按一下印表機上的任一按鍵，等它就緒後再試一次。如果沒有用，請關閉印表機，10 秒後再開啟。</translation>
+    </message>
+    <message>
+        <source>打印机给出了意外的响应（步骤：%@）。</source>
+        <translation>印表機的回應不符預期（步驟：%@）。</translation>
+    </message>
+    <message>
+        <source>与打印机的 USB 通信出错（步骤：%@）。</source>
+        <translation>與印表機的 USB 通訊發生錯誤（步驟：%@）。</translation>
+    </message>
+    <message>
+        <source>请把打印机直接接到电脑的另一个 USB 接口（不要经过集线器），最好换一根数据线，然后再试一次。</source>
+        <translation>請將印表機直接連接到電腦的另一個 USB 連接埠（不要經過集線器），最好換一條傳輸線，然後再試一次。</translation>
+    </message>
+    <message>
+        <source>打印机拒绝了网络设置，最可能的原因是密码不对。</source>
+        <translation>印表機拒絕了網路設定，最可能的原因是密碼錯誤。</translation>
+    </message>
+    <message>
+        <source>请检查密码（区分大小写）。许多打印机只支持 2.4 GHz，不支持 5 GHz。如果打印机离路由器太远，请移近一些。然后再试一次。</source>
+        <translation>請檢查密碼（大小寫視為不同）。許多印表機只支援 2.4 GHz，不支援 5 GHz。如果印表機離路由器太遠，請移近一些。然後再試一次。</translation>
+    </message>
+    <message>
+        <source>打印机收到了设置，但没有从路由器得到地址。</source>
+        <translation>印表機收到了設定，但沒有從路由器取得位址。</translation>
+    </message>
+    <message>
+        <source>最可能的原因是密码不对、网络只有 5 GHz，或路由器太远：请检查后再试一次。如果都没有问题，请重新启动路由器，并查看它是否只允许已知的设备。</source>
+        <translation>最可能的原因是密碼錯誤、網路只有 5 GHz，或路由器太遠：請檢查後再試一次。如果都沒有問題，請重新啟動路由器，並查看它是否只允許已知的裝置。</translation>
+    </message>
+    <message>
+        <source>打印机没有说明能否配置 Wi-Fi。</source>
+        <translation>印表機沒有說明能否設定 Wi-Fi。</translation>
+    </message>
+    <message>
+        <source>详细信息</source>
+        <translation>詳細資料(&amp;D)</translation>
+    </message>
+    <message>
+        <source>复制详细信息</source>
+        <translation>複製詳細資料(&amp;C)</translation>
+    </message>
+    <message>
+        <source>已复制</source>
+        <translation>已複製</translation>
+    </message>
+    <message>
+        <source>打印机地址</source>
+        <translation>印表機位址</translation>
+    </message>
+    <message>
+        <source>复制地址</source>
+        <translation>複製位址(&amp;C)</translation>
+    </message>
+    <message>
+        <source>打开打印机的网页</source>
+        <translation>開啟印表機的網頁(&amp;P)</translation>
+    </message>
+    <message>
+        <source>正在检查此电脑能否连上打印机…</source>
+        <translation>正在檢查此電腦能否連上印表機…</translation>
+    </message>
+    <message>
+        <source>此电脑可以连上打印机。</source>
+        <translation>此電腦可以連上印表機。</translation>
+    </message>
+    <message>
+        <source>此电脑连不上打印机。打印机可能在另一个网络上，或在会隔离设备的访客网络上。</source>
+        <translation>此電腦無法連上印表機。印表機可能在另一個網路上，或在會隔離裝置的訪客網路上。</translation>
+    </message>
+    <message>
+        <source>此网络还要求用户名，而用户名无法发送给打印机。</source>
+        <translation>此網路還要求使用者名稱，而使用者名稱無法傳送給印表機。</translation>
+    </message>
+    <message>
+        <source>此网络只接受 WPA3，有些打印机不支持。</source>
+        <translation>此網路只接受 WPA3，有些印表機不支援。</translation>
+    </message>
+    <message>
+        <source>此网络只有 5 GHz，许多打印机需要 2.4 GHz。</source>
+        <translation>此網路只有 5 GHz，許多印表機需要 2.4 GHz。</translation>
+    </message>
+    <message>
+        <source>此网络需要密码，您还没有输入。</source>
+        <translation>此網路需要密碼，您尚未輸入。</translation>
+    </message>
+    <message>
+        <source>名称的开头或结尾有空格。</source>
+        <translation>名稱的開頭或結尾有空格。</translation>
+    </message>
+    <message>
+        <source>密码的开头或结尾有空格。</source>
+        <translation>密碼的開頭或結尾有空格。</translation>
+    </message>
+    <message>
+        <source>名称含有控制字符，无法发送给打印机。</source>
+        <translation>名稱含有控制字元，無法傳送給印表機。</translation>
+    </message>
+    <message>
+        <source>正在等待系统许可…</source>
+        <translation>正在等待系統許可…</translation>
+    </message>
+    <message>
+        <source>系统尚未回答是否允许查找网络。请点击“刷新”再试一次，或直接输入名称。</source>
+        <translation>系統尚未回應是否允許尋找網路。請點選「重新整理」再試一次，或直接輸入名稱。</translation>
+    </message>
+    <message>
+        <source>没有查找网络的权限。请在系统设置中允许，然后点击“刷新”，或直接输入名称。</source>
+        <translation>本程式沒有尋找網路的權限。請在系統設定中允許，然後點選「重新整理」，或直接輸入名稱。</translation>
+    </message>
+    <message>
+        <source>没有找到网络。请点击“刷新”再找一次，或直接输入名称。</source>
+        <translation>找不到網路。請點選「重新整理」再找一次，或直接輸入名稱。</translation>
+    </message>
+    <message>
+        <source>%ld%%</source>
+        <translation>%ld%%</translation>
+    </message>
+    <message>
+        <source>此桌面没有添加打印机的窗口。请自行打开系统设置中的“打印机”，或在浏览器中打开 %@。</source>
+        <translation>此桌面沒有新增印表機的視窗。請自行開啟系統設定中的「印表機」，或在瀏覽器中開啟 %@。</translation>
+    </message>
+    <message>
+        <source>无法从这里打开系统设置。请自行打开，并在“隐私”或“Wi-Fi”中允许查找网络。</source>
+        <translation>無法從這裡開啟系統設定。請自行開啟，並在「隱私權」或「Wi-Fi」中允許尋找網路。</translation>
+    </message>
+    <message>
+        <source>此电脑没有 Wi-Fi 适配器，无法列出附近的网络。请输入打印机要连接的网络。</source>
+        <translation>此電腦沒有 Wi-Fi 網路卡，無法列出附近的網路。請輸入印表機要連線的網路。</translation>
+    </message>
+    <message>
+        <source>已连接 %d 台打印机，将配置“%@”。要配置另一台，请先拔下这一台。</source>
+        <translation>已連接 %d 台印表機，將設定「%@」。若要設定另一台，請先拔下這一台。</translation>
+    </message>
 </context>
 </TS>
