@@ -57,7 +57,8 @@ std::vector<VisibleNetwork> networks(int count)
 class ListScreen
 {
 public:
-    ListScreen()
+    explicit ListScreen(const NetworkPorts &ports)
+        : m_screen(new WTWiFiListView(ports))
     {
         m_window.addScreen(m_screen);
         m_screen->awakeFromNib();
@@ -81,7 +82,7 @@ public:
 
 private:
     WTWindow m_window;
-    WTWiFiListView *m_screen = new WTWiFiListView;
+    WTWiFiListView *m_screen;
     WTListView *m_list = nullptr;
     std::unique_ptr<PaintCounter> m_counter;
 };
@@ -138,7 +139,7 @@ int main(int argc, char *argv[])
     WTApp::usePorts(hostWiFi, desktop, {});
     WTApp::shared().setAppLanguage(u"en"_s);
 
-    ListScreen list;
+    ListScreen list({hostWiFi, time, spooler});
     std::printf("Milliseconds from the arrival of the networks to painted rows, and for one step of scrolling; %zu and "
                 "%zu times each.\n\n"
                 "| networks | painted, median | longest | scrolled, median | longest |\n|---|---|---|---|---|\n",

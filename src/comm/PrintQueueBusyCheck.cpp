@@ -2,7 +2,6 @@
 
 #include "InfoList.h"
 #include "Log.h"
-#include "WTManager.h"
 
 #include <algorithm>
 
@@ -64,10 +63,9 @@ bool isWorking(const std::vector<PrintDestination> &destinations, const QString 
     return false;
 }
 
-bool isWorkingWithPrintType(const QString &printerType, BusyCheckVariant variant)
+bool isWorkingWithPrintType(SpoolerPort &spooler, const QString &printerType, BusyCheckVariant variant)
 {
     if (writesLog(variant))
         logInfo("查看本地是否有打印作业,打印机名称%@", printerType);
-    const auto destinations = WTManager::shared().spooler().destinations();
-    return isWorking(destinations, printerType, InfoList::value(u"Vendor"_s).value_or(QString{}), variant);
+    return isWorking(spooler.destinations(), printerType, InfoList::value(u"Vendor"_s).value_or(QString{}), variant);
 }

@@ -12,7 +12,7 @@ enum class BusyCheckVariant {
 };
 
 /// Whether a print queue of this printer is printing, as the spooler sees it. Blocks for as long as the spooler takes.
-bool isWorkingWithPrintType(const QString &printerType, BusyCheckVariant variant);
+bool isWorkingWithPrintType(SpoolerPort &spooler, const QString &printerType, BusyCheckVariant variant);
 
 /// The rule behind it: whether a destination whose name contains the match key is in state "4", processing. An empty
 /// key matches nothing.

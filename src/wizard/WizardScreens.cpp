@@ -1,11 +1,13 @@
 #include "WizardScreens.h"
 
 #include "Localized.h"
+#include "WTApp.h"
 #include "WTCompleteView.h"
 #include "WTConfigFailedView.h"
 #include "WTConfigStateInfoView.h"
 #include "WTFailedView.h"
 #include "WTInstallingView.h"
+#include "WTManager.h"
 #include "WTNetworkWithManualAddition.h"
 #include "WTPrinterScreenWPSPBCView.h"
 #include "WTSelectPBCModelView.h"
@@ -18,15 +20,17 @@
 #include "WTWindow.h"
 #include "WTWpsLinkStateView.h"
 
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
 
 template <typename Screen, typename... Arguments>
-Screen *makeScreen(WTWindow &window, const Arguments &...arguments)
+Screen *makeScreen(WTWindow &window, Arguments &&...arguments)
 {
-    auto *screen = new Screen(arguments...);
+    auto *screen = new Screen(std::forward<Arguments>(arguments)...);
     window.addScreen(screen);
     return screen;
 }
@@ -40,8 +44,10 @@ WizardScreens::WizardScreens(const ProcessEnd &processEnd)
     m_window->setWindowTitle(localized(u"Wi-Fi配置工具"_s));
 
     auto *unconnect = makeScreen<WTUnconnectView>(*m_window);
-    auto *wifiList = makeScreen<WTWiFiListView>(*m_window);
-    auto *manualAdd = makeScreen<WTNetworkWithManualAddition>(*m_window);
+    WTManager &manager = WTManager::shared();
+    const NetworkPorts networkPorts{WTApp::shared().hostWiFi(), manager.time(), manager.spooler()};
+    auto *wifiList = makeScreen<WTWiFiListView>(*m_window, networkPorts);
+    auto *manualAdd = makeScreen<WTNetworkWithManualAddition>(*m_window, manager.spooler());
     auto *installing = makeScreen<WTInstallingView>(*m_window);
     auto *complete = makeScreen<WTCompleteView>(*m_window);
     auto *failed = makeScreen<WTFailedView>(*m_window);

@@ -145,9 +145,10 @@ void PrinterRecordTest::describesTheReportInTheLog()
 void PrinterRecordTest::asksTheSpoolerForThePrintersQueue()
 {
     const LogCollector log;
-    QVERIFY(isWorkingWithPrintType(u"quillmark QZ-100"_s, BusyCheckVariant::ManualEntry));
+    QVERIFY(
+        isWorkingWithPrintType(WTManager::shared().spooler(), u"quillmark QZ-100"_s, BusyCheckVariant::ManualEntry));
     QCOMPARE(log.lines(), QStringList{});
-    QVERIFY(isWorkingWithPrintType(u"quillmark QZ100"_s, BusyCheckVariant::List));
+    QVERIFY(isWorkingWithPrintType(WTManager::shared().spooler(), u"quillmark QZ100"_s, BusyCheckVariant::List));
     QCOMPARE(log.lines(), (QStringList{u"info: 查看本地是否有打印作业,打印机名称quillmark QZ100"_s,
                                        u"info: 打印机正在打印中,当前打印机为QZ200"_s,
                                        u"info: 打印机正在打印中,当前打印机为QZ100"_s, u"info: 打印机正在打印中"_s}));

@@ -5,7 +5,7 @@
 #include <QAbstractListModel>
 #include <vector>
 
-/// The networks as rows of a list control. Main thread.
+/// The networks as rows of a list control, with a role for each thing that a row shows. Main thread.
 class NetworkRows : public QAbstractListModel
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ public:
 
     using QAbstractListModel::QAbstractListModel;
 
-    /// The rows from now on.
+    /// Replaces all rows. `joined` is the name of the network that the computer is joined to.
     void setNetworks(const std::vector<WTWiFiPtr> &networks, const QString &joined);
     void setChosenRow(int row);
 

@@ -35,6 +35,12 @@ bool NetworkRules::isVailePassword(const QString &password)
     return pattern.match(password).hasMatch();
 }
 
+QString NetworkRules::passwordAfterEdit(const QString &typed, const QString &lastValid)
+{
+    const QString password = cutPassword(typed);
+    return isVailePassword(password) ? password : lastValid;
+}
+
 bool NetworkRules::isNameUsable(const QString &name)
 {
     return !name.isEmpty() && !isNameTooLong(name);

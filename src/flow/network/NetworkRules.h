@@ -19,6 +19,8 @@ QString cutPassword(const QString &password);
 
 /// Whether all of it are signs that the password field takes: printable ASCII and ¥ € £ •, at most 64.
 bool isVailePassword(const QString &password);
+/// What the password field is to hold once an edit has made it `typed`: that, cut; or `lastValid` again.
+QString passwordAfterEdit(const QString &typed, const QString &lastValid);
 
 /// Whether a printer can be told to join a network of this name.
 bool isNameUsable(const QString &name);

@@ -53,7 +53,7 @@ void WTLocationPermissionChecker::checkLocationPermission(LocalStatus callBack)
 void WTLocationPermissionChecker::locationManagerDidChangeAuthorization()
 {
     logInfo("定位权限发生变化：");
-    // A copy: what it does may end the wait that this checker lives for.
+    // A copy, because the callback may end the wait, and with it this checker.
     const LocalStatus localStatus = m_localStatus;
     printPermissionStatus(static_cast<qint32>(m_locationManager.scanPermission()), localStatus);
 }

@@ -18,11 +18,11 @@ public:
     explicit WTLocationPermissionChecker(HostWiFiPort &locationManager);
     ~WTLocationPermissionChecker() override;
 
-    /// Logs the status of now and keeps `callBack` for the notifications; it is not called from here. A host that has
-    /// not decided yet asks its user by itself, when the scan is requested.
+    /// Logs the present status and keeps `callBack`, which only the later notifications call. There is nothing to ask
+    /// for: a host that has not decided yet asks the person by itself when networks are looked for.
     void checkLocationPermission(LocalStatus callBack);
 
-    /// The host's notification.
+    /// The host notifies of an answer or of a change of it.
     void locationManagerDidChangeAuthorization();
 
     /// Logs the status in words and hands it to `localStatus`, which may be empty.

@@ -1,28 +1,27 @@
 #include "WTNetworkWithManualAdditionModel.h"
 
-#include "NetworkRules.h"
+#include "MainThread.h"
+#include "PrintQueueBusyCheck.h"
+#include "WTManager.h"
 
-QString WTNetworkWithManualAdditionModel::passwordAfterTyping(const QString &typed)
+WTNetworkWithManualAdditionModel::WTNetworkWithManualAdditionModel(SpoolerPort &spooler)
+    : m_spooler(spooler)
 {
-    const QString password = NetworkRules::cutPassword(typed);
-    if (NetworkRules::isVailePassword(password))
-        m_lastPwd = password;
-    return m_lastPwd;
 }
 
-WTNetworkWithManualAdditionModel::Next WTNetworkWithManualAdditionModel::next(const QString &name,
-                                                                              const QString &password)
+bool WTNetworkWithManualAdditionModel::isWorkingWithPrintType(const QString &printType) const
 {
-    if (name.isEmpty())
-        return Next::EmptyName;
-    return NetworkRules::isPasswordTooLong(NetworkRules::cutPassword(password)) ? Next::PasswordTooLong : Next::Go;
+    return ::isWorkingWithPrintType(m_spooler, printType, BusyCheckVariant::ManualEntry);
 }
 
-WTWiFiPtr WTNetworkWithManualAdditionModel::network(const QString &name, const QString &password)
+void WTNetworkWithManualAdditionModel::printInformationPage(const WTPrinterPtr &printer,
+                                                            const std::function<void()> &sent)
 {
-    auto wifi = std::make_shared<WTWiFi>();
-    wifi->SSID = name;
-    wifi->password = NetworkRules::cutPassword(password);
-    wifi->security = 0;
-    return wifi;
+    const auto print = [printer, sent] {
+        WTManager::printingWiFiInfoFromPrinter(printer->usbObj->URI(), printer->usbObj->locationID,
+                                               printer->printerType(),
+                                               [sent](const ResultAnswer &) { onMainThread(sent); });
+    };
+    WTManager::wt_wakeUpPrinter(printer->usbObj->URI(), printer->usbObj->locationID,
+                                [print](bool, const std::optional<QString> &) { onMainThread(print); });
 }

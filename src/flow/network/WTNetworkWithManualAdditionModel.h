@@ -1,27 +1,24 @@
 #pragma once
 
-#include "WTWiFi.h"
+#include "WTPrinter.h"
 
-#include <QString>
+#include <functional>
 
-/// What the manual entry screen decides: the password that an edit leaves, and where "next" leads.
+class SpoolerPort;
+
+/// What the manual entry screen asks of the printer before a run.
 class WTNetworkWithManualAdditionModel
 {
 public:
-    enum class Next { EmptyName, PasswordTooLong, Go };
+    explicit WTNetworkWithManualAdditionModel(SpoolerPort &spooler);
 
-    /// The last password that passed validation.
-    QString lastPwd() const { return m_lastPwd; }
-    void setLastPwd(const QString &password) { m_lastPwd = password; }
+    /// Whether the printer's print queue is busy. Waits for the spooler.
+    bool isWorkingWithPrintType(const QString &printType) const;
 
-    /// What the password field is to hold once the user has made it `typed`: the cut text, which is kept, or the last
-    /// valid one again.
-    QString passwordAfterTyping(const QString &typed);
-
-    static Next next(const QString &name, const QString &password);
-    /// The network to configure; its security stays 0, whatever the real one uses.
-    static WTWiFiPtr network(const QString &name, const QString &password);
+    /// Wakes the printer and has it print its information page. `sent` runs on the main thread at the end, whatever the
+    /// printer answered.
+    static void printInformationPage(const WTPrinterPtr &printer, const std::function<void()> &sent);
 
 private:
-    QString m_lastPwd;
+    SpoolerPort &m_spooler;
 };

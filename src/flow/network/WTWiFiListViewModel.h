@@ -1,21 +1,26 @@
 #pragma once
 
-#include "WTWiFi.h"
+#include "NetworkChoice.h"
+#include "NetworkPorts.h"
 
 #include <QObject>
 #include <functional>
-#include <vector>
 
-/// The networks of the list screen in display order, and the rules for what may be typed. Main thread.
+/// The networks of the list screen in display order, the choice among them, and what is asked of the computer for it.
+/// Main thread.
 class WTWiFiListViewModel : public QObject
 {
     Q_OBJECT
 
 public:
     using Callback = std::function<void()>;
+    using StatusCallback = std::function<void(qint32 status)>;
+    /// Why the screen looks for networks.
+    enum class Occasion { Entry, Refresh };
 
-    using QObject::QObject;
+    explicit WTWiFiListViewModel(const NetworkPorts &ports, QObject *parent = nullptr);
 
+    // -- networks -----------------------------------------------------------------------------------------------
     const std::vector<WTWiFiPtr> &list_WIFI() const { return m_list; }
 
     /// Asks for the visible networks and calls back when the list is the new one, or, after a failure, the old one.
@@ -24,21 +29,48 @@ public:
     /// Makes `items` the list: as received, but the network the computer is joined to comes first, with its password.
     void reloadDataSource(const std::vector<WTC_WLAN> &items, const Callback &callBack);
 
-    /// Puts the joined network first again, with the password that is known by now.
-    void putJoinedNetworkFirst();
+    NetworkChoice &choice() { return m_choice; }
 
+    /// The host has told the password of the network `ssid`: the joined network comes first again, with its password.
+    /// @return whether the password may go into the field.
+    bool takeStoredPassword(const QString &ssid);
+
+    // -- the computer -------------------------------------------------------------------------------------------
+    /// The network that the computer was joined to when the permission was given last.
+    std::optional<QString> currentSSID() const { return m_currentSSID; }
+
+    /// The host must be asked before the networks are looked for.
+    static bool needsPermission();
+    /// Asks for that permission and gives the host 5 seconds of events to answer, each time to `answered`.
+    void waitForPermission(Occasion occasion, const StatusCallback &answered);
+    /// Where no permission is needed: reads the host's state and asks for the joined network's password.
+    void readHostState(Occasion occasion);
+    /// The password at hand belongs to another network than the computer is joined to now.
+    static bool mustFetchPassword(bool isConnected, const std::optional<QString> &joined,
+                                  const std::optional<QString> &current);
+
+    /// Whether the printer's print queue is busy. Waits for the spooler.
+    bool isWorkingWithPrintType(const QString &printType) const;
+    /// Whether a scan job holds the printer.
+    static bool isScanAvaiable();
+
+    // -- what may be typed --------------------------------------------------------------------------------------
     static bool isVailePassword(const QString &password);
     /// 64, whatever the mode.
     static qsizetype maxLengthBy(qint64 security);
     /// The first `index` units of a longer text; one less where the cut would go through a surrogate pair.
     static QString subString(const QString &text, qsizetype index);
     static bool isLegalPwd(const QString &password, qint64 authMode);
-
     /// A name of 1 to 32 bytes of UTF-8, and a password that is legal for the first listed network of that name.
-    bool canGoNext(const QString &name, const QString &password) const;
+    bool canGoNext(const NetworkEntry &fields) const;
 
     QObject *view = nullptr; ///< The screen; not used for logic.
 
 private:
+    void putJoinedNetworkFirst();
+
+    NetworkPorts m_ports;
     std::vector<WTWiFiPtr> m_list;
+    NetworkChoice m_choice;
+    std::optional<QString> m_currentSSID;
 };

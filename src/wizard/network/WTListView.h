@@ -10,11 +10,11 @@ class WTListView : public QListView
 public:
     explicit WTListView(QWidget *parent = nullptr);
 
-    /// The row that is marked; the screen's answer to `rowChosen`.
+    /// Makes `row` the list's current row, without `rowChosen`.
     void showChosenRow(int row);
 
 Q_SIGNALS:
-    /// The user points at a row: a click, an arrow key, the space bar, a screen reader's command.
+    /// The person chose a row: by a click, an arrow key, the space bar or a screen reader's command. Once per act.
     void rowChosen(int row);
 
 protected:
@@ -27,9 +27,10 @@ protected:
 private:
     /// `Palette::frame` at rest, `Palette::focusBlue` with the keyboard, as around the fields.
     void setFrameColor(const QColor &color);
-    /// Says `rowChosen` unless the selection, which changes first where it changes at all, has said it.
+    /// For a click or the space bar on the row that is selected already: the selection does not change then, so that
+    /// `selectionChanged` has not emitted `rowChosen`.
     void chooseOnce(const QModelIndex &index);
 
-    bool m_showsChoice = false; ///< The screen moves the selection.
-    bool m_said = false;        ///< `rowChosen`, since the last key or mouse button went down.
+    bool m_showsChoice = false; ///< The selection is being changed by `showChosenRow`, not by the person.
+    bool m_said = false;        ///< `rowChosen` was emitted since the last key or mouse button was pressed.
 };

@@ -1,11 +1,9 @@
 #pragma once
 
 #include "WTNetworkWithManualAdditionModel.h"
-#include "WTPrinter.h"
 #include "WTView.h"
 
-class FieldFrame;
-class KSPasswordField;
+class NetworkForm;
 class WTButton;
 class WTCustomTextFieldFromatter;
 class WTDefaultStyleBtn;
@@ -19,7 +17,7 @@ class WTNetworkWithManualAddition : public WTView
     Q_OBJECT
 
 public:
-    explicit WTNetworkWithManualAddition(QWidget *parent = nullptr);
+    explicit WTNetworkWithManualAddition(SpoolerPort &spooler, QWidget *parent = nullptr);
 
     /// Set by the screen that pushes this one.
     void setPrinter(const WTPrinterPtr &printer) { m_printer = printer; }
@@ -30,12 +28,11 @@ public:
     void viewDidApear() override;
 
     /// The last password that passed validation.
-    QString lastPwd() const { return m_model.lastPwd(); }
+    QString lastPwd() const;
 
     /// Styles the controls and connects them.
     void ff_config();
     void wt_resetShowPwdBtn();
-    /// Shows or hides the password, as the check box says.
     void showPassword();
     void controlDidBecomeFirstResponder(WTTextfield *field);
     void controlTextDidChange(WTTextfield *field);
@@ -43,7 +40,7 @@ public:
     void updateBtnNextStepState();
     static bool isVailePassword(const QString &password);
     /// Whether the printer's print queue is busy. Waits for the spooler.
-    static bool isWorkingWithPrintType(const QString &printType);
+    bool isWorkingWithPrintType(const QString &printType) const;
     void showIsworkingAlert();
     /// Prints the information page.
     void printWiFiList();
@@ -57,12 +54,8 @@ private:
     WTNetworkWithManualAdditionModel m_model;
     WTPrinterPtr m_printer;
     WTInstallingView *m_installingView = nullptr;
-    WTTextfield *m_ssidTextField;
-    KSPasswordField *m_passwordTextField;
-    FieldFrame *m_ssidView;
-    FieldFrame *m_passwordView;
+    NetworkForm *m_form;
     WTCustomTextFieldFromatter *m_pwdFormatter;
-    WTButton *m_showPwdBtn;
     WTDefaultStyleBtn *m_nextBtn;
     WTButton *m_previousBtn;
     WTButton *m_printWiFiHomePage;

@@ -3,31 +3,26 @@
 #include "ButtonLook.h"
 #include "ButtonSchemes.h"
 #include "DesktopPort.h"
-#include "KSPasswordField.h"
+#include "EntryAlerts.h"
 #include "LiveLabel.h"
 #include "Localized.h"
 #include "Log.h"
+#include "NetworkForm.h"
 #include "NetworkRows.h"
-#include "NetworkRules.h"
-#include "OnMainThreadAfter.h"
-#include "PrintQueueBusyCheck.h"
-#include "ScannerLock.h"
+#include "Palette.h"
+#include "PermissionAnswer.h"
+#include "ScreenFrame.h"
+#include "SlimScrollBar.h"
+#include "TextStyle.h"
 #include "WTApp.h"
 #include "WTButton.h"
 #include "WTCommand.h"
 #include "WTDefaultStyleBtn.h"
 #include "WTInstallingView.h"
 #include "WTListView.h"
-#include "WTLocationPermissionChecker.h"
-#include "WTManager.h"
-#include "WTTextfield.h"
-#include "WTWiFiListViewModel.h"
 #include "WTWindow.h"
-#include "refuseLongPassword.h"
 #include "showAlert.h"
 
-#include <QEventLoop>
-#include <algorithm>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -35,24 +30,85 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 
-constexpr TimePort::Duration permissionWait = std::chrono::seconds(5);
+constexpr int listStretch = 5;
+constexpr int formStretch = 4;
+constexpr int columnGap = 32;
 
 } // namespace
+
+WTWiFiListView::WTWiFiListView(const NetworkPorts &ports, QWidget *parent)
+    : WTView(parent)
+    , m_viewModel(new WTWiFiListViewModel(ports, this))
+    , m_rows(new NetworkRows(this))
+    , m_wifiListView(new WTListView)
+    , m_updateButton(new WTButton)
+    , m_activeView(new LiveLabel(localized(u"正在查找无线网络…"_s), TextStyle::Size::Small, Palette::label))
+    , m_form(new NetworkForm(localized(u"请从列表中选择，或在此输入名称。"_s), u"btn_showPwd"_s,
+                             NetworkForm::Strength::Hidden))
+    , m_nextBtn(new WTDefaultStyleBtn)
+    , m_previous(new WTButton)
+{
+    m_viewModel->view = this;
+    layOut();
+}
+
+void WTWiFiListView::layOut()
+{
+    m_updateButton->setObjectName(u"updateButton"_s);
+    m_nextBtn->setObjectName(u"btn_nextStep"_s);
+    m_previous->setObjectName(u"previous"_s);
+    m_updateButton->setTitle(localized(u"刷新"_s));
+    m_nextBtn->setTitle(localized(u"下一步"_s));
+    m_previous->setTitle(localized(u"上一步"_s));
+    ButtonSchemes::applyBlue(*m_updateButton);
+    ButtonSchemes::applyBack(*m_previous);
+
+    auto *columns = new QHBoxLayout;
+    columns->setSpacing(columnGap);
+    columns->addLayout(makeListColumn(), listStretch);
+    columns->addWidget(m_form, formStretch);
+
+    auto *frame = new ScreenFrame(this, WizardStep::Network);
+    frame->setHeading(localized(u"选择无线网络"_s));
+    frame->setInstruction(localized(u"请选择打印机要连接的网络，并输入它的密码。"_s));
+    frame->content()->addLayout(columns, 1);
+    frame->setBackButton(m_previous);
+    frame->setMainButton(m_nextBtn);
+    frame->addToBar(m_updateButton);
+}
+
+QLayout *WTWiFiListView::makeListColumn()
+{
+    m_wifiListView->setModel(m_rows);
+    m_wifiListView->setVerticalScrollBar(new SlimScrollBar);
+    m_wifiListView->setObjectName(u"wifiListView"_s);
+    m_wifiListView->setAccessibleName(localized(u"附近的无线网络"_s));
+    m_activeView->setWordWrap(false);
+    m_activeView->hide();
+
+    auto *header = new QHBoxLayout;
+    header->addWidget(TextStyle::makeLabel(localized(u"附近的无线网络"_s), TextStyle::Size::Body, Palette::heading), 1);
+    header->addWidget(m_activeView);
+    auto *column = new QVBoxLayout;
+    column->setSpacing(8);
+    column->addLayout(header);
+    column->addWidget(m_wifiListView, 1);
+    return column;
+}
 
 void WTWiFiListView::awakeFromNib()
 {
     WTView::awakeFromNib();
-    for (WTTextfield *field : {m_ssidTextField, static_cast<WTTextfield *>(m_passwordTextField)}) {
-        connect(field, &WTTextfield::controlDidBecomeFirstResponder, this,
-                &WTWiFiListView::controlDidBecomeFirstResponder);
-        connect(field, &WTTextfield::controlTextDidChange, this, &WTWiFiListView::controlTextDidChange);
-        connect(field, &WTTextfield::controlTextDidEndEditing, this, &WTWiFiListView::controlTextDidEndEditing);
-    }
+    m_form->awakeFromNib();
+    connect(m_form, &NetworkForm::nameEdited, this, &WTWiFiListView::nameEdited);
+    connect(m_form, &NetworkForm::passwordEdited, this, [this] {
+        m_viewModel->choice().passwordTyped();
+        logMaximumLength();
+        updateBtnNextStepState();
+    });
+    connect(m_form, &NetworkForm::editingEnded, this, [this] { logInfo("ssid:%@", m_form->entry().name); });
     connect(m_wifiListView, &WTListView::rowChosen, this, &WTWiFiListView::tableView);
     connect(m_updateButton, &WTButton::clicked, this, &WTWiFiListView::updateWifiList);
-    connect(m_passwordTextField, &KSPasswordField::showHidePressed, m_showPwdBtn, &WTButton::click);
-    connect(m_passwordTextField, &KSPasswordField::capsLockChanged, this, &WTWiFiListView::showPasswordError);
-    connect(m_showPwdBtn, &WTButton::clicked, this, &WTWiFiListView::showPassword);
     connect(m_nextBtn, &WTDefaultStyleBtn::clicked, this, &WTWiFiListView::next);
     connect(m_previous, &WTButton::clicked, this, &WTWiFiListView::back);
     connect(&WTApp::shared(), &WTApp::storedPasswordArrived, this, &WTWiFiListView::storedPasswordArrived);
@@ -61,33 +117,8 @@ void WTWiFiListView::awakeFromNib()
 void WTWiFiListView::viewDidApear()
 {
     WTView::viewDidApear();
-    ButtonSchemes::showChecked(*m_showPwdBtn, false);
-    m_passwordTextField->setShowsText(false);
+    m_form->hidePassword();
     updateBtnNextStepState();
-}
-
-WTWiFiListViewModel *WTWiFiListView::viewModel()
-{
-    if (!m_viewModel) {
-        m_viewModel = new WTWiFiListViewModel(this);
-        m_viewModel->view = this;
-    }
-    return m_viewModel;
-}
-
-WTWiFiPtr WTWiFiListView::selectedWiFi()
-{
-    if (!m_selectedWiFi)
-        m_selectedWiFi = std::make_shared<WTWiFi>();
-    const auto &list = viewModel()->list_WIFI();
-    if (list.empty() || m_editedSSID) {
-        m_selectedWiFi->SSID = m_ssidTextField->text();
-        m_selectedWiFi->password = m_passwordTextField->text();
-        m_selectedWiFi->security = 0;
-    } else if (std::size_t(m_selectRow) < list.size()) {
-        *m_selectedWiFi = *list[std::size_t(m_selectRow)];
-    }
-    return m_selectedWiFi;
 }
 
 // -- list -------------------------------------------------------------------------------------------------------------
@@ -96,25 +127,16 @@ void WTWiFiListView::ff_discoverPrinterAndUpdataWIFIList()
 {
     logInfo("discover printer");
     stopLoading();
-    if (m_selectRow != 0 && selectedWiFi()) {
-        m_wifiListView->showChosenRow(m_selectRow);
-        logInfo("did selected row:%ld", m_selectRow);
+    if (selectRow() != 0) {
+        m_wifiListView->showChosenRow(selectRow());
+        logInfo("did selected row:%ld", selectRow());
         logInfo("did selected WIFI SSID:%@", selectedWiFi()->SSID);
-        updateTextfieldSSIDAndPWD();
-        updateBtnNextStepState();
+        updateFieldsAndNext();
         return;
     }
-    m_selectRow = 0;
-    m_wifiListView->showChosenRow(0);
     reloadTable();
-    logInfo("currentSSID:%@", m_currentSSID);
-    if (WTApp::shared().capabilities().scanNeedsPermission) {
-        waitForPermission(false);
-        return;
-    }
-    WTApp::shared().checkPcNetState();
-    WTApp::shared().fetchWIFIPWD();
-    fetchWIFIList();
+    logInfo("currentSSID:%@", currentSSID());
+    lookForNetworks(WTWiFiListViewModel::Occasion::Entry);
 }
 
 void WTWiFiListView::updateWifiList()
@@ -124,40 +146,18 @@ void WTWiFiListView::updateWifiList()
         logError("🈲 Disable Click");
         return;
     }
-    m_selectRow = 0;
-    WTApp &app = WTApp::shared();
-    if (app.capabilities().scanNeedsPermission) {
-        waitForPermission(true);
-        return;
-    }
-    app.checkPcNetState();
-    logInfo("Check SSID:%@", app.selectedSSID);
-    logInfo("Current SSID:%@", m_currentSSID);
-    logInfo("WiFiConnected:%@", app.isMacWiFiConnected ? "✅" : "❌");
-    if (app.isMacWiFiConnected && app.selectedSSID != m_currentSSID) {
-        logInfo("🏷 need refetch pwd");
-        app.fetchWIFIPWD();
-    }
-    fetchWIFIList();
+    m_viewModel->choice().setRow(0);
+    lookForNetworks(WTWiFiListViewModel::Occasion::Refresh);
 }
 
-void WTWiFiListView::waitForPermission(bool refreshesHostState)
+void WTWiFiListView::lookForNetworks(WTWiFiListViewModel::Occasion occasion)
 {
-    WTLocationPermissionChecker checker(WTApp::shared().hostWiFi());
-    checker.checkLocationPermission([this, refreshesHostState](qint32 status) {
-        if (status == static_cast<qint32>(ScanPermission::Allowed)) {
-            WTApp &app = WTApp::shared();
-            if (refreshesHostState)
-                app.checkPcNetState();
-            app.fetchWIFIPWD();
-            m_currentSSID = app.selectedSSID;
-        }
-        changeLocation(status);
-    });
-    // Screens live as long as the window, and the window as long as the program's own event loop around this one.
-    QEventLoop wait;
-    const auto end = onMainThreadAfter(WTManager::shared().time(), permissionWait, [&wait] { wait.quit(); });
-    wait.exec();
+    if (WTWiFiListViewModel::needsPermission()) {
+        m_viewModel->waitForPermission(occasion, [this](qint32 status) { changeLocation(status); });
+        return;
+    }
+    m_viewModel->readHostState(occasion);
+    fetchWIFIList();
 }
 
 void WTWiFiListView::changeLocation(qint32 status)
@@ -166,42 +166,35 @@ void WTWiFiListView::changeLocation(qint32 status)
         logWarning("current view is not visible!");
         return;
     }
-    switch (status) {
-    case static_cast<qint32>(ScanPermission::NotDetermined):
-        logWarning("定位服务：用户尚未做出选择（触发时机：首次请求定位权限时）");
-        stopLoading();
-        showLocationAlert();
-        return;
-    case static_cast<qint32>(ScanPermission::Denied):
-        logWarning("定位服务：用户明确拒绝或系统定位服务关闭（触发时机：用户明确拒绝或系统定位服务关闭）");
-        stopLoading();
-        showLocationAlert();
-        return;
-    case static_cast<qint32>(ScanPermission::Allowed):
-        logInfo("定位服务：获得持续定位权限（触发时机：用户同意“允许”定位服务）");
-        fetchWIFIList();
-        return;
-    case static_cast<qint32>(ScanPermission::Restricted):
-        logWarning("定位服务：设备限制导致无法获取定位（触发时机：家长控制/设备策略限制）");
-        backPreviousView();
+    const PermissionAnswer answer = permissionAnswer(status);
+    switch (answer.step) {
+    case PermissionAnswer::Step::Look:
+        logInfo(answer.line);
         break;
-    default:
+    case PermissionAnswer::Step::AskPerson:
+        logWarning(answer.line);
+        stopLoading();
+        showLocationAlert();
+        return;
+    case PermissionAnswer::Step::LeaveAndLook:
+        logWarning(answer.line);
+        backPreviousView();
+        [[fallthrough]];
+    case PermissionAnswer::Step::LookAnyway:
+        logWarning("定位服务：未知状态 ⚠️ %d ⚠️", status);
         break;
     }
-    // A restricted status goes on as an unknown one, on a screen that was left.
-    logWarning("定位服务：未知状态 ⚠️ %d ⚠️", status);
     fetchWIFIList();
 }
 
 void WTWiFiListView::fetchWIFIList()
 {
     logInfo("🏷");
-    m_editedSSID = false;
+    m_viewModel->choice().forgetTypedName();
     startLoading();
-    viewModel()->fetchWIFIList([this] {
+    m_viewModel->fetchWIFIList([this] {
         reloadTable();
-        updateTextfieldSSIDAndPWD();
-        updateBtnNextStepState();
+        updateFieldsAndNext();
         stopLoading();
     });
 }
@@ -232,35 +225,67 @@ void WTWiFiListView::stopLoading()
 
 void WTWiFiListView::reloadTable()
 {
-    m_rows->setNetworks(viewModel()->list_WIFI(), WTApp::shared().selectedSSID.value_or(QString()));
-    m_rows->setChosenRow(m_selectRow);
-    m_wifiListView->showChosenRow(m_selectRow);
+    m_rows->setNetworks(m_viewModel->list_WIFI(), WTApp::shared().selectedSSID.value_or(QString()));
+    m_rows->setChosenRow(selectRow());
+    m_wifiListView->showChosenRow(selectRow());
 }
 
 void WTWiFiListView::tableView(int shouldSelectRow)
 {
-    m_editedSSID = false;
     m_returnsKeyboard = false;
-    m_selectRow = shouldSelectRow;
-    m_rows->setChosenRow(m_selectRow);
-    updateTextfieldSSIDAndPWD();
-    updateBtnNextStepState();
+    m_viewModel->choice().chooseRow(shouldSelectRow);
+    m_rows->setChosenRow(shouldSelectRow);
+    updateFieldsAndNext();
 }
 
 void WTWiFiListView::storedPasswordArrived(const QString &ssid)
 {
-    const auto &list = viewModel()->list_WIFI();
-    const WTWiFiPtr chosen = std::size_t(m_selectRow) < list.size() ? list[std::size_t(m_selectRow)] : nullptr;
-    viewModel()->putJoinedNetworkFirst();
-    // A chosen row stays with its network; the first row stays the first.
-    if (m_selectRow != 0 && chosen)
-        m_selectRow = int(std::find(list.begin(), list.end(), chosen) - list.begin());
+    const bool fills = m_viewModel->takeStoredPassword(ssid);
     reloadTable();
-    const bool isFirst = !list.empty() && list.front()->SSID == ssid && WTApp::shared().selectedSSID == ssid;
-    if (!isFirst || m_selectRow != 0 || m_editedSSID || m_passwordTyped)
+    if (fills)
+        updateFieldsAndNext();
+}
+
+// -- fields -----------------------------------------------------------------------------------------------------------
+
+WTWiFiPtr WTWiFiListView::selectedWiFi()
+{
+    return m_viewModel->choice().selectedWiFi(m_viewModel->list_WIFI(), m_form->entry());
+}
+
+void WTWiFiListView::updateTextfieldSSIDAndPWD()
+{
+    const auto fields = m_viewModel->choice().filledFields(m_viewModel->list_WIFI(), m_form->entry());
+    if (!fields)
         return;
+    if (!fields->name.isEmpty())
+        m_form->showName(fields->name);
+    m_form->showPasswordText(fields->password);
+}
+
+void WTWiFiListView::updateBtnNextStepState()
+{
+    m_nextBtn->setDisable(!m_viewModel->canGoNext(m_form->entry()));
+    m_form->showErrors();
+}
+
+void WTWiFiListView::updateFieldsAndNext()
+{
     updateTextfieldSSIDAndPWD();
     updateBtnNextStepState();
+}
+
+void WTWiFiListView::nameEdited()
+{
+    logInfo("ssid:%@", m_form->entry().name);
+    m_viewModel->choice().nameTyped();
+    logMaximumLength();
+    updateBtnNextStepState();
+}
+
+void WTWiFiListView::logMaximumLength()
+{
+    logInfo("maxLength:%lu", quint64(WTWiFiListViewModel::maxLengthBy(selectedWiFi()->security)));
 }
 
 // -- ways out ---------------------------------------------------------------------------------------------------------
@@ -280,58 +305,78 @@ void WTWiFiListView::showLocationAlert()
     });
 }
 
-bool WTWiFiListView::isWorkingWithPrintType(const QString &printType)
-{
-    return ::isWorkingWithPrintType(printType, BusyCheckVariant::List);
-}
-
-bool WTWiFiListView::isScanAvaiable()
-{
-    return ScannerLock::isHeld(ScannerLock::configuredPaths());
-}
-
 void WTWiFiListView::showIsworkingAlert()
 {
-    showAlert(window(), {.messageText = localized(u"温馨提示："_s),
-                         .informativeText = localized(u"打印端口被占用，无法配置打印机"_s),
-                         .buttons = {localized(u"确定"_s)}});
+    EntryAlerts::showNote(window(), localized(u"打印端口被占用，无法配置打印机"_s));
 }
 
 void WTWiFiListView::back()
 {
-    m_selectRow = 0;
-    m_selectedWiFi.reset();
-    m_ssidTextField->showText({});
-    m_passwordTextField->showText({});
-    resetFieldFrames();
+    m_viewModel->choice().reset();
+    m_form->showName({});
+    m_form->showPasswordText({});
+    m_form->resetFrames();
     backPreviousView();
 }
 
 void WTWiFiListView::next()
 {
     logInfo("next step");
-    if (isWorkingWithPrintType(m_printer->printerType()) || isScanAvaiable()) {
+    const NetworkEntry entry = m_form->entry();
+    switch (entry.next(isWorkingWithPrintType(m_printer->printerType()) || isScanAvaiable())) {
+    case NetworkEntry::Next::PrinterBusy:
         showIsworkingAlert();
         logWarning("printer is busy now");
-        return;
-    }
-    const QString name = m_ssidTextField->text();
-    if (name.isEmpty()) {
+        break;
+    case NetworkEntry::Next::EmptyName:
         logError("ssid is empty");
-        return;
+        break;
+    case NetworkEntry::Next::PasswordTooLong:
+        EntryAlerts::refuseLongPassword(window());
+        break;
+    case NetworkEntry::Next::Go:
+        logInfo("ssid👉🏻%@", entry.name);
+        m_installingView->setPrinter(m_printer);
+        m_installingView->setWifi(entry.network());
+        m_installingView->setProgress(0);
+        pushView(m_installingView);
+        break;
     }
-    const QString password =
-        viewModel()->subString(m_passwordTextField->text(), viewModel()->maxLengthBy(selectedWiFi()->security));
-    if (NetworkRules::isPasswordTooLong(password)) {
-        refuseLongPassword(window());
-        return;
-    }
-    auto wifi = std::make_shared<WTWiFi>();
-    wifi->SSID = name;
-    logInfo("ssid👉🏻%@", wifi->SSID);
-    wifi->password = password;
-    m_installingView->setPrinter(m_printer);
-    m_installingView->setWifi(wifi);
-    m_installingView->setProgress(0);
-    pushView(m_installingView);
+}
+
+// -- declared operations that others carry out ------------------------------------------------------------------------
+
+QString WTWiFiListView::lastPwd() const
+{
+    return m_form->lastPwd();
+}
+
+void WTWiFiListView::controlDidBecomeFirstResponder(WTTextfield *field)
+{
+    m_form->controlDidBecomeFirstResponder(field);
+}
+
+void WTWiFiListView::controlTextDidChange(WTTextfield *field)
+{
+    m_form->controlTextDidChange(field);
+}
+
+void WTWiFiListView::controlTextDidEndEditing(WTTextfield *field)
+{
+    m_form->controlTextDidEndEditing(field);
+}
+
+void WTWiFiListView::showPassword()
+{
+    m_form->showPassword();
+}
+
+bool WTWiFiListView::isWorkingWithPrintType(const QString &printType) const
+{
+    return m_viewModel->isWorkingWithPrintType(printType);
+}
+
+bool WTWiFiListView::isScanAvaiable() const
+{
+    return WTWiFiListViewModel::isScanAvaiable();
 }

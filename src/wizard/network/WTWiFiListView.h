@@ -2,27 +2,26 @@
 
 #include "WTPrinter.h"
 #include "WTView.h"
-#include "WTWiFi.h"
+#include "WTWiFiListViewModel.h"
 
-class FieldFrame;
-class KSPasswordField;
 class LiveLabel;
+class NetworkForm;
 class NetworkRows;
+class QLayout;
 class WTButton;
 class WTDefaultStyleBtn;
 class WTInstallingView;
 class WTListView;
 class WTTextfield;
-class WTWiFiListViewModel;
 
 /// The networks that the computer sees, the joined one first with its stored password, and the fields for name and
-/// password. The fields lead: what they hold is what the printer gets.
+/// password. The printer gets what the fields hold; the list only fills them.
 class WTWiFiListView : public WTView
 {
     Q_OBJECT
 
 public:
-    explicit WTWiFiListView(QWidget *parent = nullptr);
+    explicit WTWiFiListView(const NetworkPorts &ports, QWidget *parent = nullptr);
 
     void setPrinter(const WTPrinterPtr &printer) { m_printer = printer; }
     WTPrinterPtr printer() const { return m_printer; }
@@ -31,12 +30,12 @@ public:
     void awakeFromNib() override;
     void viewDidApear() override;
 
-    WTWiFiListViewModel *viewModel();
-    int selectRow() const { return m_selectRow; }
-    bool editedSSID() const { return m_editedSSID; }
+    WTWiFiListViewModel *viewModel() { return m_viewModel; }
+    int selectRow() const { return m_viewModel->choice().row(); }
+    bool editedSSID() const { return m_viewModel->choice().editedSSID(); }
     bool enableRefresh() const { return m_enableRefresh; }
-    QString lastPwd() const { return m_lastPwd; }
-    std::optional<QString> currentSSID() const { return m_currentSSID; }
+    QString lastPwd() const;
+    std::optional<QString> currentSSID() const { return m_viewModel->currentSSID(); }
     /// The choice, computed on each read into one and the same object: the chosen row, or what the fields hold.
     WTWiFiPtr selectedWiFi();
 
@@ -53,48 +52,39 @@ public:
     void controlTextDidEndEditing(WTTextfield *field);
     void showPassword();
     /// Whether the printer's print queue is busy. Waits for the spooler.
-    bool isWorkingWithPrintType(const QString &printType);
+    bool isWorkingWithPrintType(const QString &printType) const;
     /// Whether a scan job holds the printer.
-    bool isScanAvaiable();
+    bool isScanAvaiable() const;
     void showIsworkingAlert();
     void back();
     void next();
 
 private:
     void layOut();
+    QLayout *makeListColumn();
+    void lookForNetworks(WTWiFiListViewModel::Occasion occasion);
     void startLoading();
     void stopLoading();
     void reloadTable();
-    /// Asks for the permission to look for networks and gives the host 5 seconds of events to answer.
-    void waitForPermission(bool refreshesHostState);
+    void updateFieldsAndNext();
     void showLocationAlert();
     void storedPasswordArrived(const QString &ssid);
-    void resetFieldFrames();
-    /// Below the password: that it is too long for a printer, else that caps lock is on.
-    void showPasswordError();
+    void nameEdited();
+    void logMaximumLength();
 
     WTPrinterPtr m_printer;
     WTInstallingView *m_installingView = nullptr;
-    WTWiFiListViewModel *m_viewModel = nullptr;
-    WTWiFiPtr m_selectedWiFi;
-    int m_selectRow = 0;
-    bool m_editedSSID = false;
-    bool m_passwordTyped = false; ///< Since the fields were filled last.
+    WTWiFiListViewModel *m_viewModel;
     bool m_enableRefresh = true;
     bool m_asksForLocation = false; ///< The location alert is open.
-    bool m_returnsKeyboard = false; ///< The list has the keyboard for the refresh button, which is disabled.
-    QString m_lastPwd;
-    std::optional<QString> m_currentSSID;
+    /// The refresh button gets the keyboard back: it lost it to the list when it was disabled.
+    bool m_returnsKeyboard = false;
 
     NetworkRows *m_rows;
     WTListView *m_wifiListView;
     WTButton *m_updateButton;
     LiveLabel *m_activeView;
-    WTTextfield *m_ssidTextField;
-    KSPasswordField *m_passwordTextField;
-    FieldFrame *m_ssidView;
-    FieldFrame *m_passwordView;
-    WTButton *m_showPwdBtn;
+    NetworkForm *m_form;
     WTDefaultStyleBtn *m_nextBtn;
     WTButton *m_previous;
 };

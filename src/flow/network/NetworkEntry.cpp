@@ -1,0 +1,20 @@
+#include "NetworkEntry.h"
+
+#include "NetworkRules.h"
+
+NetworkEntry::Next NetworkEntry::next(bool printerIsBusy) const
+{
+    if (printerIsBusy)
+        return Next::PrinterBusy;
+    if (name.isEmpty())
+        return Next::EmptyName;
+    return NetworkRules::isPasswordTooLong(NetworkRules::cutPassword(password)) ? Next::PasswordTooLong : Next::Go;
+}
+
+WTWiFiPtr NetworkEntry::network() const
+{
+    auto wifi = std::make_shared<WTWiFi>();
+    wifi->SSID = name;
+    wifi->password = NetworkRules::cutPassword(password);
+    return wifi;
+}

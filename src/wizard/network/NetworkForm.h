@@ -1,0 +1,66 @@
+#pragma once
+
+#include "NetworkEntry.h"
+
+#include <QWidget>
+
+class FieldFrame;
+class KSPasswordField;
+class WTButton;
+class WTTextfield;
+
+/// Name and password of a network in two framed fields, the switch that shows the password, and what is wrong with the
+/// two below them. Cuts and refuses what a field does not take.
+class NetworkForm : public QWidget
+{
+    Q_OBJECT
+
+public:
+    enum class Strength { Hidden, Shown };
+
+    /// @param nameHelp below the name, while nothing is wrong with it.
+    /// @param strength whether the password is rated; the rating has a warning of its own for caps lock.
+    NetworkForm(const QString &nameHelp, const QString &showPwdBtnName, Strength strength, QWidget *parent = nullptr);
+
+    /// Connects the fields and the switch.
+    void awakeFromNib();
+
+    NetworkEntry entry() const;
+    KSPasswordField *passwordField() const { return m_passwordTextField; }
+    /// The password that the field held when it was entered or filled last, or that was accepted since.
+    QString lastPwd() const { return m_lastPwd; }
+
+    void showName(const QString &name);
+    void showPasswordText(const QString &password);
+    /// What is wrong with name and password, in their error lines.
+    void showErrors();
+    /// No frame looks as if its field had the keyboard.
+    void resetFrames();
+    /// The switch is off and the password hidden.
+    void hidePassword();
+    /// Shows or hides the password, as the switch says.
+    void showPassword();
+
+    void controlDidBecomeFirstResponder(WTTextfield *field);
+    void controlTextDidChange(WTTextfield *field);
+    void controlTextDidEndEditing(WTTextfield *field);
+
+Q_SIGNALS:
+    /// The person changed the text; what the field does not take is gone already.
+    void nameEdited();
+    void passwordEdited();
+    /// The keyboard left one of the fields, whose texts are cut now.
+    void editingEnded();
+
+private:
+    void layOut(Strength strength);
+    void showPasswordError();
+
+    WTTextfield *m_ssidTextField;
+    KSPasswordField *m_passwordTextField;
+    FieldFrame *m_ssidView;
+    FieldFrame *m_passwordView;
+    WTButton *m_showPwdBtn;
+    bool m_saysCapsLock;
+    QString m_lastPwd;
+};
