@@ -9,6 +9,7 @@
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace
@@ -57,7 +58,7 @@ std::optional<QString> WTCommand::executeShellScript(const QString &commandLine)
     pid_t child = 0;
     const int failure = pipe.open() ? startShell(commandLine.toUtf8(), pipe.writingEnd.handle(), child) : errno;
     if (failure != 0) {
-        logError("The shell cannot be started: %@", qt_error_string(failure));
+        logError("The shell cannot be started: %@", QString::fromStdString(std::generic_category().message(failure)));
         return std::nullopt;
     }
     pipe.writingEnd.close();

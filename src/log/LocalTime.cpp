@@ -1,47 +1,24 @@
 #include "LocalTime.h"
 
+#include "TextFormat.h"
+
 #include <array>
+#include <ctime>
 
-LocalTime::LocalTime(std::chrono::system_clock::time_point moment)
+using namespace std::chrono;
+
+QString localTimeText(system_clock::time_point moment, const char *strftimeFormat)
 {
-    using namespace std::chrono;
-    const auto wholeSeconds = floor<seconds>(moment);
-    const std::time_t time = system_clock::to_time_t(wholeSeconds);
-    localtime_r(&time, &m_fields);
-    m_millisecond = static_cast<int>(duration_cast<milliseconds>(moment - wholeSeconds).count());
+    const std::time_t time = system_clock::to_time_t(floor<seconds>(moment));
+    std::tm fields{};
+    localtime_r(&time, &fields);
+    std::array<char, 128> text{};
+    const std::size_t length = std::strftime(text.data(), text.size(), strftimeFormat, &fields);
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(length));
 }
 
-QString LocalTime::dateAndTime() const
+QString localTimeInMilliseconds(system_clock::time_point moment)
 {
-    constexpr qsizetype longest = 24;
-    QString text;
-    text.reserve(longest);
-    appendDigits(text, m_fields.tm_year + 1900, 4);
-    text += u'-';
-    appendDigits(text, m_fields.tm_mon + 1, 2);
-    text += u'-';
-    appendDigits(text, m_fields.tm_mday, 2);
-    text += u' ';
-    appendDigits(text, m_fields.tm_hour, 2);
-    text += u':';
-    appendDigits(text, m_fields.tm_min, 2);
-    text += u':';
-    appendDigits(text, m_fields.tm_sec, 2);
-    return text;
-}
-
-QString LocalTime::offset() const
-{
-    std::array<char, 8> text{};
-    return QString::fromLatin1(text.data(),
-                               static_cast<qsizetype>(std::strftime(text.data(), text.size(), "%z", &m_fields)));
-}
-
-void appendDigits(QString &text, int number, int width)
-{
-    int divisor = 1;
-    for (int digit = 1; digit < width; ++digit)
-        divisor *= 10;
-    for (; divisor > 0; divisor /= 10)
-        text += QChar(u'0' + number / divisor % 10);
+    const auto milliseconds = duration_cast<std::chrono::milliseconds>(moment - floor<seconds>(moment));
+    return formatText(u"%@.%03d", {localTimeText(moment, "%Y-%m-%d %H:%M:%S"), milliseconds.count()});
 }

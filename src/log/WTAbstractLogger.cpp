@@ -1,9 +1,8 @@
 #include "WTAbstractLogger.h"
 
 #include "WTLog.h"
+#include "typeName.h"
 
-#include <cxxabi.h>
-#include <typeinfo>
 #include <utility>
 
 void WTAbstractLogger::logMessage(const WTLogMessage & /*message*/) {}
@@ -46,9 +45,7 @@ void WTAbstractLogger::setLoggerQueue(const std::shared_ptr<SerialQueue> &queue)
 
 QString WTAbstractLogger::loggerName() const
 {
-    const std::unique_ptr<char, decltype(&std::free)> name(
-        abi::__cxa_demangle(typeid(*this).name(), nullptr, nullptr, nullptr), &std::free);
-    return QString::fromUtf8(name.get());
+    return typeName(typeid(*this));
 }
 
 bool WTAbstractLogger::isOnGlobalLoggingQueue() const
@@ -66,12 +63,12 @@ std::optional<QString> WTAbstractLogger::textForMessage(const WTLogMessage &mess
     return m_logFormatter ? m_logFormatter->formatLogMessage(message) : message.message();
 }
 
-void WTAbstractLogger::readOnQueues(const std::function<void()> &job) const
+void WTAbstractLogger::readOnQueues(const SerialQueue::Job &job) const
 {
     WTLog::loggingQueue().sync([&] { loggerQueue()->sync(job); });
 }
 
-void WTAbstractLogger::changeOnQueues(std::function<void()> job)
+void WTAbstractLogger::changeOnQueues(SerialQueue::Job job)
 {
     WTLog::loggingQueue().async([self = shared_from_this(), job = std::move(job)]() mutable {
         const auto queue = self->loggerQueue();

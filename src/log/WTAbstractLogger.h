@@ -5,7 +5,6 @@
 #include "WTLogFormatting.h"
 #include "WTLogger.h"
 
-#include <functional>
 #include <memory>
 #include <optional>
 
@@ -37,9 +36,9 @@ protected:
     /// On the logger's queue only.
     std::optional<QString> textForMessage(const WTLogMessage &message) const;
     /// Runs `job` on the logger's queue by way of the logging queue and waits for it: how settings are read.
-    void readOnQueues(const std::function<void()> &job) const;
+    void readOnQueues(const SerialQueue::Job &job) const;
     /// The same without waiting; keeps the logger alive until `job` has run: how settings are changed.
-    void changeOnQueues(std::function<void()> job);
+    void changeOnQueues(SerialQueue::Job job);
 
     /// Touched on the logger's queue only.
     std::shared_ptr<WTLogFormatting> m_logFormatter;

@@ -1,6 +1,7 @@
 #include "WTLog.h"
 
-#include "LiteralText.h"
+#include "GlobalQueue.h"
+#include "ReportDelivery.h"
 #include "WTExceptionHandler.h"
 
 #include <QCoreApplication>
@@ -23,11 +24,6 @@ bool hasOneProcessor()
 {
     static const bool one = QThread::idealThreadCount() < 2;
     return one;
-}
-
-bool admits(const WTLoggerNode &node, const WTLogMessage &message)
-{
-    return (message.flag() & node.level) != 0;
 }
 
 } // namespace
@@ -100,10 +96,10 @@ void WTLog::log(bool asynchronous, quint64 level, quint64 flag, qint64 context, 
 {
     if (!format)
         return;
-    const WTLogMessage::Place place{literalText(file), literalText(function), line};
-    queueLogMessage(
-        WTLogMessage::initWithFormat(literalText(format), args, level, flag, context, place, tag, 0, std::nullopt),
-        asynchronous);
+    const WTLogMessage::Place place{QString::fromUtf8(file), QString::fromUtf8(function), line};
+    queueLogMessage(WTLogMessage::initWithFormat(QString::fromUtf8(format), args, level, flag, context, place, tag, 0,
+                                                 std::nullopt),
+                    asynchronous);
 }
 
 void WTLog::log(bool asynchronous, const WTLogMessage &message)
@@ -122,7 +118,10 @@ void WTLog::queueLogMessage(const WTLogMessage &message, bool asynchronously)
 {
     WTLog &log = sharedInstance();
     if (asynchronously)
-        loggingQueue().async([&log, message = message] { log.lt_log(message); });
+        loggingQueue().async([&log, waiting = std::make_shared<const WTLogMessage>(message)]() mutable {
+            log.lt_log(*waiting);
+            GlobalQueue::async([spent = std::move(waiting)] {});
+        });
     else if (loggingQueue().isCurrent())
         log.lt_log(message);
     else
@@ -180,24 +179,9 @@ void WTLog::setLevel(quint64 level, const QString &forClassWithName)
     setLevel(level, WTLogClass::withName(forClassWithName).value_or(WTLogClass{}));
 }
 
-void WTLog::deliverForStoppedThread(const WTLogMessage &message, qint64 systemThread)
+void WTLog::deliverReport(const WTLogMessage &report, qint64 crashedThread)
 {
-    const auto registrations = sharedInstance().registrations();
-    const auto standsStill = [&](const WTLoggerNode &node) { return node.loggerQueue->runsOnThread(systemThread); };
-    if (!loggingQueue().runsOnThread(systemThread) && std::ranges::none_of(*registrations, standsStill)) {
-        queueLogMessage(message, false);
-        return;
-    }
-    DispatchGroup written;
-    for (const WTLoggerNode &node : *registrations) {
-        if (admits(node, message) && !standsStill(node))
-            node.loggerQueue->async(written, [&] { node.logger->logMessage(message); });
-    }
-    written.wait();
-    for (const WTLoggerNode &node : *registrations) {
-        if (admits(node, message) && standsStill(node))
-            node.logger->logMessage(message);
-    }
+    ReportDelivery::deliver(*sharedInstance().registrations(), report, crashedThread);
 }
 
 void WTLog::lt_addLogger(const LoggerPtr &logger, quint64 level)
@@ -242,22 +226,15 @@ void WTLog::lt_exchange(Registrations changed)
 void WTLog::lt_log(const WTLogMessage &message)
 {
     const auto loggers = registrations();
-    const auto deliver = [&message](const WTLoggerNode &node) {
-        return [&logger = *node.logger, &message] { logger.logMessage(message); };
-    };
-    // This thread waits in any case, so it works for the last logger itself, as a visitor of its queue.
-    const WTLoggerNode *last = nullptr;
     for (const WTLoggerNode &node : *loggers) {
-        if (!admits(node, message))
+        if (!node.admits(message))
             continue;
-        if (last && hasOneProcessor())
-            last->loggerQueue->visit(deliver(*last));
-        else if (last)
-            last->loggerQueue->async(loggingGroup(), deliver(*last));
-        last = &node;
+        const auto deliver = [&logger = *node.logger, &message] { logger.logMessage(message); };
+        if (hasOneProcessor())
+            node.loggerQueue->sync(deliver);
+        else
+            node.loggerQueue->async(loggingGroup(), deliver);
     }
-    if (last)
-        last->loggerQueue->visit(deliver(*last));
     loggingGroup().wait();
 }
 

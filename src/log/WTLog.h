@@ -79,9 +79,9 @@ public:
     static void setLevel(quint64 level, const WTLogClass &forClass);
     static void setLevel(quint64 level, const QString &forClassWithName);
 
-    /// Delivers a message for a thread that is stopped inside a signal handler. Such a thread may be the logging
-    /// queue's or a logger's own; the message then goes round the queue that stands still.
-    static void deliverForStoppedThread(const WTLogMessage &message, qint64 systemThread);
+    /// Hands the report of a crash to every logger, past whatever stands still because of the crash. Returns when they
+    /// have written it. For the reporting thread.
+    static void deliverReport(const WTLogMessage &report, qint64 crashedThread);
 
     WTLog(const WTLog &) = delete;
     WTLog &operator=(const WTLog &) = delete;

@@ -27,20 +27,11 @@ std::optional<QString> markOf(quint64 flag)
     }
 }
 
-QString dateText(WTLogMessage::Date moment)
-{
-    const LocalTime time(moment);
-    QString text = time.dateAndTime();
-    text += u'.';
-    appendDigits(text, time.millisecond(), 3);
-    return text;
-}
-
 } // namespace
 
 std::optional<QString> WTLogFormatter::formatLogMessage(const WTLogMessage &message)
 {
-    const QString date = dateText(message.timestamp());
+    const QString date = localTimeInMilliseconds(message.timestamp());
     const std::optional<QString> mark = markOf(message.flag());
     if (message.flag() == WTLogFlagError || message.flag() == WTLogFlagVerbose)
         return formatText(u"[%@ TID:%6@] %@ <FileName: %@> <Function: %@> <Line: %ld> %@",

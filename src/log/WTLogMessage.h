@@ -3,15 +3,13 @@
 #include "TextFormat.h"
 #include "WTLogFlag.h"
 
-#include <QExplicitlySharedDataPointer>
 #include <QString>
 #include <QVariant>
 #include <array>
 #include <chrono>
 #include <optional>
 
-/// One line of the log, immutable once made; copies share it. Made on the thread that logs, whose facts it keeps; read
-/// on any thread.
+/// One line of the log, immutable once made. Made on the thread that logs, whose facts it keeps; read on any thread.
 class WTLogMessage
 {
 public:
@@ -54,46 +52,43 @@ public:
     /// The same message, said by another thread than the one that made it.
     [[nodiscard]] WTLogMessage spokenBy(const Caller &caller) const;
 
-    const QString &message() const;
-    const QString &messageFormat() const;
-    quint64 level() const;
+    const QString &message() const { return m_message; }
+    const QString &messageFormat() const { return m_messageFormat; }
+    quint64 level() const { return m_level; }
     /// One bit of `WTLogFlag`, though any other value is kept as well.
-    quint64 flag() const;
-    qint64 context() const;
-    const QString &file() const;
+    quint64 flag() const { return m_flag; }
+    qint64 context() const { return m_context; }
+    const QString &file() const { return m_place.file; }
     /// The last path component of `file`, without its last extension.
     QString fileName() const;
-    const QString &function() const;
-    quint64 line() const;
-    const QVariant &tag() const;
-    const QVariant &representedObject() const;
-    quint64 options() const;
-    Date timestamp() const;
+    const QString &function() const { return m_place.function; }
+    quint64 line() const { return m_place.line; }
+    const QVariant &tag() const { return m_tag; }
+    const QVariant &representedObject() const { return m_tag; }
+    quint64 options() const { return m_options; }
+    Date timestamp() const { return m_timestamp; }
     /// The system's thread id as a decimal number, "N/A" when it cannot be read.
     QString threadID() const;
-    QString threadName() const;
-    const QString &queueLabel() const;
-    /// The caller's quality-of-service class: 0 where the system knows none.
-    quint32 qos() const;
+    QString threadName() const { return QString::fromUtf8(m_caller.threadName.data()); }
+    const QString &queueLabel() const { return m_caller.queueLabel; }
+    /// The caller's quality-of-service class: always 0, since the system knows none.
+    quint32 qos() const { return 0; }
 
+    /// The format is not compared: what it was filled to is.
     bool isEqual(const WTLogMessage &other) const;
     size_t hash() const;
 
-    WTLogMessage(const WTLogMessage &other);
-    WTLogMessage(WTLogMessage &&other) noexcept;
-    WTLogMessage &operator=(const WTLogMessage &other);
-    WTLogMessage &operator=(WTLogMessage &&other) noexcept;
-    ~WTLogMessage();
-
 private:
-    struct Fields;
-    class UnusedFields;
-    using SharedFields = QExplicitlySharedDataPointer<Fields>;
+    WTLogMessage() = default;
 
-    explicit WTLogMessage(SharedFields fields);
-    static SharedFields fieldsWith(const QString &format, quint64 level, quint64 flag, qint64 context,
-                                   const Place &place, const QVariant &tag, quint64 options,
-                                   std::optional<Date> timestamp);
-
-    SharedFields m_fields;
+    QString m_message;
+    QString m_messageFormat;
+    quint64 m_level = 0;
+    quint64 m_flag = 0;
+    qint64 m_context = 0;
+    Place m_place;
+    QVariant m_tag;
+    quint64 m_options = 0;
+    Date m_timestamp;
+    Caller m_caller;
 };

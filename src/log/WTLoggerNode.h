@@ -1,6 +1,7 @@
 #pragma once
 
 #include "SerialQueue.h"
+#include "WTLogMessage.h"
 #include "WTLogger.h"
 
 #include <memory>
@@ -18,4 +19,6 @@ struct WTLoggerNode {
     {
         return {logger, level, loggerQueue};
     }
+
+    bool admits(const WTLogMessage &message) const { return (message.flag() & level) != 0; }
 };

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "Job.h"
-
 #include <QString>
 #include <atomic>
 #include <functional>
@@ -20,13 +18,14 @@ private:
     std::atomic<int> m_count = 0;
 };
 
-/// Runs jobs one after the other, in the order they were given: on a thread of its own, or, where someone waits for a
-/// job and nothing is ahead of it, on the thread that waits. All operations may be called on any thread. The destructor
-/// runs what is still queued and then ends the thread; a queue may be destroyed on itself, it then ends behind the
-/// running job.
+/// Runs jobs one after the other, in the order they were given, on a thread of its own. All operations may be called on
+/// any thread. The destructor runs what is still queued and then ends the thread; a queue may be destroyed on itself,
+/// it then ends behind the running job.
 class SerialQueue
 {
 public:
+    using Job = std::function<void()>;
+
     explicit SerialQueue(const QString &label = {});
     ~SerialQueue();
     SerialQueue(const SerialQueue &) = delete;
@@ -34,20 +33,21 @@ public:
 
     QString label() const;
     void async(Job job);
-    /// The same, as part of a group: entered now, left when the job has run.
+    /// The same, as part of a group: entered now, left when the job has run and what it holds is gone.
     void async(DispatchGroup &group, Job job);
     /// Blocks until `job` has run. Must not be called on the queue itself.
-    void sync(const std::function<void()> &job);
-    /// The same, but an idle queue lends itself to the calling thread, which then runs the job without a change of
-    /// threads.
-    void visit(const std::function<void()> &job);
+    void sync(const Job &job);
     bool isCurrent() const;
-    /// Whether the thread with this system identifier (gettid) is the queue's own, or runs a job of the queue.
+    /// Whether the thread with this system identifier (gettid) is the queue's own.
     bool runsOnThread(qint64 systemThread) const;
+    /// How many jobs have run: a number that stays the same says that the queue is idle or stands still.
+    quint64 jobsRun() const;
     /// The label of the queue whose job the caller runs, "main" on the main thread of the application, else empty.
     static QString currentLabel();
 
 private:
     struct State;
-    std::shared_ptr<State> m_state;
+    void submit(Job &&job, DispatchGroup *group);
+
+    const std::shared_ptr<State> m_state;
 };

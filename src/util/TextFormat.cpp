@@ -174,14 +174,7 @@ qint64 FormatArgument::number() const
 
 QString formatText(QStringView format, std::initializer_list<FormatArgument> arguments)
 {
-    QString text;
-    appendFormatted(text, format, arguments);
-    return text;
-}
-
-void appendFormatted(QString &text, QStringView format, std::initializer_list<FormatArgument> arguments)
-{
-    static const FormatArgument absent(std::nullopt);
+    const FormatArgument absent(std::nullopt);
     Line line;
     const FormatArgument *argument = arguments.begin();
     for (qsizetype position = 0; position < format.size();) {
@@ -201,7 +194,7 @@ void appendFormatted(QString &text, QStringView format, std::initializer_list<Fo
             line.append(percent, format.begin() + position - percent);
         }
     }
-    text.append(line.constData(), line.size());
+    return QString(line.constData(), line.size());
 }
 
 QString describeBytes(const QByteArray &bytes)

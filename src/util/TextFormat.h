@@ -48,8 +48,6 @@ private:
 /// (`%6@`); `%s` as `%@`; `%%` a per cent sign. A placeholder without an argument prints as "(null)", a text in a
 /// numeric placeholder as itself, and anything else after a per cent sign stays as it stands.
 QString formatText(QStringView format, std::initializer_list<FormatArgument> arguments);
-/// The same, at the end of `text`.
-void appendFormatted(QString &text, QStringView format, std::initializer_list<FormatArgument> arguments);
 
 template <typename... Arguments>
 QString formatText(const char *utf8Format, const Arguments &...arguments)

@@ -25,6 +25,7 @@ End dies(int signal)
 }
 
 constexpr int patience = 30'000;
+constexpr int linesBeforeHeapCrash = 200;
 
 /// Sanitizers stop a program at its first real fault, before any signal.
 constexpr bool faultsReachTheProgram =
@@ -46,6 +47,8 @@ class CrashCaptureTest : public QObject
 private Q_SLOTS:
     void reports_data();
     void reports();
+    void reportsAFaultInsideTheAllocator_data();
+    void reportsAFaultInsideTheAllocator();
     void leavesTheReportInTheLogFile_data();
     void leavesTheReportInTheLogFile();
     void flushesAtTheEnd_data();
@@ -106,6 +109,7 @@ void CrashCaptureTest::reports_data()
     row("QUIT", "main", "Signal SIGQUIT was raised!\n", 1, carriesOn);
     row("ALRM", "main", "Signal SIGALRM was raised!\n", 1, carriesOn);
     row("TRAP", "main", "Signal 5 was raised!", 1, carriesOn);
+    row("fatal-error-of-glib", "main", "Signal 5 was raised!", 1, dies(SIGABRT));
     row("abort", "main", "Signal SIGABRT was raised!\n", 1, dies(SIGABRT));
     row("exception", "main", "out of paper", 1, dies(SIGABRT));
     row("exception", "thread", "out of paper", 1, dies(SIGABRT));
@@ -118,6 +122,7 @@ void CrashCaptureTest::reports_data()
         row("stack-overflow", "main", "Signal SIGSEGV was raised!\n", 1, endsWell);
         row("stack-overflow", "logging-queue", "Signal SIGSEGV was raised!\n", 1, endsWell);
         row("stack-overflow", "logger-queue", "Signal SIGSEGV was raised!\n", 1, endsWell);
+        row("stack-overflow", "event-thread", "Signal SIGSEGV was raised!\n", 1, endsWell);
         row("divide-by-zero", "main", "Signal SIGFPE was raised!\n", 1, dies(SIGFPE));
         row("illegal-instruction", "thread", "Signal SIGILL was raised!\n", 1, dies(SIGILL));
         row("beyond-the-file", "main", "Signal SIGBUS was raised!\n", 1, dies(SIGBUS));
@@ -147,6 +152,31 @@ void CrashCaptureTest::reports()
     QVERIFY2(m_output.contains(u"\n\nReason: "_s + reason + u"\n\nProcess: "_s), qPrintable(m_output));
     if (state == u"main")
         QVERIFY2(m_output.contains(u" TID:%1] ❌"_s.arg(m_process, 6)), "the report names the thread that crashed");
+}
+
+void CrashCaptureTest::reportsAFaultInsideTheAllocator_data()
+{
+    QTest::addColumn<QString>("state");
+    for (const char *state : {"main", "thread", "logger-queue", "logging-queue", "crowd"}) {
+        for (const char *crash : {"small-block-used-after-free", "large-block-used-after-free", "overflow-into-top",
+                                  "overflow-into-next", "freed-twice"})
+            QTest::addRow("%s, %s", crash, state) << QString::fromLatin1(state);
+    }
+    QTest::newRow("arena-held-by-another-thread, main") << u"main"_s;
+}
+
+void CrashCaptureTest::reportsAFaultInsideTheAllocator()
+{
+    QFETCH(QString, state);
+    if (!faultsReachTheProgram)
+        QSKIP("the sanitizer has an allocator of its own");
+    const QString crash = QString::fromLatin1(QTest::currentDataTag()).section(u',', 0, 0);
+    const End seen = run(crash, state);
+    // What the allocator notices it aborts, and what it does not is a segmentation fault.
+    QVERIFY2(seen == dies(SIGABRT) || seen == endsWell, qPrintable(m_output));
+    QVERIFY2(m_output.contains(u"[ Fe Symbols End ]"_s), qPrintable(m_output));
+    if (state == u"main")
+        QCOMPARE(m_output.count(u" xxx"_s), linesBeforeHeapCrash);
 }
 
 void CrashCaptureTest::leavesTheReportInTheLogFile_data()

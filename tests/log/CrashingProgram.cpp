@@ -2,6 +2,8 @@
 // Every line of its log goes to standard output, and to a log file in FOLDER. A program that outlives its crash says so
 // and ends with status 7.
 
+#include "DescriptorSource.h"
+#include "HeapCrashes.h"
 #include "Log.h"
 #include "WTAbstractLogger.h"
 #include "WTFileLogger.h"
@@ -9,18 +11,22 @@
 #include "WTLogFormatter.h"
 
 #include <QCoreApplication>
+#include <barrier>
 #include <csignal>
 #include <cstdio>
 #include <functional>
+#include <glib.h>
 #include <map>
 #include <mutex>
 #include <optional>
 #include <semaphore>
 #include <stdexcept>
 #include <string>
+#include <sys/eventfd.h>
 #include <sys/mman.h>
 #include <thread>
 #include <unistd.h>
+#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -92,6 +98,7 @@ const std::map<std::string, std::function<void()>> crashes{
     {"illegal-instruction", [] { __builtin_trap(); }},
     {"beyond-the-file", touchBeyondTheFile},
     {"stack-overflow", [] { overflowStack(0); }},
+    {"fatal-error-of-glib", [] { g_error("the paper has no tray"); }},
     {"exception", [] { throw std::runtime_error("out of paper"); }},
     {"exception-without-text", [] { throw 5; }},
     {"exception-that-names-SIGSEGV", [] { throw std::runtime_error("saw SIGSEGV"); }},
@@ -104,13 +111,30 @@ const std::map<std::string, std::function<void()>> crashes{
     {"hang", [] { std::binary_semaphore(0).acquire(); }},
 };
 
+/// More threads than the allocator has arenas by itself, all of which crash at once.
+void crashOnManyThreads(const std::function<void()> &crash)
+{
+    constexpr int count = 40;
+    std::barrier together(count);
+    std::vector<std::thread> threads;
+    for (int thread = 0; thread < count; ++thread) {
+        threads.emplace_back([&] {
+            together.arrive_and_wait();
+            crash();
+        });
+    }
+    for (std::thread &thread : threads)
+        thread.join();
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
     if (argc < 3)
         return 2;
-    const auto crash = crashes.at(argv[1]);
+    const auto heapCrash = heapCrashes.find(argv[1]);
+    const auto crash = heapCrash != heapCrashes.end() ? heapCrash->second : crashes.at(argv[1]);
     const std::string state = argv[2];
     std::optional<QCoreApplication> application;
     if (state == "application")
@@ -137,6 +161,12 @@ int main(int argc, char *argv[])
         return QCoreApplication::exec();
     } else if (state == "thread") {
         std::thread(crash).join();
+    } else if (state == "crowd") {
+        crashOnManyThreads(crash);
+    } else if (state == "event-thread") {
+        const DescriptorSource source(
+            FileDescriptor(eventfd(1, 0)), [&](int) { return crash(), false; }, std::make_shared<SerialQueue>(), [] {});
+        pause();
     } else if (state == "logging-queue") {
         WTLog::loggingQueue().sync(crash);
     } else if (state == "logger-queue") {

@@ -3,7 +3,6 @@
 
 #include <QSemaphore>
 #include <QTest>
-#include <algorithm>
 #include <thread>
 #include <unistd.h>
 #include <vector>
@@ -19,8 +18,6 @@ private Q_SLOTS:
     void runsWhatIsQueuedBeforeItEnds();
     void survivesItsEndOnItself();
     void knowsWhereItRuns();
-    void lendsItselfToAVisitor();
-    void growsAndShrinksByBlocks();
     void waitsForAGroupOverSeveralQueues();
     void queuesForTheMainThread();
     void dropsTheActionOfAGoneListener();
@@ -81,51 +78,6 @@ void SerialQueueTest::knowsWhereItRuns()
         QCOMPARE(SerialQueue::currentLabel(), queue.label());
     });
     std::thread([] { QCOMPARE(SerialQueue::currentLabel(), QString()); }).join();
-}
-
-void SerialQueueTest::lendsItselfToAVisitor()
-{
-    SerialQueue queue(u"visited"_s);
-    queue.sync([] {});
-    QSemaphore mayRun;
-    QString order;
-    qint64 thread = 0;
-    QTRY_VERIFY((queue.visit([&] { thread = gettid(); }), thread == gettid()));
-    queue.visit([&] {
-        QVERIFY(queue.isCurrent() && queue.runsOnThread(gettid()));
-        QCOMPARE(SerialQueue::currentLabel(), u"visited"_s);
-        queue.async([&] { order += u'b'; });
-        order += u'a';
-    });
-    QVERIFY(!queue.isCurrent() && !queue.runsOnThread(gettid()));
-
-    // With work ahead of it, a visitor waits for its turn.
-    queue.async([&] {
-        mayRun.acquire();
-        order += u'c';
-    });
-    std::thread opener([&] { mayRun.release(); });
-    queue.visit([&] { order += u'd'; });
-    opener.join();
-    QCOMPARE(order, u"abcd"_s);
-}
-
-void SerialQueueTest::growsAndShrinksByBlocks()
-{
-    constexpr int jobs = 20000;
-    SerialQueue queue;
-    std::vector<int> ran;
-    for (int round = 0; round < 3; ++round) {
-        QSemaphore mayRun;
-        queue.async([&] { mayRun.acquire(); });
-        ran.clear();
-        for (int job = 0; job < jobs; ++job)
-            queue.async([&ran, job, alive = std::make_unique<int>(job)] { ran.push_back(*alive == job ? job : -1); });
-        mayRun.release();
-        queue.sync([] {});
-        QCOMPARE(ran.size(), size_t{jobs});
-        QVERIFY(std::ranges::is_sorted(ran) && ran.front() == 0);
-    }
 }
 
 void SerialQueueTest::waitsForAGroupOverSeveralQueues()

@@ -93,9 +93,5 @@ QString crashReportText(const Crash &crash, std::chrono::system_clock::time_poin
 
 QString crashReportDate(std::chrono::system_clock::time_point moment)
 {
-    const LocalTime time(moment);
-    QString text = time.dateAndTime();
-    text += u'.';
-    appendDigits(text, time.second(), 3);
-    return text + u' ' + time.offset();
+    return localTimeText(moment, "%Y-%m-%d %H:%M:%S.0%S %z");
 }

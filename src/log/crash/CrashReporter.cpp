@@ -7,6 +7,7 @@
 #include <chrono>
 #include <csignal>
 #include <ctime>
+#include <malloc.h>
 #include <pthread.h>
 #include <semaphore.h>
 #include <thread>
@@ -50,7 +51,7 @@ void writeReport(const Crash &crash)
     const auto message = WTLogMessage::initWithFormat(u"崩溃信息：%@"_s, {FormatArgument(report)}, WTLogLevelAll,
                                                       WTLogFlagError, 0, place, {}, 0, std::nullopt);
     const WTLogMessage::Caller caller{crash.systemThread, crash.threadName, crash.queueLabel};
-    WTLog::deliverForStoppedThread(message.spokenBy(caller), crash.systemThread);
+    WTLog::deliverReport(message.spokenBy(caller), crash.systemThread);
 }
 
 void reportForEver()
@@ -67,6 +68,13 @@ void reportForEver()
         writeReport(crash);
         box.reported = number;
     }
+}
+
+/// Lets the allocator give every thread an arena of its own, however many there are, where it would let them share.
+void keepArenasApart()
+{
+    constexpr int mostThreads = 1000;
+    mallopt(M_ARENA_MAX, mostThreads);
 }
 
 /// Looks at `condition` every millisecond until it holds or the deadline has passed.
@@ -89,6 +97,7 @@ namespace CrashReporter
 
 void start()
 {
+    keepArenasApart();
     sem_init(&mailbox().filled, 0, 0);
     // The thread inherits a mask that blocks every signal: it is for those of the others.
     sigset_t all;

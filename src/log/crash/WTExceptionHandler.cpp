@@ -4,6 +4,7 @@
 #include "CrashReport.h"
 #include "CrashReporter.h"
 #include "SignalReason.h"
+#include "typeName.h"
 
 #include <algorithm>
 #include <array>
@@ -13,8 +14,6 @@
 #include <cxxabi.h>
 #include <exception>
 #include <execinfo.h>
-#include <memory>
-#include <typeinfo>
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -31,12 +30,17 @@ struct Fault {
 
 thread_local Fault lastFault;
 
-/// Whether the system raised the signal because of the instruction that the thread is to repeat now. A trap is over
-/// when it is reported, and what another process sends is no fault.
+/// Whether an instruction of the thread caused the signal; nobody sent it.
+bool comesFromInstruction(const siginfo_t &info)
+{
+    return info.si_code > 0;
+}
+
+/// Whether the system will repeat the instruction that caused the signal.
 bool comesFromRepeatedInstruction(int signal, const siginfo_t &info)
 {
     constexpr std::array faults{SIGFPE, SIGILL, SIGBUS};
-    return info.si_code > 0 && std::ranges::find(faults, signal) != faults.end();
+    return comesFromInstruction(info) && std::ranges::find(faults, signal) != faults.end();
 }
 
 void restoreDefaultAction(int signal)
@@ -45,6 +49,12 @@ void restoreDefaultAction(int signal)
     };
     action.sa_handler = SIG_DFL;
     sigaction(signal, &action, nullptr);
+}
+
+[[noreturn]] void abortWithoutReport()
+{
+    restoreDefaultAction(SIGABRT);
+    std::abort();
 }
 
 void handleSignal(int signal, siginfo_t *info, void * /*context*/)
@@ -63,14 +73,9 @@ void handleSignal(int signal, siginfo_t *info, void * /*context*/)
     CrashReporter::report(crash);
     if (signal == SIGSEGV)
         _exit(EXIT_SUCCESS);
+    if (signal == SIGTRAP && comesFromInstruction(*info))
+        abortWithoutReport();
     errno = savedError;
-}
-
-QString demangled(const std::type_info &type)
-{
-    const std::unique_ptr<char, decltype(&std::free)> name(abi::__cxa_demangle(type.name(), nullptr, nullptr, nullptr),
-                                                           &std::free);
-    return QString::fromUtf8(name ? name.get() : type.name());
 }
 
 QString reasonOfCurrentException()
@@ -90,14 +95,12 @@ QString reasonOfCurrentException()
 {
     Crash crash = Crash::ofCurrentThread();
     const std::type_info *type = abi::__cxa_current_exception_type();
-    crash.exceptionName = type ? demangled(*type) : u"std::terminate"_s;
+    crash.exceptionName = type ? typeName(*type) : u"std::terminate"_s;
     crash.exceptionReason = reasonOfCurrentException();
     CrashReporter::report(crash);
     if (crash.exceptionReason.contains(u"SIGSEGV"_s))
         std::_Exit(EXIT_SUCCESS);
-    // The exception has had its report, so the abort that ends the process gets none.
-    restoreDefaultAction(SIGABRT);
-    std::abort();
+    abortWithoutReport();
 }
 
 /// Every other thread of the program has its own for as long as it runs.

@@ -6,8 +6,9 @@
 /// logger before the process goes on or ends.
 ///
 /// After a report: SIGSEGV ends the process with status 0, an exception aborts it, and after any other signal the
-/// process carries on. An instruction that then faults again ends the process by the signal's default action, without
-/// another report, so that no fault can fill the disk.
+/// process carries on, with two exceptions. An instruction that then faults again ends the process by the signal's
+/// default action, without another report, so that no fault can fill the disk. A breakpoint instruction aborts the
+/// process: libraries end a program with one, and count on not coming back (GLib then waits in an endless loop).
 class WTExceptionHandler
 {
 public:

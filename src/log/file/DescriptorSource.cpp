@@ -1,5 +1,7 @@
 #include "DescriptorSource.h"
 
+#include "AlternateSignalStack.h"
+
 #include <array>
 #include <map>
 #include <mutex>
@@ -17,16 +19,15 @@ public:
         return *thread;
     }
 
-    quint64 add(const DescriptorSource &source)
+    void add(DescriptorSource &source)
     {
         const std::lock_guard lock(m_mutex);
-        const quint64 identifier = ++m_lastIdentifier;
-        m_sources.emplace(identifier, &source);
+        source.m_identifier = ++m_lastIdentifier;
+        m_sources.emplace(source.m_identifier, &source);
         epoll_event event{};
         event.events = EPOLLIN;
-        event.data.u64 = identifier;
-        epoll_ctl(m_epoll.get(), EPOLL_CTL_ADD, source.m_descriptor.get(), &event);
-        return identifier;
+        event.data.u64 = source.m_identifier;
+        source.m_isWaiting = epoll_ctl(m_epoll.get(), EPOLL_CTL_ADD, source.m_descriptor.get(), &event) == 0;
     }
 
     /// The source is not called any more once this has returned.
@@ -47,6 +48,7 @@ private:
 
     [[noreturn]] void run()
     {
+        const AlternateSignalStack signalStack;
         pthread_setname_np(pthread_self(), "log-file-events");
         std::array<epoll_event, 8> events;
         for (;;) {
@@ -76,7 +78,7 @@ DescriptorSource::DescriptorSource(FileDescriptor descriptor, Reader reader, std
     , m_queue(std::move(queue))
     , m_action(std::make_shared<const Action>(std::move(action)))
 {
-    m_identifier = WaitingThread::shared().add(*this);
+    WaitingThread::shared().add(*this);
 }
 
 DescriptorSource::~DescriptorSource()

@@ -18,6 +18,8 @@ public:
 
     DescriptorSource(FileDescriptor descriptor, Reader reader, std::shared_ptr<SerialQueue> queue, Action action);
     ~DescriptorSource();
+    /// False for a descriptor that is not open or cannot be waited for; the action then never runs.
+    bool isWaiting() const { return m_isWaiting; }
     DescriptorSource(const DescriptorSource &) = delete;
     DescriptorSource &operator=(const DescriptorSource &) = delete;
 
@@ -31,4 +33,5 @@ private:
     /// Shared, so that an action on its way can tell whether the source is still there.
     const std::shared_ptr<const Action> m_action;
     quint64 m_identifier = 0;
+    bool m_isWaiting = false;
 };

@@ -1,25 +1,15 @@
 #include "LogFileHandle.h"
 
 #include <QFile>
-#include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 FileError LogFileHandle::open(const QString &path)
 {
     m_path = path;
     m_ownEnd = 0;
-    // Not blocking, since opening a pipe that bears a log file's name would wait for a reader.
-    FileDescriptor file(::open(QFile::encodeName(path), O_RDWR | O_APPEND | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    struct stat status {
-    };
-    if (!file.isOpen() || fstat(file.get(), &status) != 0)
-        return error();
-    if (!S_ISREG(status.st_mode))
-        return {EINVAL, path};
-    m_file = std::move(file);
-    return {};
+    m_file = FileDescriptor::ofRegularFile(path, O_RDWR | O_APPEND);
+    return m_file.isOpen() ? FileError{} : error();
 }
 
 FileError LogFileHandle::seekToEnd()
@@ -38,21 +28,15 @@ bool LogFileHandle::endsInTornLine() const
 
 FileError LogFileHandle::write(QByteArrayView bytes)
 {
-    const off_t newEnd = m_end + bytes.size();
-    while (!bytes.isEmpty()) {
-        const ssize_t written = ::write(m_file.get(), bytes.data(), static_cast<std::size_t>(bytes.size()));
-        if (written < 0 && errno != EINTR) {
-            FileError failure = error();
-            // A torn line would run into the next one.
-            if (ftruncate(m_file.get(), m_end) == 0)
-                lseek(m_file.get(), m_end, SEEK_SET);
-            return failure;
-        }
-        if (written > 0)
-            bytes = bytes.sliced(written);
+    if (m_file.writeAll(bytes)) {
+        m_ownEnd = m_end + bytes.size();
+        return {};
     }
-    m_ownEnd = newEnd;
-    return {};
+    FileError failure = error();
+    // A torn line would run into the next one.
+    if (ftruncate(m_file.get(), m_end) == 0)
+        lseek(m_file.get(), m_end, SEEK_SET);
+    return failure;
 }
 
 FileError LogFileHandle::readOffset(quint64 &offset) const
@@ -62,6 +46,16 @@ FileError LogFileHandle::readOffset(quint64 &offset) const
         return error();
     offset = static_cast<quint64>(position);
     return {};
+}
+
+bool LogFileHandle::isGone() const
+{
+    struct stat open {
+    };
+    struct stat found {
+    };
+    const bool isThere = fstat(m_file.get(), &open) == 0 && lstat(QFile::encodeName(m_path), &found) == 0;
+    return !isThere || open.st_dev != found.st_dev || open.st_ino != found.st_ino;
 }
 
 FileError LogFileHandle::synchronize()

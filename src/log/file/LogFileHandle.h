@@ -22,6 +22,8 @@ public:
     /// At the position that `seekToEnd` found: all the bytes or none.
     FileError write(QByteArrayView bytes);
     FileError readOffset(quint64 &offset) const;
+    /// Whether the file was deleted or moved away, or another one has its path by now.
+    bool isGone() const;
     FileError synchronize();
     /// The handle is closed afterwards, whatever the answer.
     FileError close();

@@ -1,6 +1,7 @@
 #include "LogFileNameDate.h"
 
-#include <QRegularExpression>
+#include "LocalTime.h"
+
 #include <ctime>
 #include <optional>
 
@@ -13,14 +14,16 @@ namespace
 std::optional<int> secondsOfOffset(const QString &zone)
 {
     constexpr int most = 14 * 60 * 60;
-    static const QRegularExpression pattern(u"\\A([+-])(\\d\\d):?([0-5]\\d)?\\z"_s);
-    const QRegularExpressionMatch match = pattern.match(zone);
-    if (!match.hasMatch())
+    QString digits = zone.sliced(1);
+    if (digits.size() == 5 && digits[2] == u':')
+        digits.remove(2, 1);
+    if (digits.size() == 2)
+        digits += u"00"_s;
+    const QTime offset = QTime::fromString(digits, u"hhmm"_s);
+    const int seconds = offset.msecsSinceStartOfDay() / 1000;
+    if ((zone[0] != u'+' && zone[0] != u'-') || digits.size() != 4 || !offset.isValid() || seconds > most)
         return std::nullopt;
-    const int seconds = (match.capturedView(2).toInt() * 60 + match.capturedView(3).toInt()) * 60;
-    if (seconds > most)
-        return std::nullopt;
-    return match.capturedView(1) == u'-' ? -seconds : seconds;
+    return zone[0] == u'-' ? -seconds : seconds;
 }
 
 /// Local time whose abbreviation says whether daylight-saving time was in force, which settles the hour that occurs
@@ -42,23 +45,21 @@ QDateTime localDateTime(const QDate &date, const QTime &time, bool isDaylightSav
 
 QString LogFileNameDate::text(const QDateTime &date)
 {
-    const std::time_t seconds = date.toSecsSinceEpoch();
-    std::tm parts{};
-    localtime_r(&seconds, &parts);
-    char name[128];
-    const std::size_t length = std::strftime(name, sizeof name, "%Y-%m-%d--%H-%M-%S-%Z", &parts);
-    return QString::fromUtf8(name, static_cast<qsizetype>(length));
+    const auto sinceEpoch = std::chrono::milliseconds(date.toMSecsSinceEpoch());
+    return localTimeText(std::chrono::system_clock::time_point(sinceEpoch), "%Y-%m-%d--%H-%M-%S-%Z");
 }
 
+// Without a regular expression: a static one would be gone before the threads that list files while the process ends.
 QDateTime LogFileNameDate::parse(const QString &text)
 {
-    static const QRegularExpression pattern(u"\\A(\\d{4}-\\d\\d-\\d\\d)--(\\d\\d-\\d\\d-\\d\\d)-(.+)\\z"_s);
-    const QRegularExpressionMatch match = pattern.match(text);
-    const QDate date = QDate::fromString(match.captured(1), u"yyyy-MM-dd"_s);
-    const QTime time = QTime::fromString(match.captured(2), u"HH-mm-ss"_s);
+    constexpr qsizetype datePlace = 0, timePlace = 12, zonePlace = 21;
+    if (text.size() <= zonePlace || text.sliced(10, 2) != u"--"_s || text[zonePlace - 1] != u'-')
+        return {};
+    const QDate date = QDate::fromString(text.sliced(datePlace, 10), u"yyyy-MM-dd"_s);
+    const QTime time = QTime::fromString(text.sliced(timePlace, 8), u"HH-mm-ss"_s);
     if (!date.isValid() || !time.isValid())
         return {};
-    const QString zone = match.captured(3);
+    const QString zone = text.sliced(zonePlace);
     if (zone == u"UTC"_s)
         return QDateTime(date, time, Qt::UTC);
     if (const std::optional<int> seconds = secondsOfOffset(zone))

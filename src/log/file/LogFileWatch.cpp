@@ -15,7 +15,8 @@ FileDescriptor inotifyFor(int logFile)
 {
     FileDescriptor inotify(inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
     const std::string path = "/proc/self/fd/" + std::to_string(logFile);
-    inotify_add_watch(inotify.get(), path.c_str(), IN_MOVE_SELF | IN_ATTRIB);
+    if (inotify_add_watch(inotify.get(), path.c_str(), IN_MOVE_SELF | IN_ATTRIB) < 0)
+        return {};
     return inotify;
 }
 

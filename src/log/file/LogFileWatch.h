@@ -6,6 +6,9 @@
 class LogFileWatch
 {
 public:
+    /// False when the system has no more watches to give.
+    bool isWatching() const { return m_source.isWaiting(); }
+
     LogFileWatch(int logFile, std::shared_ptr<SerialQueue> queue, DescriptorSource::Action onGone);
 
 private:

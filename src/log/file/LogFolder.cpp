@@ -25,16 +25,41 @@ QString folderFromEnvironment(const char *variable)
     return QDir::isAbsolutePath(folder) ? folder : QString();
 }
 
+/// Empty without a home.
 QString stateFolder()
 {
     if (QString folder = folderFromEnvironment("XDG_STATE_HOME"); !folder.isEmpty())
         return folder;
     if (const QString home = folderFromEnvironment("HOME"); !home.isEmpty())
         return home + u"/.local/state"_s;
-    return QDir::tempPath();
+    return {};
 }
 
-/// A file under a passing name; a further name that it was given by then keeps it alive.
+/// Whether the path is a folder itself, not a link to one, that belongs to the user and that nobody else may write to.
+bool isOursAlone(const QString &path)
+{
+    struct stat status {
+    };
+    return lstat(QFile::encodeName(path), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == geteuid() &&
+           (status.st_mode & (S_IWGRP | S_IWOTH)) == 0;
+}
+
+/// "Logs" in the temporary folder. Others may write there as well and may have made it beforehand, to read the log or
+/// to lead it elsewhere: the process then gets a new folder, which bears a name that nobody can know ahead.
+QString temporaryLogs()
+{
+    const QString usual = QDir::tempPath() + u"/Logs"_s;
+    mkdir(QFile::encodeName(usual), userOnlyFolder);
+    if (isOursAlone(usual))
+        return usual;
+    static const auto *const own = new QString([] {
+        QByteArray name = QFile::encodeName(QDir::tempPath() + u"/Logs.XXXXXX"_s);
+        return mkdtemp(name.data()) ? QFile::decodeName(name) : QString();
+    }());
+    return *own;
+}
+
+/// A file under a name that it loses with this object. It stays, if it was given another name by then.
 class TemporaryFile
 {
 public:
@@ -53,7 +78,7 @@ public:
             unlink(m_name);
     }
 
-    int descriptor() const { return m_descriptor.get(); }
+    const FileDescriptor &descriptor() const { return m_descriptor; }
     const char *name() const { return m_name.constData(); }
 
 private:
@@ -61,25 +86,11 @@ private:
     FileDescriptor m_descriptor;
 };
 
-/// False, with errno set, as soon as a byte cannot be written.
-bool writeAll(int descriptor, QByteArrayView bytes)
-{
-    while (!bytes.isEmpty()) {
-        const ssize_t written = ::write(descriptor, bytes.data(), static_cast<std::size_t>(bytes.size()));
-        if (written < 0 && errno != EINTR)
-            return false;
-        if (written > 0)
-            bytes = bytes.sliced(written);
-    }
-    return true;
-}
-
-/// For file systems without hard links, such as FAT: the file is there a moment before its contents.
+/// For file systems without hard links, such as FAT. For a moment the file is there without its contents.
 FileError createFileInPlace(const QString &path, const QByteArray &contents)
 {
-    constexpr mode_t userOnlyFile = 0600;
-    const FileDescriptor file(::open(QFile::encodeName(path), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, userOnlyFile));
-    const bool isWritten = file.isOpen() && writeAll(file.get(), contents);
+    const FileDescriptor file = FileDescriptor::ofRegularFile(path, O_WRONLY | O_CREAT | O_EXCL);
+    const bool isWritten = file.isOpen() && file.writeAll(contents);
     return isWritten ? FileError{} : FileError::ofLastCall(path);
 }
 
@@ -92,7 +103,8 @@ QString LogFolder::processName()
 
 QString LogFolder::defaultPath()
 {
-    return stateFolder() + u"/Logs/"_s + processName();
+    const QString state = stateFolder();
+    return (state.isEmpty() ? temporaryLogs() : state + u"/Logs"_s) + u'/' + processName();
 }
 
 FileError LogFolder::create(const QString &path)
@@ -124,7 +136,7 @@ QStringList LogFolder::entries(const QString &path)
 FileError LogFolder::createFile(const QString &path, const QByteArray &contents)
 {
     const TemporaryFile file(path);
-    if (file.descriptor() < 0 || !writeAll(file.descriptor(), contents))
+    if (!file.descriptor().isOpen() || !file.descriptor().writeAll(contents))
         return FileError::ofLastCall(path);
     if (link(file.name(), QFile::encodeName(path)) == 0)
         return {};

@@ -11,8 +11,9 @@ namespace LogFolder
 /// The name of the running executable.
 QString processName();
 
-/// "Logs" and the process's name in the folder of the user's state: $XDG_STATE_HOME, else ~/.local/state; the temporary
-/// folder without a home.
+/// "Logs" and the process's name in the folder of the user's state: $XDG_STATE_HOME, else ~/.local/state. Without a
+/// home in the temporary folder, where "Logs" is made for the user alone, under another name when somebody else might
+/// write to it.
 QString defaultPath();
 
 /// Makes the folder and those above it that are missing, all for the user alone.

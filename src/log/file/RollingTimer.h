@@ -6,6 +6,9 @@
 class RollingTimer
 {
 public:
+    /// False when the system has no more timers to give.
+    bool isRunning() const { return m_source.isWaiting(); }
+
     /// `interval` is in seconds from now; at most 9223372036 count.
     RollingTimer(double interval, std::shared_ptr<SerialQueue> queue, DescriptorSource::Action onDue);
 

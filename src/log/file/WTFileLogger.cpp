@@ -16,7 +16,7 @@ namespace
 
 constexpr QLatin1StringView fileLoggerName("com.wtlog.fileLogger");
 
-/// One for the process: a logger that fails at every line must not fill the console.
+/// Counts for the whole process, so that a logger that fails at every line does not fill the console.
 void reportException(const QString &what)
 {
     constexpr int mostReports = 10;
@@ -28,8 +28,8 @@ void reportException(const QString &what)
         LogConsole::report("WTFileLogger.logMessage: Too many exceptions -- will not log any more of them.");
 }
 
-/// `endsTornLine`: what a killed writer left of a line gets its line end first. The error tells that nothing was tried
-/// to be written.
+/// Behind whatever the file holds by now. With `endsTornLine`, the rest of a line that a killed writer left gets its
+/// line end first. An error says that nothing was tried to be written.
 FileError append(LogFileHandle &file, const QByteArray &data, bool endsTornLine)
 {
     if (FileError error = file.seekToEnd()) {
@@ -42,17 +42,22 @@ FileError append(LogFileHandle &file, const QByteArray &data, bool endsTornLine)
     return {};
 }
 
-/// The same under the lock, so that no other process writes in between.
+/// The same under the lock, so that no other process writes in between. Tries again for as long as the lock is refused
+/// for a reason that passes.
 FileError appendLocked(LogFileHandle &file, const QByteArray &data, bool endsTornLine)
 {
-    const LogFileLock lock(file.descriptor());
-    if (const FileError &error = lock.error()) {
+    for (;;) {
+        FileError error;
+        if (const LogFileLock lock(file.descriptor()); lock.error())
+            error = lock.error();
+        else
+            error = append(file, data, endsTornLine);
+        if (!error.isPassing())
+            return error;
         LogConsole::report("WTFileLogger: Could not lock logfile, retrying in 1ms: %s (%d)", error.reason(),
                            error.number);
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
-        return error;
     }
-    return append(file, data, endsTornLine);
 }
 
 } // namespace
@@ -176,7 +181,7 @@ bool WTFileLogger::shouldArchiveRecentLogFileInfo(const WTLogFileInfo & /*recent
 
 QByteArray WTFileLogger::lt_dataForMessage(const WTLogMessage &message) const
 {
-    QString text = m_logFormatter ? m_logFormatter->formatLogMessage(message).value_or(QString()) : message.message();
+    QString text = textForMessage(message).value_or(QString());
     if (text.isEmpty())
         return {};
     const bool isCustom = text.constData() != message.message().constData();
@@ -190,7 +195,13 @@ void WTFileLogger::lt_logData(const QByteArray &data)
     if (data.isEmpty())
         return;
     try {
+        lt_lookAfterLogFile();
+        if (!lt_currentLogFileHandle())
+            return;
+        const QScopedValueRollback writing(m_isWriting, true);
+        willLogMessage();
         lt_appendData(data);
+        didLogMessage();
     } catch (const std::exception &exception) {
         reportException(QString::fromLocal8Bit(exception.what()));
     } catch (...) {
@@ -200,26 +211,19 @@ void WTFileLogger::lt_logData(const QByteArray &data)
 
 void WTFileLogger::lt_appendData(const QByteArray &data)
 {
-    if (!lt_currentLogFileHandle())
-        return;
-    const QScopedValueRollback writing(m_isWriting, true);
-    willLogMessage();
-    for (bool isReopened = false;;) {
-        LogFileHandle *const file = lt_currentLogFileHandle();
-        if (!file)
+    LogFileHandle *file = lt_currentLogFileHandle();
+    if (file && !m_worksWithoutLock) {
+        if (!appendLocked(*file, data, m_appendNewline))
             return;
-        const FileError error = appendLocked(*file, data, m_appendNewline);
-        if (!error)
-            break;
-        if (error.isPassing())
-            continue;
-        // The descriptor is bad. When a fresh one can be locked no more than the old one, locks are not to be had.
-        if (isReopened) {
-            static_cast<void>(append(*file, data, m_appendNewline));
-            break;
-        }
+        // The descriptor may have gone bad: a fresh one is tried before the lock is given up.
         lt_closeLogFile();
-        isReopened = true;
+        file = lt_currentLogFileHandle();
+        const FileError error = file ? appendLocked(*file, data, m_appendNewline) : FileError{};
+        if (!error)
+            return;
+        m_worksWithoutLock = true;
+        LogConsole::report("WTFileLogger: Writing without a lock from now on: %@", error.description());
     }
-    didLogMessage();
+    if (file)
+        static_cast<void>(append(*file, data, m_appendNewline));
 }

@@ -67,6 +67,7 @@ protected:
 private:
     QByteArray lt_dataForMessage(const WTLogMessage &message) const;
     void lt_logData(const QByteArray &data);
+    void lt_lookAfterLogFile();
     void lt_appendData(const QByteArray &data);
     LogFileHandle *lt_currentLogFileHandle();
     void lt_openLogFile();
@@ -96,4 +97,6 @@ private:
     std::optional<RollingTimer> m_rollingTimer;
     quint64 m_maximumFileSize = quint64{1024} * 1024;
     bool m_isWriting = false;
+    /// The file system has refused the lock for a reason that does not pass.
+    bool m_worksWithoutLock = false;
 };

@@ -4,6 +4,19 @@
 #include "GlobalQueue.h"
 #include "LogConsole.h"
 
+namespace
+{
+
+/// The system lacks watches or timers for good or for a long time, and every log file would say so again.
+void sayOnce(const char *what)
+{
+    static std::atomic<const char *> said = nullptr;
+    if (said.exchange(what) != what)
+        LogConsole::report("%@", what);
+}
+
+} // namespace
+
 void WTFileLogger::rollLogFile()
 {
     rollLogFileWithCompletionBlock({});
@@ -52,6 +65,20 @@ void WTFileLogger::lt_openLogFile()
     lt_scheduleTimerToRollLogFileDueToAge();
     m_currentLogFileVnode.emplace(m_currentLogFileHandle.descriptor(), loggerQueue(),
                                   weakAction(&WTFileLogger::lt_rollLogFileNow));
+    if (!m_currentLogFileVnode->isWatching())
+        sayOnce("WTFileLogger: The log file cannot be watched; it is looked after at every line instead");
+}
+
+/// Before each line: does the work of the watch and of the timer, where the system has none to give.
+void WTFileLogger::lt_lookAfterLogFile()
+{
+    if (!m_currentLogFileHandle.isOpen())
+        return;
+    const bool hasTimer = m_rollingFrequency <= 0 || (m_rollingTimer && m_rollingTimer->isRunning());
+    if (!m_currentLogFileVnode->isWatching() && m_currentLogFileHandle.isGone())
+        lt_rollLogFileNow();
+    else if (!hasTimer)
+        lt_maybeRollLogFileDueToAge();
 }
 
 std::optional<WTLogFileInfo> WTFileLogger::lt_currentLogFileInfo()
@@ -59,6 +86,8 @@ std::optional<WTLogFileInfo> WTFileLogger::lt_currentLogFileInfo()
     if (m_currentLogFileInfo) {
         if (lt_shouldUseLogFile(*m_currentLogFileInfo, false))
             return m_currentLogFileInfo;
+        // Another process has archived it: what is written from now on goes to the new file as well.
+        lt_closeLogFile();
         return lt_createLogFile();
     }
     QList<WTLogFileInfo> newestFirst = m_logFileManager->sortedLogFileInfos();
@@ -140,9 +169,12 @@ void WTFileLogger::lt_maybeRollLogFileDueToAge()
 void WTFileLogger::lt_scheduleTimerToRollLogFileDueToAge()
 {
     m_rollingTimer.reset();
-    if (m_currentLogFileInfo && m_rollingFrequency > 0)
-        m_rollingTimer.emplace(m_rollingFrequency - m_currentLogFileInfo->age(), loggerQueue(),
-                               weakAction(&WTFileLogger::lt_maybeRollLogFileDueToAge));
+    if (!m_currentLogFileInfo || m_rollingFrequency <= 0)
+        return;
+    m_rollingTimer.emplace(m_rollingFrequency - m_currentLogFileInfo->age(), loggerQueue(),
+                           weakAction(&WTFileLogger::lt_maybeRollLogFileDueToAge));
+    if (!m_rollingTimer->isRunning())
+        sayOnce("WTFileLogger: No timer for the age of the log file; it is looked at at every line instead");
 }
 
 void WTFileLogger::lt_closeLogFile()

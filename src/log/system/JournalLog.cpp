@@ -2,7 +2,6 @@
 
 #include <QByteArray>
 #include <syslog.h>
-#include <unistd.h>
 #include <vector>
 
 #define SD_JOURNAL_SUPPRESS_LOCATION
@@ -12,11 +11,6 @@ JournalLog::JournalLog(const QString &subsystem, const QString &category)
     : m_subsystem(subsystem)
     , m_category(category)
 {
-}
-
-bool JournalLog::isAvailable()
-{
-    return access("/run/systemd/journal/socket", W_OK) == 0;
 }
 
 int JournalLog::priority(OSLogType type)

@@ -12,8 +12,6 @@ public:
     JournalLog() = default;
     JournalLog(const QString &subsystem, const QString &category);
 
-    /// Whether a journal listens on this machine.
-    static bool isAvailable();
     /// The journal's priority for a type: error 3, info 6, debug 7.
     static int priority(OSLogType type);
 

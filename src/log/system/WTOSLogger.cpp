@@ -33,8 +33,6 @@ OSLogType WTOSLogger::typeForFlag(quint64 flag)
 
 std::shared_ptr<OSLog> WTOSLogger::getLogger() const
 {
-    if (!JournalLog::isAvailable())
-        return nullptr;
     if (m_subsystem && m_category)
         return std::make_shared<JournalLog>(*m_subsystem, *m_category);
     return std::make_shared<JournalLog>();
@@ -58,7 +56,7 @@ void WTOSLogger::logMessage(const WTLogMessage &message)
         return;
     const auto handle = logger();
     const std::optional<QString> text = textForMessage(message);
-    if (handle && text)
+    if (text)
         handle->send(typeForFlag(message.flag()), *text);
 }
 

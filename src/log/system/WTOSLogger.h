@@ -6,7 +6,7 @@
 #include <memory>
 #include <optional>
 
-/// Sends every line to the operating system's log. Does nothing on a machine without one.
+/// Sends every line to the operating system's log. For machines that have one: elsewhere the lines go nowhere.
 class WTOSLogger : public WTAbstractLogger
 {
 public:
@@ -18,7 +18,7 @@ public:
     /// The type a flag is sent as; a warning goes as information.
     static OSLogType typeForFlag(quint64 flag);
 
-    /// A handle for the subsystem and the category when both are set, else the default one; none without a system log.
+    /// A handle for the subsystem and the category when both are set, else the default one.
     std::shared_ptr<OSLog> getLogger() const;
     /// The handle in use, made by `getLogger` on first use. On the logger's queue only.
     std::shared_ptr<OSLog> logger();

@@ -1,5 +1,6 @@
 #include "LinuxDesktop.h"
 
+#include "AlternateSignalStack.h"
 #include "DesktopPanels.h"
 
 #include <QProcess>
@@ -13,6 +14,7 @@ namespace
 /// What hostnamectl prints; empty when it is absent, fails (without a message bus, say) or takes longer than `limit`.
 QString hostnameServiceReport(std::chrono::milliseconds limit)
 {
+    const AlternateSignalStack signalStack;
     QProcess process;
     process.start(u"hostnamectl"_s, {u"status"_s}, QIODevice::ReadOnly);
     if (!process.waitForFinished(static_cast<int>(limit.count()))) {

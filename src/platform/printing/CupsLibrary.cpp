@@ -1,5 +1,7 @@
 #include "CupsLibrary.h"
 
+#include "AlternateSignalStack.h"
+
 #include <QLibrary>
 #include <optional>
 
@@ -26,6 +28,7 @@ std::optional<CupsLibrary> loadLibrary()
 
 const CupsLibrary *CupsLibrary::load()
 {
+    const AlternateSignalStack signalStack;
     static const std::optional<CupsLibrary> library = loadLibrary();
     return library ? &*library : nullptr;
 }
