@@ -1,6 +1,8 @@
 #include "LibraryLog.h"
 
 #include <QDateTime>
+#include <algorithm>
+#include <fcntl.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -28,13 +30,11 @@ void LibraryLog::configure(const QString &path, int levelMask)
 {
     const std::lock_guard lock(m_mutex);
     m_levelMask = levelMask;
-    if (m_file.fileName() == path && (path.isEmpty() || m_file.isOpen()))
+    if (m_path == path && (path.isEmpty() || m_file.isOpen()))
         return;
-    m_file.close();
-    m_file.setFileName(path);
+    m_path = path;
     // Without its file the library works in silence.
-    if (!path.isEmpty())
-        m_file.open(QIODevice::Append, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    m_file = path.isEmpty() ? FileDescriptor() : FileDescriptor::ofRegularFile(path, O_RDWR | O_CREAT | O_APPEND);
 }
 
 void LibraryLog::write(Level level, const QString &text)
@@ -44,8 +44,19 @@ void LibraryLog::write(Level level, const QString &text)
         return;
     const QByteArray line =
         u"%1 %2 %3\n"_s.arg(QDateTime::currentDateTime().toString(Qt::ISODateWithMs), nameOf(level), text).toUtf8();
-    if (m_file.size() + line.size() > sizeLimit)
-        m_file.resize(0);
-    m_file.write(line);
-    m_file.flush();
+    if (lseek(m_file.get(), 0, SEEK_END) + line.size() > 2 * bytesKept)
+        dropOldLines();
+    static_cast<void>(m_file.writeAll(line));
+}
+
+void LibraryLog::dropOldLines()
+{
+    QByteArray latest(bytesKept, Qt::Uninitialized);
+    const off_t end = lseek(m_file.get(), 0, SEEK_END);
+    const ssize_t length = pread(m_file.get(), latest.data(), bytesKept, std::max<off_t>(end - bytesKept, 0));
+    if (length < 0 || ftruncate(m_file.get(), 0) != 0)
+        return;
+    latest.truncate(length);
+    // The first of them is in all likelihood not whole.
+    static_cast<void>(m_file.writeAll(latest.sliced(latest.indexOf('\n') + 1)));
 }

@@ -2,6 +2,7 @@
 
 #include <QTemporaryDir>
 #include <QTest>
+#include <sys/stat.h>
 #include <thread>
 
 using namespace Qt::Literals::StringLiterals;
@@ -12,7 +13,7 @@ class LibraryLogTests : public QObject
 
 private Q_SLOTS:
     void maskChoosesTheLevels();
-    void theFileStaysWithinItsLimit();
+    void theFileKeepsTheLatestLines();
     void linesOfManyThreadsStayWhole();
     void worksWithoutAFile();
 
@@ -42,20 +43,20 @@ void LibraryLogTests::maskChoosesTheLevels()
     QCOMPARE(QFile::permissions(m_path) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
 }
 
-void LibraryLogTests::theFileStaysWithinItsLimit()
+void LibraryLogTests::theFileKeepsTheLatestLines()
 {
     LibraryLog log;
     log.configure(m_path, 255);
     const QString text(1000, u'x');
-    qint64 largest = 0;
-    for (int i = 0; i < 2500; ++i) {
-        log.write(LibraryLog::Info, text);
-        largest = std::max(largest, QFile(m_path).size());
+    for (int number = 0; number < 5000; ++number) {
+        log.write(LibraryLog::Info, text + QString::number(number));
+        const qint64 size = QFile(m_path).size();
+        QVERIFY(size <= 2 * LibraryLog::bytesKept);
+        QVERIFY(number < 2000 || size >= LibraryLog::bytesKept - 2 * text.size());
     }
-    QVERIFY(largest <= LibraryLog::sizeLimit);
-    QVERIFY(largest > LibraryLog::sizeLimit / 2);
-    log.write(LibraryLog::Info, u"last"_s);
-    QVERIFY(content().endsWith(" info last\n"));
+    const QByteArrayList lines = content().trimmed().split('\n');
+    for (qsizetype index = 0; index < lines.size(); ++index)
+        QVERIFY(lines[index].endsWith('x' + QByteArray::number(5000 - lines.size() + index)));
 }
 
 void LibraryLogTests::linesOfManyThreadsStayWhole()
@@ -80,7 +81,11 @@ void LibraryLogTests::linesOfManyThreadsStayWhole()
 
 void LibraryLogTests::worksWithoutAFile()
 {
-    for (const QString &path : {QString(), m_folder.filePath(u"none/library.log"_s), m_folder.path()}) {
+    const QString pipe = m_folder.filePath(u"pipe"_s), victim = m_folder.filePath(u"victim"_s);
+    const QString link = m_folder.filePath(u"link"_s);
+    QCOMPARE(mkfifo(QFile::encodeName(pipe), 0600), 0);
+    QVERIFY(QFile(victim).open(QIODevice::WriteOnly) && QFile::link(victim, link));
+    for (const QString &path : {QString(), m_folder.filePath(u"none/library.log"_s), m_folder.path(), pipe, link}) {
         LibraryLog log;
         log.configure(path, 255);
         log.write(LibraryLog::Error, u"nowhere"_s);
@@ -90,6 +95,7 @@ void LibraryLogTests::worksWithoutAFile()
         log.write(LibraryLog::Error, u"here"_s);
         QVERIFY2(content().endsWith(" error here\n"), qPrintable(path));
     }
+    QCOMPARE(QFile(victim).size(), 0);
 }
 
 QTEST_GUILESS_MAIN(LibraryLogTests)
