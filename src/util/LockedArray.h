@@ -53,6 +53,7 @@ public:
         objects.reserve(capacity);
         return Array(objects);
     }
+    static Array initWithCapacity(qsizetype capacity) { return arrayWithCapacity(capacity); }
     /// A JSON file that holds one array; absent when it cannot be read as that.
     static std::optional<Array> initWithContentsOfFile(const QString &path)
     {

@@ -3,14 +3,9 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
-bool isSafe(const QString &text)
+bool isSafe(QStringView text)
 {
-    return !QStringView(text).trimmed().isEmpty();
-}
-
-bool isSafe(const QByteArray &bytes)
-{
-    return !bytes.isEmpty();
+    return !text.trimmed().isEmpty();
 }
 
 bool isSafe(const QJsonValue &value)

@@ -1,6 +1,8 @@
+#include "BKThreadSafeDictionary.h"
 #include "InfoList.h"
 #include "Rows.h"
 #include "TextFormat.h"
+#include "WTSafeArray.h"
 #include "isSafe.h"
 
 #include <QJsonArray>
@@ -67,8 +69,14 @@ void TextTest::knowsUsableContent()
     QVERIFY(!isSafe(std::optional(u" "_s)));
     QVERIFY(isSafe(QByteArray(1, ' ')));
     QVERIFY(!isSafe(QByteArray()));
-    QVERIFY(!isSafe(QList<int>()));
-    QVERIFY(isSafe(QList<int>{0}));
+    QVERIFY(!isSafe(u" \t"));
+    QVERIFY(!isSafe(QList<int>()) && !isSafe(QMap<int, int>()) && !isSafe(WTSafeArray<int>()));
+    QVERIFY(!isSafe(BKThreadSafeDictionary<int, int>()) && !isSafe(std::vector<int>()));
+    QVERIFY(isSafe(QList<int>{0}) && isSafe(QMap<int, int>{{0, 0}}) && isSafe(WTSafeArray<int>({0})));
+    QVERIFY(isSafe(0) && isSafe(false) && isSafe(QDateTime()));
+    QVERIFY(isSafe(std::make_shared<int>(0)) && !isSafe(std::shared_ptr<int>()));
+    QJsonObject object{{u"blank"_s, u" "_s}};
+    QVERIFY2(!isSafe(object[u"blank"_s]), "a reference into an object is what it refers to");
     QVERIFY(isSafe(QJsonValue(0)));
     QVERIFY(isSafe(QJsonValue(QJsonValue::Null)));
     QVERIFY(!isSafe(QJsonValue(QJsonValue::Undefined)));
