@@ -9,6 +9,7 @@
 
 #include <QFileInfo>
 #include <memory>
+#include <sys/resource.h>
 
 namespace
 {
@@ -17,10 +18,20 @@ constexpr double secondsPerFile = 86400;
 constexpr quint64 bytesPerFile = 0x6400000;
 constexpr std::size_t filesKept = 7;
 
+/// A dump would hold the password of the moment.
+void forbidCoreDumps()
+{
+    rlimit limit{};
+    getrlimit(RLIMIT_CORE, &limit);
+    limit.rlim_cur = 0;
+    setrlimit(RLIMIT_CORE, &limit);
+}
+
 } // namespace
 
 QString startLogging(const HostCapabilities &capabilities)
 {
+    forbidCoreDumps();
     if (capabilities.hasUnifiedLog)
         WTLog::addLogger(WTOSLogger::sharedInstance());
     else

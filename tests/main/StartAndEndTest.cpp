@@ -1,4 +1,5 @@
 #include "DemoMachine.h"
+#include "WTFileLogger.h"
 #include "WTLog.h"
 #include "WTManager.h"
 #include "WTWindow.h"
@@ -14,6 +15,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <cstdio>
+#include <sys/resource.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -28,6 +30,20 @@ QMessageBox *sheet(const WTWindow &window)
 {
     auto *box = window.findChild<QMessageBox *>(u"alert"_s);
     return box && box->isVisible() ? box : nullptr;
+}
+
+void tellOfTheLog()
+{
+    for (const auto &logger : WTLog::allLoggers()) {
+        std::puts(qPrintable(logger->loggerName()));
+        if (const auto file = std::dynamic_pointer_cast<WTFileLogger>(logger))
+            std::printf("%.0f s, %llu bytes, %zu files\n", file->rollingFrequency(),
+                        static_cast<unsigned long long>(file->maximumFileSize()),
+                        file->logFileManager()->maximumNumberOfLogFiles());
+    }
+    rlimit core{};
+    getrlimit(RLIMIT_CORE, &core);
+    std::printf("%llu bytes of a core\n", static_cast<unsigned long long>(core.rlim_cur));
 }
 
 void pressClose(WTWindow &window)
@@ -73,8 +89,7 @@ int walkingProcess(int argc, char **argv)
         QMetaObject::invokeMethod(
             &window,
             [&window, way] {
-                for (const auto &logger : WTLog::allLoggers())
-                    std::puts(qPrintable(logger->loggerName()));
+                tellOfTheLog();
                 walk(window, way);
             },
             Qt::QueuedConnection);
@@ -108,9 +123,12 @@ void StartAndEndTest::closesByTheCloseState_data()
     QTest::addColumn<QStringList>("told");
     const QString file = u"com.wtlog.fileLogger"_s;
     const QString silent = u"does not ask"_s;
-    QTest::newRow("confirm") << QStringList{u"com.wtlog.osLogger"_s, file, u"asks"_s, u"stays"_s};
+    const QString rolling = u"86400 s, 104857600 bytes, 7 files"_s, core = u"0 bytes of a core"_s;
+    QTest::newRow("confirm") << QStringList{u"com.wtlog.osLogger"_s, file, rolling, core, u"asks"_s, u"stays"_s};
     QTest::newRow("refuse") << QStringList{u"com.wtlog.aslLogger"_s,
                                            file,
+                                           rolling,
+                                           core,
                                            u"asks"_s,
                                            u"stays"_s,
                                            silent,
