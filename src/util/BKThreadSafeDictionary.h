@@ -25,7 +25,7 @@ public:
         : m_dic(dictionary)
     {
     }
-    /// Values are copied with or without the wish: they are values.
+    /// The objects are values, so they are copied whatever `copyItems` says.
     BKThreadSafeDictionary(const Dictionary &dictionary, bool /*copyItems*/)
         : BKThreadSafeDictionary(dictionary)
     {

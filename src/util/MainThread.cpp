@@ -21,9 +21,9 @@ Receiver &receiver()
     return *shared;
 }
 
-/// An action on its way. Qt's event queue passes it on under a lock, but ThreadSanitizer does not see locks of a
-/// library that it did not build; the token, raised behind the last write and read ahead of the first read, shows it
-/// the order.
+/// An action on its way from one thread to the main thread. Qt's event queue passes it on under a lock, so this is safe
+/// by itself; but ThreadSanitizer does not see the locks of a library that was built without it, and would report a
+/// race. The atomic `token` tells it the order: it is changed after the action was written and read before it is used.
 class Handover
 {
 public:
@@ -31,7 +31,7 @@ public:
         : m_action(std::move(action))
     {
     }
-    /// The event's own copy is the last write.
+    /// The event is moved from the caller's object: nothing writes to the action after that.
     Handover(Handover &&other) noexcept
         : m_action(std::move(other.m_action))
     {
@@ -63,7 +63,7 @@ void closeMainThread()
     setReceiver(nullptr);
 }
 
-/// Runs when an application object is made; the routine it leaves behind, first of all when that is destroyed.
+/// Runs when an application object is made. Qt runs `closeMainThread` at the beginning of that object's destruction.
 void openMainThread()
 {
     setReceiver(QCoreApplication::instance());

@@ -46,7 +46,7 @@ Mailbox &mailbox()
 void writeReport(const Crash &crash)
 {
     const QString report = crashReportText(crash, std::chrono::system_clock::now());
-    // The place that reports of this program have always named.
+    // Not this place: reports of every version of the program name the same one, so that a search finds them all.
     const WTLogMessage::Place place{u"WTExceptionHandler"_s, u"void HandleException(NSException *__strong)"_s, 141};
     const auto message = WTLogMessage::initWithFormat(u"崩溃信息：%@"_s, {FormatArgument(report)}, WTLogLevelAll,
                                                       WTLogFlagError, 0, place, {}, 0, std::nullopt);

@@ -103,7 +103,7 @@ QString reasonOfCurrentException()
     abortWithoutReport();
 }
 
-/// Every other thread of the program has its own for as long as it runs.
+/// For the main thread, which nobody's code begins. The program's other threads begin with one of these.
 void giveMainThreadItsSignalStack()
 {
     [[maybe_unused]] static const auto *const stack = new AlternateSignalStack;

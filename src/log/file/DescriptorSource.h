@@ -5,33 +5,32 @@
 
 #include <functional>
 #include <memory>
+#include <thread>
 
-/// Runs an action on a queue when a descriptor has become readable. One thread of the process waits for all sources.
-/// Destroyed on that queue, it runs no action any more.
+/// Runs an action on a queue when a descriptor has become readable; a thread of its own waits for that. Destroyed on
+/// that queue, it runs no action any more.
 class DescriptorSource
 {
 public:
-    /// Takes what waits in the descriptor and says whether the action is due. Runs on the waiting thread: short, and
-    /// neither makes nor destroys a source.
+    /// Takes what waits in the descriptor and says whether the action is due. Runs on the waiting thread.
     using Reader = std::function<bool(int descriptor)>;
     using Action = std::function<void()>;
 
     DescriptorSource(FileDescriptor descriptor, Reader reader, std::shared_ptr<SerialQueue> queue, Action action);
     ~DescriptorSource();
-    /// False for a descriptor that is not open or cannot be waited for; the action then never runs.
-    bool isWaiting() const { return m_isWaiting; }
     DescriptorSource(const DescriptorSource &) = delete;
     DescriptorSource &operator=(const DescriptorSource &) = delete;
+    /// False when there is no descriptor to wait for; the action then never runs.
+    bool isWaiting() const { return m_thread.joinable(); }
 
 private:
-    class WaitingThread;
-    void becameReadable() const;
+    void run() const;
 
     const FileDescriptor m_descriptor;
+    const FileDescriptor m_end;
     const Reader m_reader;
     const std::shared_ptr<SerialQueue> m_queue;
     /// Shared, so that an action on its way can tell whether the source is still there.
     const std::shared_ptr<const Action> m_action;
-    quint64 m_identifier = 0;
-    bool m_isWaiting = false;
+    std::thread m_thread;
 };

@@ -71,7 +71,7 @@ private:
     const std::optional<QString> m_text;
 };
 
-/// Notes its hooks in the log file itself, around the message.
+/// Notes the calls of its hooks.
 class HookedLogger : public WTFileLogger
 {
 public:
@@ -317,6 +317,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("rolls");
         QTest::newRow("when the timer is due") << 0.0 << 1.3 << true;
         QTest::newRow("a second early") << day - 0.9 << day << true;
+        QTest::newRow("what is left of a day") << day - 1.6 << day << true;
         QTest::newRow("clock set forward") << 2 * day << day << true;
         QTest::newRow("clock set back") << -2 * day << 1.3 << false;
         QTest::newRow("never") << 2 * day << 0.0 << false;
@@ -343,6 +344,31 @@ private Q_SLOTS:
         else
             QTest::qWait(500);
         QCOMPARE(manager->told().size(), rolls ? 1 : 0);
+    }
+
+    void leavesAFileThatAnotherProcessArchived()
+    {
+        const LogBed bed;
+        const auto logger = loggerOf<WTFileLogger>(std::make_shared<WTLogFileManagerDefault>(bed.folder()));
+        logTo(logger, u"one"_s);
+        const QString first = bed.path(bed.names().first());
+        WTLogFileInfo(first).setIsArchived(true);
+        const QString second = logger->currentLogFileInfo().value().filePath();
+        QVERIFY(second != first);
+        logTo(logger, u"two"_s);
+        QCOMPARE(QFileInfo(first).size(), 4);
+        QCOMPARE(QFileInfo(second).size(), 4);
+    }
+
+    void staysWithAFileWhosePermissionsChange()
+    {
+        const LogBed bed;
+        const auto logger = loggerOf<WTFileLogger>(std::make_shared<WTLogFileManagerDefault>(bed.folder()));
+        logTo(logger, u"one"_s);
+        QCOMPARE(chmod(QFile::encodeName(bed.path(bed.names().first())), 0400), 0);
+        QTest::qWait(200);
+        logTo(logger, u"two"_s);
+        QCOMPARE(bed.names().size(), 1);
     }
 
     void hooks()

@@ -5,7 +5,10 @@
 
 #include <QFile>
 #include <QTest>
+#include <cstdio>
+#include <sys/stat.h>
 #include <sys/xattr.h>
+#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -82,20 +85,48 @@ private Q_SLOTS:
         QTest::newRow("state folder") << QByteArray("/s") << QByteArray("/h") << u"/s/Logs/log_file_tests"_s;
         QTest::newRow("home") << QByteArray() << QByteArray("/h") << u"/h/.local/state/Logs/log_file_tests"_s;
         QTest::newRow("relative") << QByteArray("s") << QByteArray("/h") << u"/h/.local/state/Logs/log_file_tests"_s;
-        QTest::newRow("neither") << QByteArray() << QByteArray() << QDir::tempPath() + u"/Logs/log_file_tests"_s;
     }
 
     void defaultFolder()
     {
         QFETCH(QByteArray, state);
         QFETCH(QByteArray, home);
-        const QByteArray stateBefore = qgetenv("XDG_STATE_HOME"), homeBefore = qgetenv("HOME");
-        qputenv("XDG_STATE_HOME", state);
-        qputenv("HOME", home);
-        const QString folder = WTLogFileManagerDefault::defaultLogsDirectory();
-        qputenv("XDG_STATE_HOME", stateBefore);
-        qputenv("HOME", homeBefore);
-        QTEST(folder, "folder");
+        QTEST(defaultFolderWith(state, home), "folder");
+    }
+
+    void sharesNoTemporaryFolder_data()
+    {
+        QTest::addColumn<QByteArray>("state");
+        QTest::addColumn<bool>("isTaken");
+        QTest::newRow("our own") << QByteArray("own") << true;
+        QTest::newRow("open to others") << QByteArray("open") << false;
+        QTest::newRow("a link") << QByteArray("link") << false;
+        QTest::newRow("another user's") << QByteArray("foreign") << false;
+    }
+
+    void sharesNoTemporaryFolder()
+    {
+        QFETCH(QByteArray, state);
+        QFETCH(bool, isTaken);
+        if (state == "foreign" && geteuid() != 0)
+            QSKIP("this user cannot make another user's folder");
+        const QString logs = m_temporary.filePath(u"Logs"_s);
+        const QByteArray native = QFile::encodeName(logs);
+        static_cast<void>(std::remove(native));
+        if (state == "link")
+            QVERIFY(QFile::link(m_temporary.path(), logs));
+        else
+            QCOMPARE(mkdir(native, 0700), 0);
+        if (state == "open")
+            QCOMPARE(chmod(native, 0777), 0);
+        if (state == "foreign")
+            QCOMPARE(chown(native, 65534, 65534), 0);
+        const QByteArray before = qgetenv("TMPDIR");
+        qputenv("TMPDIR", QFile::encodeName(m_temporary.path()));
+        const QString folder = defaultFolderWith({}, {});
+        qputenv("TMPDIR", before);
+        QCOMPARE(folder.startsWith(logs + u'/'), isTaken);
+        QCOMPARE(permissionsOf(QFileInfo(folder).path()), 0700U);
     }
 
     void createsWithoutReplacing()
@@ -188,8 +219,10 @@ private Q_SLOTS:
     {
         const LogBed bed;
         for (int day = 1; day <= 6; ++day)
-            bed.leaveFile(u"2026-01-0%1--00-00-00-UTC.log"_s.arg(day));
+            bed.leaveFile(u"2026-01-0%1--00-00-00-UTC.log"_s.arg(day), mebibyte);
         const auto manager = managerOf(bed);
+        manager->setLogFilesDiskQuota(5 * mebibyte);
+        QTRY_COMPARE(bed.names().size(), 5);
         manager->setMaximumNumberOfLogFiles(3);
         QTRY_COMPARE(bed.names().size(), 3);
         create(*manager);
@@ -285,6 +318,19 @@ private Q_SLOTS:
         QVERIFY(std::is_eq(missing.reverseCompareByCreationDate(missing)));
     }
 
+    void datesOfAFile()
+    {
+        const LogBed bed;
+        const QDateTime start = QDateTime::currentDateTime().addSecs(-2), longAgo = start.addYears(-9);
+        QFile file(bed.leaveFile(u"a.log"_s));
+        QVERIFY(file.open(QIODevice::ReadWrite) && file.setFileTime(longAgo, QFileDevice::FileModificationTime));
+        const WTLogFileInfo info(file.fileName());
+        QCOMPARE(info.modificationDate(), longAgo);
+        if (!QFileInfo(file).birthTime().isValid())
+            QSKIP("this file system keeps no date of birth");
+        QVERIFY(info.creationDate() > start);
+    }
+
     void fixedName()
     {
         const LogBed bed;
@@ -295,6 +341,19 @@ private Q_SLOTS:
     }
 
 private:
+    static QString defaultFolderWith(const QByteArray &state, const QByteArray &home)
+    {
+        const QByteArray stateBefore = qgetenv("XDG_STATE_HOME"), homeBefore = qgetenv("HOME");
+        qputenv("XDG_STATE_HOME", state);
+        qputenv("HOME", home);
+        const QString folder = WTLogFileManagerDefault::defaultLogsDirectory();
+        qputenv("XDG_STATE_HOME", stateBefore);
+        qputenv("HOME", homeBefore);
+        return folder;
+    }
+
+    const QTemporaryDir m_temporary;
+
     static void setZone(const QByteArray &zone)
     {
         qputenv("TZ", zone);
