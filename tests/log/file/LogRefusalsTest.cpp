@@ -110,7 +110,7 @@ private Q_SLOTS:
         log(u"one"_s);
         synchronizations = 0;
         WTLog::flushLog();
-        QCOMPARE(synchronizations, 1);
+        QVERIFY(synchronizations > 0);
     }
 
 private:
