@@ -7,6 +7,7 @@
 #include "HurriedTime.h"
 #include "LibusbPort.h"
 #include "Samples.h"
+#include "ScreenPorts.h"
 #include "SpoolerPort.h"
 #include "UsbfsBed.h"
 
@@ -38,6 +39,7 @@ struct RunMachine {
     explicit RunMachine(std::size_t mostRuns);
     ~RunMachine() { bus.unplug(); }
 
+    ScreenPorts screenPorts() { return {time, desktop, {}}; }
     /// The printer's name for the library.
     QString uri();
 

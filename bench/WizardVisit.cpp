@@ -32,8 +32,9 @@ void askUntil(const Condition &condition)
 
 } // namespace
 
-WizardVisit::WizardVisit(Entry entry)
+WizardVisit::WizardVisit(const ScreenPorts &ports, Entry entry)
     : m_entry(entry)
+    , m_screens(ports)
 {
     m_screens.show();
     askUntil([] { return WTManager::shared().printerList().count() == 1; });

@@ -12,7 +12,7 @@ public:
     static constexpr QLatin1StringView networkName{"Home"}, password{"secret pass"};
 
     /// The start screen shows, and has found the printer.
-    explicit WizardVisit(Entry entry);
+    WizardVisit(const ScreenPorts &ports, Entry entry);
     ~WizardVisit();
     WizardVisit(const WizardVisit &) = delete;
     WizardVisit &operator=(const WizardVisit &) = delete;

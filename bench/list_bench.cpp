@@ -1,9 +1,9 @@
 /// How long the network list takes from the arrival of its data to painted rows, and how long one step of scrolling
 /// takes, for a growing number of networks. Prints a Markdown table.
 #include "FakeHost.h"
+#include "FakeSpooler.h"
 #include "InfoList.h"
 #include "Samples.h"
-#include "SpoolerPort.h"
 #include "SystemTime.h"
 #include "WTApp.h"
 #include "WTC_WLAN.h"
@@ -22,12 +22,6 @@ namespace
 {
 
 constexpr std::size_t rounds = 51, scrollSteps = 200;
-
-class NoSpooler : public SpoolerPort
-{
-public:
-    std::vector<PrintDestination> destinations() override { return {}; }
-};
 
 /// Counts how often a widget was painted.
 class PaintCounter : public QObject
@@ -129,7 +123,7 @@ int main(int argc, char *argv[])
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     SystemTime time;
-    NoSpooler spooler;
+    FakeSpooler spooler;
     FakeDesktop desktop;
     FakeHostWiFi hostWiFi;
     hostWiFi.holdsScans = true;

@@ -80,7 +80,7 @@ void measureRuns(RunMachine &machine, BareExchange &bare)
     const auto frames = framesOfRun();
     Samples whole(runs), printer(runs);
     for (std::size_t turn = 0; turn < runs + runsBeforeCounting; ++turn) {
-        WizardVisit visit(WizardVisit::Entry::Manual);
+        WizardVisit visit(machine.screenPorts(), WizardVisit::Entry::Manual);
         visit.enter();
         if (turn < runsBeforeCounting) {
             visit.run();
@@ -123,11 +123,12 @@ void printWork(const char *how, std::size_t visits, const QMap<QString, StallWat
     std::puts("");
 }
 
-void measureStalls(StallWatch &watch, const char *how, std::size_t visits, WizardVisit::Entry entry)
+void measureStalls(RunMachine &machine, StallWatch &watch, const char *how, std::size_t visits,
+                   WizardVisit::Entry entry)
 {
     watch.clear();
     for (std::size_t turn = 0; turn < visits; ++turn) {
-        WizardVisit visit(entry);
+        WizardVisit visit(machine.screenPorts(), entry);
         watch.begin();
         visit.enter();
         visit.run();
@@ -152,9 +153,9 @@ int main(int argc, char *argv[])
         measureRuns(machine, bare);
     }
     std::printf("### How long the window does not answer\n\nFrom the start screen to the last.\n\n");
-    measureStalls(watch, "By hand", visitsByHand, WizardVisit::Entry::Manual);
+    measureStalls(machine, watch, "By hand", visitsByHand, WizardVisit::Entry::Manual);
     machine.hostWiFi.now.poweredOn = true;
-    measureStalls(watch, "By the list", visitsByList, WizardVisit::Entry::List);
+    measureStalls(machine, watch, "By the list", visitsByList, WizardVisit::Entry::List);
     Samples &questions = machine.spooler.questions;
     questions.sort();
     std::printf(

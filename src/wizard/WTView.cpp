@@ -1,9 +1,9 @@
 #include "WTView.h"
 
+#include "LiveLabel.h"
 #include "Log.h"
 #include "Palette.h"
-#include "WTWindow.h"
-#include "accessibleRole.h"
+#include "ScreenHost.h"
 
 namespace
 {
@@ -21,11 +21,11 @@ WTView::WTView(QWidget *parent)
     setAccessibleRole(*this, QAccessible::Pane);
 }
 
-WTWindow *WTView::ostraWindow() const
+ScreenHost *WTView::ostraWindow() const
 {
-    auto *window = qobject_cast<WTWindow *>(this->window());
-    WTView *content = window ? window->contentView() : nullptr;
-    return content && (content == this || content->isAncestorOf(this)) ? window : nullptr;
+    auto *host = dynamic_cast<ScreenHost *>(window());
+    const WTView *content = host ? host->contentView() : nullptr;
+    return content && (content == this || content->isAncestorOf(this)) ? host : nullptr;
 }
 
 void WTView::awakeFromNib()
@@ -40,7 +40,7 @@ void WTView::viewWillMoveToSuperview() {}
 
 void WTView::viewDidMoveToWindow()
 {
-    const WTWindow *window = ostraWindow();
+    const ScreenHost *window = ostraWindow();
     if (window && window->contentView() == this)
         viewDidApear();
 }
@@ -51,7 +51,7 @@ void WTView::pushView(WTView *target)
 {
     target->setPreView(this);
     logInfo("go to 👉🏻%@", description(target));
-    if (WTWindow *window = ostraWindow())
+    if (ScreenHost *window = ostraWindow())
         window->setContentView(target);
 }
 
@@ -60,6 +60,6 @@ void WTView::backPreviousView()
     if (!m_preView)
         return;
     logInfo("pre step👉🏻%@", description(m_preView));
-    if (WTWindow *window = ostraWindow())
+    if (ScreenHost *window = ostraWindow())
         window->setContentView(m_preView);
 }

@@ -1,14 +1,14 @@
 #pragma once
 
 #include "AppWindow.h"
+#include "ScreenHost.h"
 
 #include <QMainWindow>
 
 class QStackedWidget;
-class WTView;
 
 /// The wizard's one window; its content is exactly one screen.
-class WTWindow : public QMainWindow, public AppWindow
+class WTWindow : public QMainWindow, public AppWindow, public ScreenHost
 {
     Q_OBJECT
 
@@ -20,14 +20,13 @@ public:
     /// All that were added, in this order.
     const QList<WTView *> &screens() const { return m_screens; }
 
-    WTView *contentView() const { return m_contentView; }
-    /// `viewWillMoveToSuperview`, the swap, `viewDidMoveToWindow`, in this order and before it returns.
-    void setContentView(WTView *view);
+    WTView *contentView() const override { return m_contentView; }
+    void setContentView(WTView *view) override;
 
     void comeForward(bool byForce) override;
     void presentAlert(const Alert &alert, std::function<void(int response)> answered) override;
 
-    /// Ignored: closing never releases the main window.
+    /// Does nothing: the window lives until its owner destroys it, closed or not.
     void setReleasedWhenClosed(bool released);
 
     WTView *welcomeView = nullptr;     ///< Set by the layout, read by nothing.

@@ -37,7 +37,7 @@ Screen *makeScreen(WTWindow &window, Arguments &&...arguments)
 
 } // namespace
 
-WizardScreens::WizardScreens(const ProcessEnd &processEnd)
+WizardScreens::WizardScreens(const ScreenPorts &ports, const ProcessEnd &processEnd)
     : m_window(std::make_unique<WTWindow>())
     , m_startView(makeScreen<WTStartView>(*m_window))
 {
@@ -48,8 +48,8 @@ WizardScreens::WizardScreens(const ProcessEnd &processEnd)
     const NetworkPorts networkPorts{WTApp::shared().hostWiFi(), manager.time(), manager.spooler()};
     auto *wifiList = makeScreen<WTWiFiListView>(*m_window, networkPorts);
     auto *manualAdd = makeScreen<WTNetworkWithManualAddition>(*m_window, manager.spooler());
-    auto *installing = makeScreen<WTInstallingView>(*m_window);
-    auto *complete = makeScreen<WTCompleteView>(*m_window);
+    auto *installing = makeScreen<WTInstallingView>(*m_window, ports);
+    auto *complete = makeScreen<WTCompleteView>(*m_window, ports.desktop);
     auto *failed = makeScreen<WTFailedView>(*m_window);
     auto *configFailed = makeScreen<WTConfigFailedView>(*m_window);
     auto *wpsMethod = makeScreen<WTSetWPSMethodView>(*m_window);
@@ -57,8 +57,8 @@ WizardScreens::WizardScreens(const ProcessEnd &processEnd)
     auto *routerButton = makeScreen<WTUseWPSSetWifiView>(*m_window);
     auto *menuPbc = makeScreen<WTPrinterScreenWPSPBCView>(*m_window);
     auto *menuPin = makeScreen<WTSetPINConfigView>(*m_window);
-    auto *linkState = makeScreen<WTWpsLinkStateView>(*m_window, processEnd);
-    auto *lightState = makeScreen<WTConfigStateInfoView>(*m_window, processEnd);
+    auto *linkState = makeScreen<WTWpsLinkStateView>(*m_window, ports.desktop, processEnd);
+    auto *lightState = makeScreen<WTConfigStateInfoView>(*m_window, ports.desktop, processEnd);
 
     m_window->welcomeView = m_startView;
     m_window->autoInstallView = installing;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ScreenPorts.h"
 #include "WpsOutcomeView.h"
 
 #include <memory>
@@ -12,7 +13,7 @@ class WizardScreens
 {
 public:
     /// @param processEnd how the WPS outcome screens end the process.
-    explicit WizardScreens(const ProcessEnd &processEnd = endProcess);
+    explicit WizardScreens(const ScreenPorts &ports, const ProcessEnd &processEnd = endProcess);
     ~WizardScreens();
 
     WTWindow &window() { return *m_window; }

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "FakeSpooler.h"
 #include "LibusbPort.h"
 #include "PrinterOperation.h"
 #include "ResourceFolder.h"
-#include "SpoolerPort.h"
 #include "UsbfsBed.h"
 #include "VirtualTime.h"
 
@@ -32,11 +32,7 @@ public:
     UsbfsBed bed{time};
 
 private:
-    struct NoSpooler : SpoolerPort {
-        std::vector<PrintDestination> destinations() override { return {}; }
-    };
-
     LibusbPort m_usb{time};
-    NoSpooler m_spooler;
+    FakeSpooler m_spooler;
     QString m_uri;
 };

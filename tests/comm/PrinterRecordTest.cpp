@@ -1,3 +1,4 @@
+#include "FakeSpooler.h"
 #include "LogCollector.h"
 #include "PrintQueueBusyCheck.h"
 #include "ResourceFolder.h"
@@ -9,15 +10,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-
-class OneQueueSpooler : public SpoolerPort
-{
-public:
-    std::vector<PrintDestination> destinations() override
-    {
-        return {{.name = "QZ200", .printerState = "3"}, {.name = "QZ100", .printerState = "4"}};
-    }
-};
 
 WTCDevice device(const QString &type, quint32 locationID)
 {
@@ -54,11 +46,12 @@ private Q_SLOTS:
 private:
     ResourceFolder m_resources;
     VirtualTime m_time;
-    OneQueueSpooler m_spooler;
+    FakeSpooler m_spooler;
 };
 
 void PrinterRecordTest::initTestCase()
 {
+    m_spooler.queues = {{.name = "QZ200", .printerState = "3"}, {.name = "QZ100", .printerState = "4"}};
     WTManager::usePorts(m_time, m_spooler);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "FakeHost.h"
-#include "SpoolerPort.h"
+#include "FakeSpooler.h"
 #include "UsbTestBench.h"
 #include "WTWindow.h"
 #include "WizardScreens.h"
@@ -19,15 +19,6 @@ private:
     QString tracePath() const { return m_directory.filePath(QStringLiteral("opened")); }
 
     QTemporaryDir m_directory;
-};
-
-/// A spooler with the queues that the test says.
-class FakeSpooler : public SpoolerPort
-{
-public:
-    std::vector<PrintDestination> queues;
-
-    std::vector<PrintDestination> destinations() override { return queues; }
 };
 
 /// The whole wizard in its window, over real libusb with emulated printers, in virtual time. One bed at a time; the

@@ -1,6 +1,27 @@
 #include "LiveLabel.h"
 
-#include "accessibleRole.h"
+#include <QAccessibleWidget>
+#include <QVariant>
+
+namespace
+{
+
+constexpr const char *roleProperty = "accessibleRole";
+
+QAccessibleInterface *makeAccessible(const QString &, QObject *object)
+{
+    const QVariant role = object ? object->property(roleProperty) : QVariant();
+    return role.isValid() ? new QAccessibleWidget(qobject_cast<QWidget *>(object), QAccessible::Role(role.toInt()))
+                          : nullptr;
+}
+
+} // namespace
+
+void setAccessibleRole(QWidget &widget, QAccessible::Role role)
+{
+    [[maybe_unused]] static const bool once = (QAccessible::installFactory(makeAccessible), true);
+    widget.setProperty(roleProperty, int(role));
+}
 
 LiveLabel::LiveLabel(const QString &text, TextStyle::Size size, const QColor &color, QWidget *parent)
     : QLabel(text, parent)
@@ -18,7 +39,7 @@ void LiveLabel::setText(const QString &text)
     setAccessibleName(text);
     if (!isVisible() || text.isEmpty())
         return;
-    // The bridge to AT-SPI passes no alerts on; a notification that shows is read.
+    // Qt does not pass alert events on to screen readers under AT-SPI. They do read a notification that comes to show.
     QAccessibleEvent shown(this, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&shown);
 }

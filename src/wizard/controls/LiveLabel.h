@@ -2,6 +2,12 @@
 
 #include "TextStyle.h"
 
+#include <QAccessible>
+
+/// Tells assistive technology what a widget is, where its class does not say. To be called while the widget is made: a
+/// role that is set after assistive technology has asked for the widget has no effect.
+void setAccessibleRole(QWidget &widget, QAccessible::Role role);
+
 /// A label whose text a screen reader speaks by itself: when it comes to show, and when it changes while it shows.
 /// To the screen reader it is a notification.
 class LiveLabel : public QLabel
@@ -11,6 +17,6 @@ class LiveLabel : public QLabel
 public:
     LiveLabel(const QString &text, TextStyle::Size size, const QColor &color, QWidget *parent = nullptr);
 
-    /// Nothing is spoken of a text that shows already.
+    /// The text that the label has already is not spoken again.
     void setText(const QString &text);
 };

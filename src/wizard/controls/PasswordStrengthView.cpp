@@ -4,17 +4,57 @@
 #include "LiveLabel.h"
 #include "Localized.h"
 #include "Palette.h"
-#include "StrengthMeter.h"
 #include "TextStyle.h"
 
 #include <QHBoxLayout>
+#include <QPainter>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+constexpr int barCount = 4;
+constexpr int barWidth = 32;
+constexpr int barHeight = 4;
+constexpr int gap = 4;
+
+} // namespace
+
+/// Four short bars, as many of them filled as the level says.
+class PasswordStrengthView::Meter : public QWidget
+{
+public:
+    Meter() { setFixedSize(barCount * barWidth + (barCount - 1) * gap, barHeight); }
+
+    /// 0 to 4.
+    void setLevel(int level)
+    {
+        m_level = level;
+        QWidget::update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        for (int bar = 0; bar < barCount; ++bar) {
+            painter.setBrush(bar < m_level ? Palette::focusBlue : Palette::listHover);
+            painter.drawRoundedRect(QRectF(bar * (barWidth + gap), 0, barWidth, barHeight), barHeight / 2.0,
+                                    barHeight / 2.0);
+        }
+    }
+
+private:
+    int m_level = 0;
+};
 
 PasswordStrengthView::PasswordStrengthView(KSPasswordField *field, QWidget *parent)
     : QWidget(parent)
     , m_field(field)
-    , m_meter(new StrengthMeter)
+    , m_meter(new Meter)
     , m_word(TextStyle::makeLabel({}, TextStyle::Size::Small, Palette::label))
     , m_capsLock(new LiveLabel(localized(u"大写锁定已打开"_s), TextStyle::Size::Small, Palette::red))
 {

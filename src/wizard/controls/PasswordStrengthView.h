@@ -5,7 +5,6 @@
 class KSPasswordField;
 class LiveLabel;
 class QLabel;
-class StrengthMeter;
 
 /// The line below a password field: a strength meter, its word, and a warning, spoken by screen readers, while
 /// caps lock is on. Follows the field.
@@ -19,10 +18,12 @@ public:
     QString word() const;
 
 private:
+    class Meter;
+
     void update();
 
     KSPasswordField *m_field;
-    StrengthMeter *m_meter;
+    Meter *m_meter;
     QLabel *m_word;
     LiveLabel *m_capsLock;
 };

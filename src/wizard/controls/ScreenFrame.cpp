@@ -1,9 +1,7 @@
 #include "ScreenFrame.h"
 
 #include "Palette.h"
-#include "StepMarks.h"
 #include "TextStyle.h"
-#include "WTView.h"
 
 #include <QKeyEvent>
 #include <QPushButton>
@@ -29,7 +27,7 @@ QWidget *makeRule()
 
 } // namespace
 
-ScreenFrame::ScreenFrame(WTView *screen, WizardStep step)
+ScreenFrame::ScreenFrame(QWidget *screen, WizardStep step)
     : QWidget(screen)
     , m_screen(screen)
     , m_heading(TextStyle::makeLabel({}, TextStyle::Size::Heading, Palette::heading))

@@ -1,14 +1,12 @@
 #pragma once
 
+#include "StepMarks.h"
+
 #include <QVBoxLayout>
 #include <QWidget>
 
 class QAbstractButton;
 class QLabel;
-class WTView;
-
-/// The four steps that the marks at the top of every screen show.
-enum class WizardStep { Connect, Network, SetUp, Done };
 
 /// What every screen has: step marks, heading, instruction, a content area, and the bar with the way back on the left
 /// and the main action on the right. It fills its screen. Enter is the main action unless another
@@ -25,7 +23,7 @@ class ScreenFrame : public QWidget
     Q_OBJECT
 
 public:
-    ScreenFrame(WTView *screen, WizardStep step);
+    ScreenFrame(QWidget *screen, WizardStep step);
 
     /// One short sentence; also the screen's accessible name.
     void setHeading(const QString &text);
@@ -56,7 +54,7 @@ private:
     /// The push button with the keyboard, else the main action.
     QAbstractButton *buttonForEnter() const;
 
-    WTView *m_screen;
+    QWidget *m_screen;
     QLabel *m_heading;
     QLabel *m_instruction;
     QVBoxLayout *m_content;

@@ -1,11 +1,10 @@
 #include "StepMarks.h"
 
+#include "LiveLabel.h"
 #include "Localized.h"
 #include "Palette.h"
-#include "ScreenFrame.h"
 #include "TextFormat.h"
 #include "TextStyle.h"
-#include "accessibleRole.h"
 
 #include <QPainter>
 

@@ -2,7 +2,8 @@
 
 #include <QWidget>
 
-enum class WizardStep;
+/// The four steps that the marks at the top of every screen show.
+enum class WizardStep { Connect, Network, SetUp, Done };
 
 /// The row of numbered steps at the top of every screen; the current one stands out, those behind it are ticked.
 class StepMarks : public QWidget

@@ -1,6 +1,5 @@
 #include "ResultPanel.h"
 
-#include "LinkLabel.h"
 #include "LiveLabel.h"
 #include "Localized.h"
 #include "Palette.h"
@@ -10,6 +9,7 @@
 #include "WTManager.h"
 
 #include <QFileInfo>
+#include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QUrl>
 
@@ -21,6 +21,19 @@ namespace
 constexpr QSize markSize{96, 96};
 constexpr int markGap = 32;
 constexpr int widestText = 560;
+
+/// A label with one link that people reach by Tab. The toolkit gives the keyboard to the label at the first Tab and
+/// marks the link only at the second; here the first Tab marks the link.
+class LinkLabel : public QLabel
+{
+protected:
+    void focusInEvent(QFocusEvent *event) override
+    {
+        QLabel::focusInEvent(event);
+        if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+            QLabel::focusNextPrevChild(true);
+    }
+};
 
 QString folderLink(const QString &logPath)
 {

@@ -1,18 +1,20 @@
 #include "WTCompleteView.h"
 
 #include "ButtonSchemes.h"
+#include "DesktopPort.h"
 #include "Localized.h"
 #include "Log.h"
 #include "ResultPanel.h"
 #include "ScreenFrame.h"
 #include "WTApp.h"
 #include "WTButton.h"
-#include "openAddPrinterPanel.h"
+#include "WTCommand.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-WTCompleteView::WTCompleteView(QWidget *parent)
+WTCompleteView::WTCompleteView(DesktopPort &desktop, QWidget *parent)
     : WTView(parent)
+    , m_desktop(desktop)
     , m_title(new ResultPanel(u"success"_s))
     , m_addPrinter(new WTButton)
     , m_complateBtn(new WTButton)
@@ -56,6 +58,6 @@ void WTCompleteView::over()
 {
     logInfo("🏷");
     if (m_isSelectFlag)
-        openAddPrinterPanel();
+        WTCommand::executeShellScript(m_desktop.addPrinterCommandLine());
     WTApp::wt_exitApp();
 }

@@ -2,6 +2,7 @@
 
 #include "WTView.h"
 
+class DesktopPort;
 class ResultPanel;
 class WTButton;
 
@@ -11,7 +12,7 @@ class WTCompleteView : public WTView
     Q_OBJECT
 
 public:
-    explicit WTCompleteView(QWidget *parent = nullptr);
+    explicit WTCompleteView(DesktopPort &desktop, QWidget *parent = nullptr);
 
     void awakeFromNib() override;
 
@@ -21,6 +22,7 @@ public:
     void over();
 
 private:
+    DesktopPort &m_desktop;
     ResultPanel *m_title;
     WTButton *m_addPrinter;
     WTButton *m_complateBtn;

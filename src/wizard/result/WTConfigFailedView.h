@@ -1,21 +1,14 @@
 #pragma once
 
-#include "WTView.h"
-
-class WTButton;
+#include "NoteView.h"
 
 /// The printer did not take the configuration. The way back leads past the run to the screen before it.
-class WTConfigFailedView : public WTView
+class WTConfigFailedView : public NoteView
 {
     Q_OBJECT
 
 public:
     explicit WTConfigFailedView(QWidget *parent = nullptr);
 
-    void awakeFromNib() override;
-
     void backAction();
-
-private:
-    WTButton *m_previous;
 };

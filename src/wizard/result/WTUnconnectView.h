@@ -1,21 +1,14 @@
 #pragma once
 
-#include "WTView.h"
-
-class WTButton;
+#include "NoteView.h"
 
 /// No printer is on the USB bus; the way back looks for one again.
-class WTUnconnectView : public WTView
+class WTUnconnectView : public NoteView
 {
     Q_OBJECT
 
 public:
     explicit WTUnconnectView(QWidget *parent = nullptr);
 
-    void awakeFromNib() override;
-
     void back();
-
-private:
-    WTButton *m_previous;
 };

@@ -5,14 +5,13 @@
 #include "Palette.h"
 #include "PictureView.h"
 #include "ScreenFrame.h"
+#include "ScreenPorts.h"
 #include "TextFormat.h"
 #include "TextStyle.h"
-#include "WTApp.h"
 #include "WTCompleteView.h"
 #include "WTConfigFailedView.h"
 #include "WTConfigurationRun.h"
 #include "WTFailedView.h"
-#include "WTManager.h"
 #include "WTProgressView.h"
 
 #include <QVBoxLayout>
@@ -26,9 +25,9 @@ constexpr QSize pictureSize{248, 112};
 
 } // namespace
 
-WTInstallingView::WTInstallingView(QWidget *parent)
+WTInstallingView::WTInstallingView(const ScreenPorts &ports, QWidget *parent)
     : WTView(parent)
-    , m_run(new WTConfigurationRun(WTManager::shared().time(), WTApp::shared().capabilities().canPollAddress, this))
+    , m_run(new WTConfigurationRun(ports.time, ports.host.canPollAddress, this))
     , m_progressView(new WTProgressView)
     , m_progressLabel(new LiveLabel({}, TextStyle::Size::Body, Palette::label))
     , m_network(TextStyle::makeLabel({}, TextStyle::Size::Large, Palette::heading))

@@ -15,6 +15,7 @@ class WTConfigFailedView;
 class WTConfigurationRun;
 class WTFailedView;
 class WTProgressView;
+struct ScreenPorts;
 
 /// Shows a configuration run: a bar, the step under way in words, and at the end the screen that the run names. Each
 /// appearance is a new run; there is no way back during one. The operations are the run's own, see
@@ -24,7 +25,7 @@ class WTInstallingView : public WTView
     Q_OBJECT
 
 public:
-    explicit WTInstallingView(QWidget *parent = nullptr);
+    explicit WTInstallingView(const ScreenPorts &ports, QWidget *parent = nullptr);
 
     /// The three screens a run can end on. All are set before the first run.
     void setCompleteView(WTCompleteView *view) { m_completeView = view; }

@@ -8,7 +8,7 @@ class WTConfigStateInfoView : public WpsOutcomeView
     Q_OBJECT
 
 public:
-    explicit WTConfigStateInfoView(ProcessEnd processEnd, QWidget *parent = nullptr);
+    WTConfigStateInfoView(DesktopPort &desktop, ProcessEnd processEnd, QWidget *parent = nullptr);
 
     void finishAction();
 };

@@ -8,7 +8,7 @@ class WTWpsLinkStateView : public WpsOutcomeView
     Q_OBJECT
 
 public:
-    explicit WTWpsLinkStateView(ProcessEnd processEnd, QWidget *parent = nullptr);
+    WTWpsLinkStateView(DesktopPort &desktop, ProcessEnd processEnd, QWidget *parent = nullptr);
 
     void selectDone(WTHoverView *item) override;
     void addPrinterNow() override;

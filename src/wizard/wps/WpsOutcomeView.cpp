@@ -1,10 +1,12 @@
 #include "WpsOutcomeView.h"
 
 #include "ButtonSchemes.h"
+#include "DesktopPort.h"
 #include "Localized.h"
 #include "ScreenFrame.h"
 #include "TilePair.h"
 #include "WTButton.h"
+#include "WTCommand.h"
 #include "WTLog.h"
 
 #include <cstdlib>
@@ -17,8 +19,8 @@ void endProcess()
     std::_Exit(0);
 }
 
-WpsOutcomeView::WpsOutcomeView(WTHoverView *success, WTHoverView *failure, const Texts &texts, ProcessEnd processEnd,
-                               QWidget *parent)
+WpsOutcomeView::WpsOutcomeView(WTHoverView *success, WTHoverView *failure, const Texts &texts, DesktopPort &desktop,
+                               ProcessEnd processEnd, QWidget *parent)
     : WTView(parent)
     , m_success(success)
     , m_failure(failure)
@@ -26,6 +28,7 @@ WpsOutcomeView::WpsOutcomeView(WTHoverView *success, WTHoverView *failure, const
     , m_finish(new WTButton)
     , m_previous(new WTButton)
     , m_addPrinter(new WTButton)
+    , m_desktop(desktop)
     , m_processEnd(std::move(processEnd))
 {
     m_finish->setObjectName(texts.finishName);
@@ -67,6 +70,11 @@ void WpsOutcomeView::addPrinterNow()
 {
     m_isSelectFlag = !m_isSelectFlag;
     ButtonSchemes::showChecked(*m_addPrinter, m_isSelectFlag);
+}
+
+void WpsOutcomeView::openAddPrinterPanel()
+{
+    WTCommand::executeShellScript(m_desktop.addPrinterCommandLine());
 }
 
 void WpsOutcomeView::endWhenSucceeded()

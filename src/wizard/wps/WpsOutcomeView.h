@@ -5,6 +5,7 @@
 
 #include <functional>
 
+class DesktopPort;
 class TilePair;
 class WTButton;
 
@@ -34,11 +35,12 @@ protected:
         QString finishName; ///< Object name of the finish button.
     };
 
-    WpsOutcomeView(WTHoverView *success, WTHoverView *failure, const Texts &texts, ProcessEnd processEnd,
-                   QWidget *parent);
+    WpsOutcomeView(WTHoverView *success, WTHoverView *failure, const Texts &texts, DesktopPort &desktop,
+                   ProcessEnd processEnd, QWidget *parent);
 
     bool succeeded() const { return m_success->isSelect(); }
     WTButton *finishButton() const { return m_finish; }
+    void openAddPrinterPanel();
     /// Ends the process if success was reported.
     void endWhenSucceeded();
 
@@ -50,6 +52,7 @@ private:
     WTButton *m_finish;
     WTButton *m_previous;
     WTButton *m_addPrinter;
+    DesktopPort &m_desktop;
     ProcessEnd m_processEnd;
     bool m_isSelectFlag = false;
 };

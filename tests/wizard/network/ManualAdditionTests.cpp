@@ -85,10 +85,7 @@ void ManualAdditionTests::open(const PrinterScript &script, const ModelIdentity 
             return m_time.runUntil(done, [&bus] { return bus.busy(); });
         },
         script, identity);
-    m_screen = new WTNetworkWithManualAddition(m_bed->spooler());
-    m_bed->window().addScreen(m_screen);
-    m_screen->setInstallingView(&m_bed->installing());
-    m_screen->awakeFromNib();
+    m_screen = &m_bed->screenOf<WTNetworkWithManualAddition>();
     m_screen->setPrinter(m_bed->findPrinter());
     m_bed->entry().pushView(m_screen);
     m_bed->window().show();

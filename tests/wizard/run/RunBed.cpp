@@ -25,19 +25,11 @@ RunBed::RunBed(TimePort &time, Wait wait, const PrinterScript &script, const Mod
     m_bus.addPrinter(PrinterModel(identity, script));
     m_bus.plug();
 
+    m_screens = std::make_unique<WizardScreens>(ScreenPorts{time, m_desktop, {}});
     m_entry = new WTView;
-    m_installing = new WTInstallingView;
-    m_complete = new WTCompleteView;
-    m_failed = new WTFailedView;
-    m_configFailed = new WTConfigFailedView;
-    m_installing->setCompleteView(m_complete);
-    m_installing->setFailedView(m_failed);
-    m_installing->setConfigFailedView(m_configFailed);
-    for (WTView *view : std::initializer_list<WTView *>{m_entry, m_installing, m_complete, m_failed, m_configFailed}) {
-        m_window.addScreen(view);
-        view->awakeFromNib();
-    }
-    m_window.setContentView(m_entry);
+    window().addScreen(m_entry);
+    m_entry->awakeFromNib();
+    window().setContentView(m_entry);
 }
 
 RunBed::~RunBed()
@@ -67,18 +59,18 @@ void RunBed::push(const WTPrinterPtr &printer, const QString &name, const QStrin
     auto wifi = std::make_shared<WTWiFi>();
     wifi->SSID = name;
     wifi->password = password;
-    m_installing->setPrinter(printer);
-    m_installing->setWifi(wifi);
-    m_installing->setProgress(0);
-    m_entry->pushView(m_installing);
+    installing().setPrinter(printer);
+    installing().setWifi(wifi);
+    installing().setProgress(0);
+    m_entry->pushView(&installing());
 }
 
 WTView *RunBed::screenAtEnd()
 {
-    return waitFor([this] { return screen() != m_installing; }) ? screen() : nullptr;
+    return waitFor([this] { return screen() != &installing(); }) ? screen() : nullptr;
 }
 
 WTConfigurationRun &RunBed::run()
 {
-    return *m_installing->findChild<WTConfigurationRun *>();
+    return *installing().findChild<WTConfigurationRun *>();
 }

@@ -1,8 +1,9 @@
 #pragma once
 
 #include "EmulatedCommand.h"
+#include "FakeHost.h"
+#include "FakeSpooler.h"
 #include "LibusbPort.h"
-#include "SpoolerPort.h"
 #include "UsbfsBed.h"
 #include "VirtualTime.h"
 #include "WTCompleteView.h"
@@ -11,21 +12,12 @@
 #include "WTFailedView.h"
 #include "WTInstallingView.h"
 #include "WTWindow.h"
+#include "WizardScreens.h"
 
 #include <functional>
-#include <vector>
 
-/// A spooler that lists what the test says.
-class ScriptedSpooler : public SpoolerPort
-{
-public:
-    std::vector<PrintDestination> destinations() override { return queues; }
-
-    std::vector<PrintDestination> queues;
-};
-
-/// The screens of a configuration run in their window, over real libusb with one emulated printer on its bus. One bed
-/// at a time.
+/// The wizard's screens in their window, over real libusb with one emulated printer on its bus. The window opens on a
+/// bare screen, from which a run can be pushed as from an entry screen. One bed at a time.
 class RunBed
 {
 public:
@@ -42,18 +34,23 @@ public:
     /// As an entry screen pushes the run.
     void push(const WTPrinterPtr &printer, const QString &name, const QString &password);
     /// The screen that is showing; the run's own while it lasts.
-    WTView *screen() const { return m_window.contentView(); }
+    WTView *screen() const { return window().contentView(); }
     /// Waits for the run's end and answers where it ended; null when it does not end.
     WTView *screenAtEnd();
 
     UsbfsBed &bus() { return m_bus; }
-    ScriptedSpooler &spooler() { return m_spooler; }
-    WTWindow &window() { return m_window; }
+    FakeSpooler &spooler() { return m_spooler; }
+    WTWindow &window() const { return m_screens->window(); }
+    template <typename Screen>
+    Screen &screenOf() const
+    {
+        return *window().findChild<Screen *>();
+    }
     WTView &entry() { return *m_entry; }
-    WTInstallingView &installing() { return *m_installing; }
-    WTCompleteView &complete() { return *m_complete; }
-    WTFailedView &failed() { return *m_failed; }
-    WTConfigFailedView &configFailed() { return *m_configFailed; }
+    WTInstallingView &installing() const { return screenOf<WTInstallingView>(); }
+    WTCompleteView &complete() const { return screenOf<WTCompleteView>(); }
+    WTFailedView &failed() const { return screenOf<WTFailedView>(); }
+    WTConfigFailedView &configFailed() const { return screenOf<WTConfigFailedView>(); }
     WTConfigurationRun &run();
     int sends(quint16 command) const { return m_bus.record().count(command); }
 
@@ -61,11 +58,8 @@ private:
     Wait m_wait;
     UsbfsBed m_bus;
     LibusbPort m_usb;
-    ScriptedSpooler m_spooler;
-    WTWindow m_window;
-    WTView *m_entry;
-    WTInstallingView *m_installing;
-    WTCompleteView *m_complete;
-    WTFailedView *m_failed;
-    WTConfigFailedView *m_configFailed;
+    FakeSpooler m_spooler;
+    FakeDesktop m_desktop;
+    std::unique_ptr<WizardScreens> m_screens;
+    WTView *m_entry = nullptr;
 };

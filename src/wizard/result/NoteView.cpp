@@ -1,0 +1,33 @@
+#include "NoteView.h"
+
+#include "ButtonSchemes.h"
+#include "Localized.h"
+#include "ResultPanel.h"
+#include "ScreenFrame.h"
+#include "WTButton.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+NoteView::NoteView(WizardStep step, const Texts &texts, QWidget *parent)
+    : WTView(parent)
+    , m_previous(new WTButton)
+{
+    m_previous->setObjectName(u"previous"_s);
+    m_previous->setTitle(localized(u"上一步"_s));
+
+    auto *panel = new ResultPanel(texts.pictureName);
+    panel->setMessage(texts.message);
+    panel->setAdvice(texts.advice);
+    auto *frame = new ScreenFrame(this, step);
+    frame->setHeading(texts.heading);
+    frame->content()->addWidget(panel);
+    frame->content()->addStretch(1);
+    frame->setBackButton(m_previous);
+    frame->setFirstFocus(m_previous);
+}
+
+void NoteView::awakeFromNib()
+{
+    WTView::awakeFromNib();
+    ButtonSchemes::applyBack(*m_previous);
+}

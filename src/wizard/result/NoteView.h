@@ -1,0 +1,30 @@
+#pragma once
+
+#include "StepMarks.h"
+#include "WTView.h"
+
+class WTButton;
+
+/// What the two screens share that end a way with a note: what happened, what one can do about it, and the way back.
+class NoteView : public WTView
+{
+    Q_OBJECT
+
+public:
+    void awakeFromNib() override;
+
+protected:
+    struct Texts {
+        QString pictureName;
+        QString heading;
+        QString message;
+        QString advice;
+    };
+
+    NoteView(WizardStep step, const Texts &texts, QWidget *parent);
+
+    WTButton *previousButton() const { return m_previous; }
+
+private:
+    WTButton *m_previous;
+};
