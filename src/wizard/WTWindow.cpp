@@ -37,7 +37,8 @@ void WTWindow::addScreen(WTView *view)
 void WTWindow::setContentView(WTView *view)
 {
     view->viewWillMoveToSuperview();
-    // The stack measures everything that it holds, and a screen that nobody has seen needs no measures yet.
+    // A screen becomes a page of the stack only now, because the stack lays out all its pages at once and that takes
+    // time at the start of the program.
     if (m_content->indexOf(view) < 0)
         m_content->addWidget(view);
     m_contentView = view;

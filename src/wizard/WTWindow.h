@@ -17,7 +17,7 @@ public:
 
     /// Takes a screen over and keeps it hidden until it becomes the content.
     void addScreen(WTView *view);
-    /// All that were added, in this order.
+    /// All screens that were added, in the order in which they were.
     const QList<WTView *> &screens() const { return m_screens; }
 
     WTView *contentView() const override { return m_contentView; }
@@ -29,18 +29,19 @@ public:
     /// Does nothing: the window lives until its owner destroys it, closed or not.
     void setReleasedWhenClosed(bool released);
 
-    WTView *welcomeView = nullptr;     ///< Set by the layout, read by nothing.
-    WTView *autoInstallView = nullptr; ///< Set by the layout, read by nothing.
+    WTView *welcomeView = nullptr;     ///< The start screen. Nothing reads it.
+    WTView *autoInstallView = nullptr; ///< The run's screen. Nothing reads it.
 
 Q_SIGNALS:
-    /// The close button was pressed. Closing itself is refused unless the application or the session is ending.
+    /// The user asked for the window to be closed, and it stays open. While the session manager ends the session, and
+    /// while the application object is destroyed, the window closes without this signal.
     void closeRequested();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    QStackedWidget *m_content; ///< Holds the screens that have been shown, and is the parent of all.
+    QStackedWidget *m_content; ///< Parent of all screens; its pages are those that have been shown.
     QList<WTView *> m_screens;
     WTView *m_contentView = nullptr;
 };

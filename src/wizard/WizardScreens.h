@@ -8,7 +8,7 @@
 class WTStartView;
 class WTWindow;
 
-/// Makes the window and all screens, and wires every outlet. Main thread.
+/// Makes the window and all screens, and tells each screen which others it leads to. Main thread.
 class WizardScreens
 {
 public:

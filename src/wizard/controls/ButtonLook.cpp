@@ -11,8 +11,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 
-constexpr int ringRoom = 4;    ///< On every side of the shape.
-constexpr qreal ringWidth = 2; ///< Half of the room stays white between shape and ring.
+constexpr int ringRoom = 4;    ///< Between the shape and the edge of the widget.
+constexpr qreal ringWidth = 2; ///< Thinner than its room: what is left stays white between shape and ring.
 constexpr int shapeHeight = 40;
 constexpr int leadingShapeHeight = 24;
 constexpr int shapeWidth = 128; ///< At least.
@@ -43,7 +43,8 @@ void ButtonLook::paint(QPainter &painter, const QAbstractButton &button) const
     if (button.hasFocus()) {
         const qreal outside = ringRoom - ringWidth / 2;
         QRectF ring = shape.adjusted(-outside, -outside, outside, outside);
-        // A check box is flush with what stands above it, which leaves the ring room around its title only.
+        // The picture of a check box stands at the very edge of the widget, so there is room for a ring around its
+        // title only.
         if (leading)
             ring.setLeft(left + imageRoom - ringRoom);
         painter.setPen(QPen(Palette::focusBlue, ringWidth));

@@ -8,7 +8,7 @@
 class QAbstractButton;
 class QPainter;
 
-/// How a button of the wizard is drawn at one moment. Around the shape there is room for the focus ring.
+/// How a button of the wizard is drawn at one moment: a rounded shape, with room for the focus ring around it.
 struct ButtonLook {
     QColor text;
     QColor border;
@@ -18,10 +18,10 @@ struct ButtonLook {
     Picture image;
     bool leading = false; ///< Picture and title stand at the left edge instead of the middle.
 
-    /// Draws the button's title without the spaces around it, so that it looks centred.
+    /// Leaves out the spaces around the button's title, so that the title looks centred.
     void paint(QPainter &painter, const QAbstractButton &button) const;
 
     static QSize sizeHint(const QAbstractButton &button, const Picture &image, bool leading);
-    /// The title as it is read aloud: no spaces around it, no mark of its mnemonic.
+    /// The title as a screen reader reads it: without the spaces around it and without the "&" of its mnemonic.
     static QString spokenTitle(const QString &title);
 };

@@ -2,7 +2,7 @@
 
 class WTButton;
 
-/// The looks that the screens give their buttons. Each ends with the button's `awakeFromNib`.
+/// The looks that the screens give their buttons. Each function ends with the button's `awakeFromNib`.
 namespace ButtonSchemes
 {
 
@@ -10,12 +10,12 @@ namespace ButtonSchemes
 void applyRed(WTButton &button);
 /// The way back: red border and title on white, an arrow in front.
 void applyBack(WTButton &button);
-/// The information-page button: blue border and title on white.
+/// The information-page button: dark title in a blue border on white.
 void applyBlue(WTButton &button);
 /// A check box: no border, its picture left of its title.
 void applyCheckBox(WTButton &button);
 
-/// Shows a check box as checked or not, to eyes and to screen readers.
+/// Shows a check box as checked or not, in its picture and to screen readers.
 void showChecked(WTButton &checkBox, bool checked);
 
 } // namespace ButtonSchemes

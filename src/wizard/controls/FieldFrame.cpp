@@ -15,7 +15,8 @@ namespace
 
 constexpr int boxHeight = 40;
 constexpr int boxPadding = 8;
-/// The field keeps off the border: at a scale factor between two whole ones it would cover a part of it.
+/// Distance between the field and the outer edge of the frame. Without it the field would cover part of the border when
+/// the scale factor of the screen is no whole number.
 constexpr int boxBorder = 1;
 constexpr qreal cornerRadius = 4;
 
@@ -33,7 +34,7 @@ FieldFrame::FieldFrame(const QString &label, QWidget *field, QWidget *parent)
     field->installEventFilter(this);
     field->setAccessibleName(ButtonLook::spokenTitle(label));
     auto *layout = new QVBoxLayout(this);
-    // The border is drawn around the field, so that it needs a line below one that has no note.
+    // The border reaches one pixel below the field. That pixel must lie in the frame also when no note follows.
     layout->setContentsMargins(0, 0, 0, 1);
     layout->setSpacing(8);
     layout->addWidget(m_label);
@@ -82,7 +83,7 @@ bool FieldFrame::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::FocusOut) {
         const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
-        // A menu gives it back, and so does another window.
+        // After a menu or another window the field gets the keyboard back, so it keeps the colour meanwhile.
         if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
             setBorderColor(Palette::frame);
     }

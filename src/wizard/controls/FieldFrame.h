@@ -13,19 +13,19 @@ class FieldFrame : public QWidget
     Q_OBJECT
 
 public:
-    /// Takes the field over as its child and gives it the label as accessible name. The label's mnemonic leads to it.
+    /// The field becomes the frame's child. The label is its accessible name, and the label's mnemonic key goes to it.
     FieldFrame(const QString &label, QWidget *field, QWidget *parent = nullptr);
 
-    /// `Palette::frame` at rest, `Palette::focusBlue` with the keyboard. It is at rest again as soon as the keyboard
-    /// goes elsewhere in the window.
+    /// `Palette::frame` at first. The screen sets `Palette::focusBlue` when the field gets the keyboard; the frame goes
+    /// back to `Palette::frame` by itself when another widget of the window gets it.
     QColor borderColor() const { return m_borderColor; }
     void setBorderColor(const QColor &color);
 
-    /// Quiet text below the field; empty hides it.
+    /// Grey text below the field. An empty text hides the line.
     void setHelp(const QString &text);
-    /// Red text in the same place, spoken by screen readers; empty brings the help back.
+    /// Red text instead of the help, spoken by screen readers. An empty text brings the help back.
     void setError(const QString &text);
-    /// One more line of the caller's below the box.
+    /// Adds a widget below the field and its note.
     void addBelow(QWidget *widget);
 
 protected:

@@ -75,7 +75,8 @@ void KSPasswordField::setCapsLock(bool on)
 
 void KSPasswordField::keyPressEvent(QKeyEvent *event)
 {
-    // The window system does not tell the lock's state, but a letter whose case contradicts the shift key does.
+    // The window system does not say whether caps lock is on. A typed letter does: it is upper case without the shift
+    // key, or lower case with it.
     const QString typed = event->text();
     if (event->key() == Qt::Key_CapsLock)
         setCapsLock(!m_capsLock);

@@ -12,12 +12,12 @@ class KSPasswordCell
 public:
     virtual ~KSPasswordCell() = default;
     virtual QLineEdit::EchoMode echoMode() const = 0;
-    /// The picture of the mark that leads to the other cell, and what pressing it does.
+    /// The picture of the mark at the field's end, and what pressing the mark does.
     virtual QString markName() const = 0;
     virtual QString markAction() const = 0;
 };
 
-/// The text in clear.
+/// Shows the letters.
 class KSPasswordTextFieldCell : public KSPasswordCell
 {
 public:
@@ -26,7 +26,7 @@ public:
     QString markAction() const override;
 };
 
-/// The text hidden.
+/// Shows a dot for each letter.
 class KSPasswordSecureTextFieldCell : public KSPasswordCell
 {
 public:
@@ -47,21 +47,24 @@ public:
     bool showsText() const;
     void setShowsText(bool shows);
 
-    /// 0 to 1.
+    /// How hard the password is to guess, from 0 to 1.
     static double strengthOfPassword(const QString &password);
-    /// One of "", "too common", "too short", "insecure", "weak", "fair", "strong"; the keys of their translations.
+    /// A word for the strength: "", "too common", "too short", "insecure", "weak", "fair" or "strong". The words are
+    /// keys for `localized`.
     static QString descriptionOfPassword(const QString &password);
-    /// The same as a level from 0 (nothing to rate) to 4 (strong).
+    /// The strength as a level, from 0 for an empty password to 4 for a strong one.
     static int levelOfPassword(const QString &password);
-    /// Whether the word list "blacklist" holds the password, in whatever case.
+    /// Whether the word list "blacklist" of common passwords holds the password. Upper and lower case are the same.
     static bool isCommon(const QString &password);
 
     bool capsLock() const { return m_capsLock; }
 
 Q_SIGNALS:
-    /// The mark at the field's end was pressed. The screen answers with `setShowsText` and its check box.
+    /// The mark at the field's end was pressed. The field itself changes nothing: the screen calls `setShowsText` and
+    /// keeps its check box in step.
     void showHidePressed();
-    /// Noticed while typing; forgotten when the keyboard goes elsewhere.
+    /// Caps lock was found to be on or off. That shows only while somebody types; without the keyboard it counts as
+    /// off.
     void capsLockChanged(bool on);
 
 protected:

@@ -15,7 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 
-constexpr qsizetype shortestPassword = 8; ///< What WPA takes.
+constexpr qsizetype shortestPassword = 8; ///< The shortest that WPA accepts.
 constexpr qsizetype longPassword = 12;
 constexpr double variedShare = 0.4;
 constexpr double bestScore = 64;
@@ -25,7 +25,7 @@ struct Rating {
     int level;
 };
 
-/// From this strength on a password is rated so.
+/// The word for passwords of at least this strength.
 struct StrengthRow {
     double from;
     Rating rating;

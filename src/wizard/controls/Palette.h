@@ -3,7 +3,7 @@
 #include <QColor>
 #include <string_view>
 
-/// The wizard's colours, all of them, by the role they play.
+/// All colours of the wizard, named by colour or by what they are for.
 namespace Palette
 {
 
@@ -35,7 +35,7 @@ inline constexpr QColor redDisabled = color("0xE9A6AA"); ///< Fill of an action 
 inline constexpr QColor white = color("0xFFFFFF");     ///< Pages, off buttons, titles on red.
 inline constexpr QColor focusBlue = color("0x69A2EE"); ///< Focused frames, chosen tiles and rows, progress.
 inline constexpr QColor lightBlue = color("0xC1DBFF"); ///< Tile borders at rest.
-inline constexpr QColor listHover = color("0xE2EEFF"); ///< Row of a list under the pointer, what is left of a bar.
+inline constexpr QColor listHover = color("0xE2EEFF"); ///< Row of a list under the pointer, unfilled part of a bar.
 inline constexpr QColor tileRing = color("0xB1D2FF");  ///< Ring around a tile that has the keyboard.
 
 inline constexpr QColor blue = color("0x80B5FF");      ///< Information-page button: border and on state.

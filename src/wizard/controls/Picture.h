@@ -7,8 +7,8 @@
 class QPainter;
 class QRectF;
 
-/// One of the program's own drawings, by its resource name ("icon_selected 1"). Vector graphics, so it is crisp at any
-/// size and scale factor. A name without a drawing shows nothing.
+/// One of the program's own drawings, by its resource name, such as "icon_selected 1". It is vector graphics, so it is
+/// sharp at any size and scale factor. If there is no drawing of that name, nothing is drawn.
 class Picture
 {
 public:
@@ -17,7 +17,7 @@ public:
     const QString &name() const { return m_name; }
     bool isNull() const { return m_name.isEmpty(); }
 
-    /// Fills `area` as far as the drawing's proportions let it, centred.
+    /// Draws the picture in the middle of `area`, as large as fits without changing its proportions.
     void paint(QPainter &painter, const QRectF &area) const;
 
     /// `size` in device-independent pixels.

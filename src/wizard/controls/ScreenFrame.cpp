@@ -12,7 +12,7 @@ namespace
 
 constexpr int pageMargin = 40;
 constexpr int barHeight = 72;
-constexpr int ringRoom = 4; ///< Buttons keep it around their shape; the margins count from the shape.
+constexpr int ringRoom = 4; ///< Transparent edge of a button, which the margins of the bar leave out.
 
 QWidget *makeRule()
 {
@@ -130,7 +130,8 @@ void ScreenFrame::keyPressEvent(QKeyEvent *event)
         target = m_back;
     else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         target = buttonForEnter();
-    // A key that is held does what it was pressed for, once: the screen may have changed under it.
+    // A key that is held down acts only once: the first action may have changed the screen, and a repetition would act
+    // on the new one.
     if (target && event->isAutoRepeat())
         event->accept();
     else if (target && target->isEnabled())

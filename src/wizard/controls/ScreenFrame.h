@@ -9,9 +9,9 @@ class QAbstractButton;
 class QLabel;
 
 /// What every screen has: step marks, heading, instruction, a content area, and the bar with the way back on the left
-/// and the main action on the right. It fills its screen. Enter is the main action unless another
-/// push button has the keyboard, Escape the way back. The second press of a double-click does nothing on the two
-/// buttons: the first one may have brought the screen under the pointer.
+/// and the main action on the right. It fills its screen. The Escape key presses the back button. The Enter key presses
+/// the main button, or another push button if that has the keyboard. The two buttons ignore the second press of a
+/// double-click: the first press may have changed the screen, and the second would go to the new one.
 ///
 ///     auto *frame = new ScreenFrame(this, WizardStep::Network);
 ///     frame->setHeading(localized(u"..."_s));
@@ -31,18 +31,19 @@ public:
     void setInstruction(const QString &text);
     QString heading() const;
 
-    /// Where the screen's own widgets go, from the top; add a stretch for what is left over.
+    /// Holds the screen's own widgets, from top to bottom. Add a stretch where empty space shall be.
     QVBoxLayout *content() const { return m_content; }
 
-    /// The same for a screen of one widget: it stands in the middle of the content area.
+    /// Puts a screen's only widget into the middle of the content area.
     void setCenteredContent(QWidget *widget);
 
-    /// The frame takes the button over.
+    /// The button becomes the frame's child; the same holds for the two functions below.
     void setBackButton(QAbstractButton *button);
     void setMainButton(QAbstractButton *button);
-    /// A second, quieter widget of the bar, left of the main button (a check box, a side action).
+    /// A less important widget, such as a check box. It stands left of the main button.
     void addToBar(QWidget *widget);
-    /// Who gets the keyboard when the screen shows for the first time; else the first that takes it.
+    /// The widget that has the keyboard when the screen shows for the first time. Without this call it is the first one
+    /// that accepts the keyboard.
     void setFirstFocus(QWidget *widget) { m_firstFocus = widget; }
 
 protected:
@@ -51,7 +52,7 @@ protected:
     bool eventFilter(QObject *button, QEvent *event) override;
 
 private:
-    /// The push button with the keyboard, else the main action.
+    /// The push button that has the keyboard; the main button if none has it.
     QAbstractButton *buttonForEnter() const;
 
     QWidget *m_screen;

@@ -2,7 +2,7 @@
 
 #include <QScrollBar>
 
-/// A vertical scroll bar that is only a rounded handle on white. Moving it is the base's.
+/// A vertical scroll bar that is drawn as a rounded handle on white, without arrows and groove.
 class SlimScrollBar : public QScrollBar
 {
     Q_OBJECT

@@ -12,7 +12,8 @@ class TilePair : public QWidget
 public:
     TilePair(WTHoverView *first, WTHoverView *second, QWidget *parent = nullptr);
 
-    /// The radio rule: a click on `key` chooses it, a click on anything else chooses the other tile.
+    /// Chooses `key` if it is the clicked tile, else the other tile of the pair. The tile that is not chosen is
+    /// deselected.
     void choose(const WTHoverView *clicked, WTHoverView *key);
 
 private:

@@ -2,7 +2,7 @@
 
 #include <QColor>
 
-/// How far a button is in being used.
+/// What the user is doing with a button.
 enum class WTBtnState { Normal, Hover, Pressed, Disable };
 
 /// One colour for each state of a button. A colour that was never set paints nothing.

@@ -13,14 +13,14 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 
-/// The spaces behind a title without a picture.
+/// The spaces that follow a title without a picture in that language.
 QString paddingOfLanguage(const QString &language)
 {
     const bool wide = language.startsWith(u"zh") || language.startsWith(u"ja") || language.startsWith(u"ko");
     return QString(wide ? 6 : 4, u' ');
 }
 
-/// What a fill turns into on a button that can't be used now.
+/// The fill of a disabled button whose fill is `color` when it is enabled.
 QColor faded(const QColor &color)
 {
     return color == Palette::red ? Palette::redDisabled : color;

@@ -5,8 +5,8 @@
 #include <QColor>
 #include <QPushButton>
 
-/// The wizard's coloured button with the three states on, off and mixed. Colours are read by the next `setState`, so
-/// set them first. A colour that was never set changes nothing when its state is applied.
+/// The wizard's coloured button with the three states on, off and mixed. A colour of a state takes effect at the next
+/// `setState` or `awakeFromNib`. A state without a colour of its own keeps the colour of the state before it.
 class WTButton : public QPushButton
 {
     Q_OBJECT
@@ -16,16 +16,16 @@ public:
 
     explicit WTButton(QWidget *parent = nullptr);
 
-    /// Turns on the border, applies title and state once more, and enables the button after keeping in `idEnabled`
-    /// whether it was. Called once, when the colours are set.
+    /// To be called once, when all colours are set. Turns on the border, applies title and state once more, remembers
+    /// in `idEnabled` whether the button was enabled, and enables it.
     void awakeFromNib();
 
-    /// The title with the spaces that its language wants behind it; `setText` is not used.
+    /// The title ends with spaces, as many as the interface language asks for. Use this instead of `setText`.
     QString title() const { return text(); }
     void setTitle(const QString &title);
 
     short state() const { return m_state; }
-    /// Any value is kept; only on, off and mixed change colours and `stateString`.
+    /// Keeps any value, but changes colours and `stateString` only for on, off and mixed.
     void setState(short state);
     /// "On", "Off" or "Mixed".
     QString stateString() const { return m_stateString; }
@@ -51,7 +51,8 @@ public:
     QColor borderMixedColor;
     QColor mixedBlackColor;
 
-    // Background and border by interaction; the invalid colour leaves those of the state.
+    // Background and border while nothing, a press or the pointer is on the button. They cover the colours of the
+    // state; an invalid colour covers nothing.
     QColor defaultColor;
     QColor pressedColor;
     QColor hoverColor;

@@ -17,7 +17,7 @@ public:
 
     /// Whether a field may hold `text` while it is being typed.
     bool isPartialStringValid(const QString &text) const;
-    /// The value of a text is the text.
+    /// What a field makes of its text: the text itself.
     static QString objectValueForString(const QString &text) { return text; }
 
     State validate(QString &input, int &position) const override;

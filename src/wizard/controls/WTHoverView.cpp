@@ -14,7 +14,7 @@ namespace
 {
 
 constexpr QSize tileSize{280, 220};
-constexpr int ringRoom = 6; ///< On every side of the tile: the ring and a white line.
+constexpr int ringRoom = 6; ///< Edge around the tile for the focus ring and a white line inside it.
 constexpr int ringWidth = 4;
 constexpr qreal borderWidth = 2;
 constexpr qreal cornerRadius = 8;
@@ -164,7 +164,7 @@ void WTHoverView::keyPressEvent(QKeyEvent *event)
         break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        // On the chosen tile the key is the screen's main action.
+        // A chosen tile passes the key on, and the screen takes it as its main action.
         if (m_isSelect)
             event->ignore();
         else

@@ -8,7 +8,7 @@
 class PictureView;
 class WTHoverView;
 
-/// Hears that a tile was chosen.
+/// Is told that a tile was chosen.
 class WTHoverViewDelegate
 {
 public:
@@ -32,7 +32,8 @@ public:
     bool isHover() const { return m_isHover; }
     void setIsHover(bool reacts) { m_isHover = reacts; }
 
-    /// Must live as long as it is set. Without one the tile emits `clicked`.
+    /// The delegate must not be destroyed before the tile or before another one is set. A tile without a delegate emits
+    /// `clicked` instead.
     void setDelegate(WTHoverViewDelegate *delegate) { m_delegate = delegate; }
 
     QColor borderColor() const { return m_border; }
@@ -41,8 +42,8 @@ public:
     QString radioImageName() const;
     QString help() const { return m_help; }
 
-    /// What the texts leave for the picture. Tiles side by side share the smaller height, so that their titles are
-    /// level.
+    /// The height that the texts leave for the picture. Tiles side by side both take the smaller of their two heights,
+    /// so that their titles are level.
     int roomForPicture() const;
     void setPictureHeight(int height);
 

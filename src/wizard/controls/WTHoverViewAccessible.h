@@ -10,7 +10,7 @@ class WTHoverViewAccessible : public QAccessibleWidget
 public:
     explicit WTHoverViewAccessible(WTHoverView *tile);
 
-    /// Makes the tiles known to the accessibility layer; further calls change nothing.
+    /// Tells Qt's accessibility layer to use this class for tiles. Only the first call has an effect.
     static void install();
 
     QAccessible::State state() const override;

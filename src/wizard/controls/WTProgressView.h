@@ -12,7 +12,7 @@ public:
     explicit WTProgressView(QWidget *parent = nullptr);
 
     int progress() const { return value(); }
-    /// Cut to 0 and 100.
+    /// Values below 0 count as 0, values over 100 as 100.
     void setProgress(int progress);
 
     QColor color() const { return m_color; }

@@ -14,7 +14,7 @@ WTTextfield::WTTextfield(QWidget *parent)
     colors.setColor(QPalette::Base, Palette::white);
     colors.setColor(QPalette::Text, Palette::heading);
     setPalette(colors);
-    // Not `textEdited`, which an accessibility client's text does not cause.
+    // `textEdited` would miss what the user writes through a screen reader, which calls `setText`.
     connect(this, &QLineEdit::textChanged, this, [this] {
         if (!m_showsText)
             Q_EMIT controlTextDidChange(this);

@@ -14,7 +14,7 @@ namespace
 constexpr int margin = 24;
 constexpr int iconRoom = 24;
 
-/// Message and informative text are the message box's own labels, known by these names.
+/// QMessageBox names its two labels so: "qt_msgbox_label" for the message, "qt_msgbox_informativelabel" for the rest.
 QString sheetStyle()
 {
     return uR"(
@@ -56,11 +56,12 @@ void showAlert(QWidget *window, const Alert &alert, std::function<void(int respo
             box->setDefaultButton(button);
         box->setEscapeButton(button);
     }
-    // The text stands right of an icon's room that is always there.
+    // The layout of QMessageBox keeps room for an icon left of the text, even without one. A smaller margin makes up
+    // for it.
     box->layout()->setContentsMargins(margin - iconRoom, margin, margin, margin);
     if (answered) {
         QObject::connect(box, &QMessageBox::finished, window, [box, answered = std::move(answered)] {
-            // No button was clicked when the window system closed the sheet: that answers like the Escape key.
+            // When the window system closes the sheet, no button was clicked; that counts as the Escape key.
             const QAbstractButton *button = box->clickedButton() ? box->clickedButton() : box->escapeButton();
             answered(alertFirstButtonReturn + int(box->buttons().indexOf(button)));
         });

@@ -5,7 +5,7 @@
 
 class WTButton;
 
-/// What the two screens share that end a way with a note: what happened, what one can do about it, and the way back.
+/// What the two result screens share that lead nowhere but back: what happened, and what one can do about it.
 class NoteView : public WTView
 {
     Q_OBJECT

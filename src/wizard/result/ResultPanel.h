@@ -6,7 +6,7 @@ class LiveLabel;
 class QLabel;
 class QVBoxLayout;
 
-/// The body of a result screen: one big mark, one sentence, what one can do, and where the log lies.
+/// The content of a result screen: a big mark, a sentence, what one can do, and a link to the folder of the log.
 class ResultPanel : public QWidget
 {
     Q_OBJECT
@@ -18,9 +18,9 @@ public:
     void setMessage(const QString &text);
     QString message() const;
     void setAdvice(const QString &text);
-    /// A choice of the screen, below the advice.
+    /// Puts a check box of the screen below the advice.
     void addCheckBox(QWidget *checkBox);
-    /// Names the folder of the log as a link, where there is a log.
+    /// Whether the link to the log's folder is shown; it is by default, if there is a log.
     void setShowsLogFolder(bool shows) { m_showsLogFolder = shows; }
 
 protected:

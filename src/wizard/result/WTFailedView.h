@@ -5,7 +5,7 @@
 class ResultPanel;
 class WTButton;
 
-/// The run failed for a reason that it names. Its only way on ends the application.
+/// Says why the run failed. The only button ends the application.
 class WTFailedView : public WTView
 {
     Q_OBJECT
@@ -16,7 +16,7 @@ public:
     void awakeFromNib() override;
     void viewDidApear() override;
 
-    /// What the run tells before it pushes this screen; kept until it is told anew.
+    /// Set before this screen is pushed; a value that is not set again stays as it was.
     void setShowInterfaceError(bool show) { m_showInterfaceError = show; }
     bool showInterfaceError() const { return m_showInterfaceError; }
     void setShowWiFiCapabilityError(bool show) { m_showWiFiCapabilityError = show; }

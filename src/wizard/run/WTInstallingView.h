@@ -17,9 +17,9 @@ class WTFailedView;
 class WTProgressView;
 struct ScreenPorts;
 
-/// Shows a configuration run: a bar, the step under way in words, and at the end the screen that the run names. Each
-/// appearance is a new run; there is no way back during one. The operations are the run's own, see
-/// `WTConfigurationRun`.
+/// Shows a configuration run: a bar and the step under way in words, and at the end of the run the screen that the run
+/// names. Each time the screen appears, a new run begins; there is no way back during a run. The operations only call
+/// those of `WTConfigurationRun`, which says what they do.
 class WTInstallingView : public WTView
 {
     Q_OBJECT
@@ -32,7 +32,7 @@ public:
     void setFailedView(WTFailedView *view) { m_failedView = view; }
     void setConfigFailedView(WTConfigFailedView *view) { m_configFailedView = view; }
 
-    /// What the screen that pushes this one sets first: printer, network, and a progress of 0.
+    /// The screen that pushes this one first sets the printer, the network, and a progress of 0.
     void setPrinter(const WTPrinterPtr &printer);
     void setWifi(const WTWiFiPtr &wifi);
     void setProgress(int progress);

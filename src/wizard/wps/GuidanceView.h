@@ -6,7 +6,8 @@
 class WTButton;
 class WTDefaultStyleBtn;
 
-/// What the three WPS guidances share: numbered steps, the way back and the way on. They send nothing to the printer.
+/// What the three screens with WPS instructions share: numbered steps, the way back and the way on. They send nothing
+/// to the printer.
 class GuidanceView : public WTView
 {
     Q_OBJECT

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QWidget>
 
-/// One step of a guidance: a picture and what to do, localised.
+/// One numbered instruction: a picture, and what to do in the interface language.
 struct GuideStep {
     QString pictureName;
     QString text;

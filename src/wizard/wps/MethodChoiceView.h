@@ -15,7 +15,7 @@ class MethodChoiceView : public WTView, public WTHoverViewDelegate
 
 public:
     void awakeFromNib() override;
-    /// Both tiles report to this screen; the first is chosen.
+    /// Makes this screen the delegate of both tiles and chooses the first one.
     void ff_config();
 
 protected:

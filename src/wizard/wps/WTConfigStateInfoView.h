@@ -2,7 +2,7 @@
 
 #include "WpsOutcomeView.h"
 
-/// Outcome of the router-button way: what does the printer's indicator light do?
+/// Asks for the outcome of WPS by buttons, which the printer shows by its indicator light.
 class WTConfigStateInfoView : public WpsOutcomeView
 {
     Q_OBJECT

@@ -2,7 +2,7 @@
 
 #include "GuidanceView.h"
 
-/// How to use the push button from the printer's menu.
+/// Instructions for the push-button way, started from the printer's menu.
 class WTPrinterScreenWPSPBCView : public GuidanceView
 {
     Q_OBJECT

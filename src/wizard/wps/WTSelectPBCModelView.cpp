@@ -33,7 +33,8 @@ WTSelectPBCModelView::WTSelectPBCModelView(WTHoverView *pushButton, WTHoverView 
 void WTSelectPBCModelView::selectDone(WTHoverView *item)
 {
     tiles()->choose(item, m_selectPIN);
-    // The label is the opposite of the choice; whoever reads the logs knows it so.
+    // The names are exchanged: "PBC" is logged for the PIN tile, and the other way round. Those who read the logs know
+    // it that way, so it stays.
     logInfo("Selected %@", item == m_selectPIN ? "PBC" : "PIN");
 }
 

@@ -2,7 +2,7 @@
 
 #include "MethodChoiceView.h"
 
-/// From the printer's menu: push button or PIN.
+/// Choice for WPS from the printer's menu: by push button or by PIN.
 class WTSelectPBCModelView : public MethodChoiceView
 {
     Q_OBJECT

@@ -2,7 +2,7 @@
 
 #include "GuidanceView.h"
 
-/// How to use a PIN from the printer's menu.
+/// Instructions for the PIN way, started from the printer's menu.
 class WTSetPINConfigView : public GuidanceView
 {
     Q_OBJECT

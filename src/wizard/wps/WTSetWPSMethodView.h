@@ -2,7 +2,7 @@
 
 #include "MethodChoiceView.h"
 
-/// Wi-Fi Protected Setup by the router's button or by the printer's menu.
+/// Choice for Wi-Fi Protected Setup (WPS): by the router's and the printer's buttons or by the printer's menu.
 class WTSetWPSMethodView : public MethodChoiceView
 {
     Q_OBJECT

@@ -2,7 +2,7 @@
 
 #include "GuidanceView.h"
 
-/// How to use the router's button and the printer's Wi-Fi button.
+/// Instructions for the WPS button of the router and the Wi-Fi button of the printer.
 class WTUseWPSSetWifiView : public GuidanceView
 {
     Q_OBJECT

@@ -2,7 +2,7 @@
 
 #include "WpsOutcomeView.h"
 
-/// Outcome of the printer-menu ways: what does the printer's panel say?
+/// Asks for the outcome of WPS by the printer's menu, which the printer shows on its panel.
 class WTWpsLinkStateView : public WpsOutcomeView
 {
     Q_OBJECT

@@ -9,12 +9,13 @@ class DesktopPort;
 class TilePair;
 class WTButton;
 
-/// Ends the process at once with status 0, after the log has been written out. Does not return outside of tests.
+/// How a WPS outcome screen ends the process. Only one that a test gives returns.
 using ProcessEnd = std::function<void()>;
+/// Writes out the log and ends the process at once with status 0.
 void endProcess();
 
-/// What the two WPS outcome screens share: the user looks at the printer and tells by one of two tiles how it went, and
-/// may ask for the add-printer panel.
+/// What the two WPS outcome screens share: the user looks at the printer and chooses one of two tiles, success or
+/// failure, and may ask for the desktop's add-printer panel.
 class WpsOutcomeView : public WTView, public WTHoverViewDelegate
 {
     Q_OBJECT
