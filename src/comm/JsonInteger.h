@@ -2,6 +2,7 @@
 
 #include <QJsonValue>
 
-/// A JSON value read leniently as an integer: a number without its fraction, the leading digits of a text (white space
-/// and one sign before them), true as 1, anything else as 0. What does not fit becomes the nearest value that does.
+/// A JSON value read leniently as an integer: of a number the part before the point, of a text the digits that it
+/// begins with (white space and one sign may stand before them), 1 for true, and 0 for anything else. A number that is
+/// too large or too small becomes the largest or the smallest one.
 qint64 jsonInteger(const QJsonValue &value);

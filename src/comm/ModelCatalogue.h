@@ -20,9 +20,9 @@ inline constexpr QLatin1StringView catalogueErrorDomain{"Catalogue"};
 ///
 ///     {"printer_info": [{"device_name": "QZ100", "supportWifi": 1, "isOldACL": 0}, ...]}
 ///
-/// The three look-ups below compare names in different ways and stop at their first match; an empty catalogue answers
-/// true to each, so that a program without its catalogue refuses no printer. "supportWifi" and "isOldACL" are integers
-/// read leniently; an entry without a usable name never matches.
+/// The three look-ups that answer yes or no compare names in different ways, and the first entry that matches decides.
+/// An empty catalogue answers yes to all, so that a program without its catalogue refuses no printer. "supportWifi" and
+/// "isOldACL" are read by `jsonInteger`. An entry without a usable name never matches.
 class ModelCatalogue
 {
 public:
@@ -39,19 +39,20 @@ public:
     {
     }
 
-    /// The file that the information list's "CFG" names, read anew.
+    /// Reads the file that the information list names as "CFG".
     static WTResult<ModelCatalogue> readConfigured();
     static WTResult<ModelCatalogue> read(const QString &path);
 
     const QJsonArray &entries() const { return m_entries; }
 
-    /// Whether the model is known: either name contains the other, in any case.
+    /// Whether the model is known. An entry matches when its name contains `printerType` or the other way round, in any
+    /// case.
     bool isVaildFile(const QString &printerType) const;
-    /// Whether the model supports Wi-Fi: the designations in both names are equal.
+    /// Whether the model supports Wi-Fi. An entry matches when both names hold the same model designation.
     bool isWifiPrinter(const QString &printerType) const;
-    /// Whether the model needs the old ACL dialect: the designations in both names are equal.
+    /// Whether the model needs the old ACL dialect. Entries match as for `isWifiPrinter`.
     bool oldAclPrinter(const QString &printerType) const;
-    /// The entry whose name is exactly `designation`, which is not looked for inside the name.
+    /// The entry whose whole name is `designation`.
     std::optional<Model> modelNamed(const QString &designation) const;
 
 private:

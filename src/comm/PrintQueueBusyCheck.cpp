@@ -22,7 +22,7 @@ bool writesLog(BusyCheckVariant variant)
     return variant == BusyCheckVariant::List;
 }
 
-/// Absent when the name is no ASCII text; such a queue matches no printer.
+/// The name of a queue as text; absent when it is not ASCII. A queue with such a name matches no printer.
 std::optional<QString> asciiText(const QByteArray &name)
 {
     const bool isAscii = std::all_of(name.cbegin(), name.cend(), [](char byte) { return !(byte & 0x80); });

@@ -5,20 +5,21 @@
 #include <QString>
 #include <vector>
 
-/// The screens that ask whether a printer is printing differ in two small ways.
+/// Which screen asks whether a printer is printing. The two ask in slightly different ways.
 enum class BusyCheckVariant {
-    List,        ///< Keeps hyphens; logs what it examines.
-    ManualEntry, ///< Removes hyphens; logs nothing.
+    List,        ///< Keeps the hyphens of the printer type, and logs each queue that it examines.
+    ManualEntry, ///< Removes the hyphens of the printer type, and logs nothing.
 };
 
 /// Whether a print queue of this printer is printing, as the spooler sees it. Blocks for as long as the spooler takes.
 bool isWorkingWithPrintType(SpoolerPort &spooler, const QString &printerType, BusyCheckVariant variant);
 
-/// The rule behind it: whether a destination whose name contains the match key is in state "4", processing. An empty
-/// key matches nothing.
+/// The same for given queues: whether one whose name contains `printQueueMatchKey` is in state "4", processing. An
+/// empty key matches no queue.
 bool isWorking(const std::vector<PrintDestination> &destinations, const QString &printerType, const QString &vendor,
                BusyCheckVariant variant);
 
-/// What the name of a printer's queue contains: the printer type without spaces, without what follows "series" and
-/// without what precedes the vendor. Both words are looked for in any case but cut only where they stand in lower case.
+/// The text by which a printer's queue is recognised: the printer type without spaces, without what follows "series"
+/// and without what precedes the vendor. Whether the type contains the two words is asked in any case, but the text is
+/// cut only at words in lower case.
 QString printQueueMatchKey(const QString &printerType, const QString &vendor, BusyCheckVariant variant);

@@ -31,7 +31,7 @@ constexpr QStringView ipv6Pattern{
     uR"(|^([\da-fA-F]{1,4}:){5}:([\da-fA-F]{1,4})?$)"
     uR"(|^([\da-fA-F]{1,4}:){6}:$)"};
 
-/// "$" alone would let a final line end pass.
+/// The pattern for a whole text. "^...$" would also match a text with a line end behind it.
 QRegularExpression wholeText(QStringView pattern)
 {
     return QRegularExpression{QRegularExpression::anchoredPattern(pattern)};

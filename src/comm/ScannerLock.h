@@ -2,15 +2,15 @@
 
 #include <QStringList>
 
-/// The lock files by which a scanner driver says that it is using the printer: the catalogue's "scaner_locker" entries.
+/// The lock files that a scanner driver locks while it uses the printer. The catalogue names them as "scaner_locker".
 namespace ScannerLock
 {
 
-/// The paths in the configured catalogue; none without one.
+/// The paths that the catalogue names; none if there is no catalogue.
 QStringList configuredPaths();
 
-/// Whether another process holds one of the locks (flock(2)). A file that does not exist or may not be read holds
-/// nothing. The descriptors stay open on purpose: a driver that watches its lock file must not see it closed.
+/// Whether another process holds one of the locks (flock(2)). A file that does not exist or may not be read counts as
+/// not locked. The files stay open on purpose: a driver that watches its lock file must not see it being closed.
 bool isHeld(const QStringList &paths);
 
 } // namespace ScannerLock

@@ -101,7 +101,8 @@ quint16 WTCommand::CRC16(const QByteArray &data)
     constexpr quint16 initialValue = 0xFFFF;
     constexpr quint16 reflectedPolynomial = 0xA001;
 
-    // The printers count the bytes in eight bits, so a longer frame is checked over its length modulo 256 only.
+    // The printers keep the number of bytes in eight bits. So the checksum of data with more than 255 bytes covers only
+    // the first (size modulo 256) of them.
     const auto count = static_cast<quint8>(data.size());
     quint16 crc = initialValue;
     for (const char byte : QByteArrayView{data}.first(count)) {

@@ -4,8 +4,10 @@
 #include <QString>
 #include <optional>
 
-/// Builds the byte frames of printer commands. Stateless; absent bytes are an absent optional.
-/// Short and long frames differ in meaning, so no overload has a default argument.
+/// Builds the byte frames of printer commands; `std::nullopt` leaves the bytes out.
+///
+/// An overload with one parameter more can build a different frame: `ACLWithCMD` with `autoCRC16` and `PJLWithCMD` with
+/// `encrypt` always build long frames, without them short ones. Therefore no parameter has a default.
 class WTCommand
 {
 public:
@@ -25,8 +27,8 @@ public:
     static QByteArray PJLWithHeader(const Bytes &header, const Bytes &data, quint8 encrypt);
     static quint16 CRC16(const QByteArray &data);
 
-    /// Runs one command line in /bin/sh, blocks until the shell has ended, and answers what it wrote to standard
-    /// output; absent when that is no UTF-8. A command that must not block the caller redirects its output and
-    /// detaches.
+    /// Runs one command line in /bin/sh, blocks until the shell has ended, and returns what it wrote to standard
+    /// output; absent when that is not UTF-8 or the shell cannot be started. To return at once, the command line itself
+    /// must redirect its output and put its program into the background.
     static std::optional<QString> executeShellScript(const QString &commandLine);
 };

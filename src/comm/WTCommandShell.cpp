@@ -15,7 +15,7 @@
 namespace
 {
 
-/// The two ends of a pipe that no other child inherits; each is closed with its file object.
+/// A pipe that child processes do not inherit by themselves. Each end is closed when its file object is.
 struct Pipe {
     QFile readingEnd;
     QFile writingEnd;
@@ -29,7 +29,8 @@ struct Pipe {
     }
 };
 
-/// Starts "/bin/sh -c line" with its standard output on `output`. @return 0, or the error number.
+/// Starts "/bin/sh -c line" with its standard output going to the descriptor `output`.
+/// @return 0, or the error number.
 int startShell(QByteArray line, int output, pid_t &child)
 {
     std::array<char, 8> shell{"/bin/sh"};

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// The network side of a printer. No flow fills it yet.
+/// The network side of a printer. Nothing fills it yet.
 struct WTNetwork {
     QString printerName;
     QString printerURI;

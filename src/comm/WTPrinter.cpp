@@ -22,7 +22,7 @@ void WTPrinter::configPrinter()
         wifiPrinter = false;
         return;
     }
-    // An unreadable catalogue leaves the flags as they are; the manager has logged why it is unreadable.
+    // Without a readable catalogue the flags stay as they are. The manager has logged the reason.
     const auto catalogue = ModelCatalogue::readConfigured();
     if (!catalogue)
         return;

@@ -14,11 +14,11 @@ struct WTWiFiRecord {
 class WTPrinter;
 using WTPrinterPtr = std::shared_ptr<WTPrinter>;
 
-/// One discovered printer. Made anew on every report of the search service and shared by the screens that hold it.
+/// One discovered printer. Every report of the search service makes new objects; screens share the one that they hold.
 class WTPrinter
 {
 public:
-    /// The ways a printer can be connected; USB is the only one that the system assigns.
+    /// How a printer is connected. Only `ConnectedByUsb` is ever assigned.
     enum ConnectionType : quint64 { NotConnected = 0, ConnectedByUsb = 1 };
 
     /// A printer of the model that `printerType` names, with the flags that the catalogue gives it.

@@ -10,7 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 
-/// What an URL's query may hold as it stands, beside letters, digits and "-._~".
+/// The characters that a URL query holds unencoded, besides letters, digits and "-._~".
 constexpr char allowedInUrlQuery[] = "!$&'()*+,;=:@/?";
 
 constexpr auto uuidPrefix = "00000000-0000-"_L1;

@@ -4,16 +4,16 @@
 #include <functional>
 #include <optional>
 
-/// The USB side of a printer. Filled by the manager, then used by one thread at a time: `URI` and `UUID` are made on
-/// first read.
+/// The USB side of a printer, filled by the manager. Only one thread at a time may use it, since `URI` and `UUID` are
+/// made and kept when they are first read.
 class WTUSB
 {
 public:
-    /// Called with what a printer sends unasked. Reserved.
+    /// For data that a printer sends without being asked. Reserved.
     using ReceiveCallback = std::function<void(const QByteArray &data)>;
 
-    /// The stored URI, the device's own in discovery. When none is stored it is made from manufacturer, printer name
-    /// and serial number, "usb://M/N?serial=S" percent-encoded as an URL query, and kept.
+    /// The URI that was set; discovery sets the device's own. Without one it is made from manufacturer, printer name
+    /// and serial number as "usb://M/N?serial=S", percent-encoded as a URL query, and kept.
     QString URI() const;
     void setURI(const QString &uri);
 
