@@ -18,7 +18,8 @@ namespace
 {
 
 constexpr auto reactionTime = 5s;
-/// Milliseconds. Texts that came with a screen find their room within some turns of the loop.
+/// In milliseconds. A screen that has just come to show needs some turns of the event loop until its texts have their
+/// final places.
 constexpr int settlingTime = 50;
 
 /// Lets the event loop run until `condition` holds; false when `limit` has passed before.

@@ -16,17 +16,18 @@ class Autopilot : public QObject
     Q_OBJECT
 
 public:
-    /// @param pictures exists. @param speed how many times faster than usual to look around.
+    /// @param pictures the folder for the pictures, which must exist.
+    /// @param speed how many times shorter than told to look at each screen.
     Autopilot(const Story &story, WTWindow &window, const QDir &pictures, int speed);
 
     /// Begins as soon as the event loop runs.
     void start();
-    /// The last act was done.
+    /// Whether the last act of the story was done.
     bool arrived() const { return m_arrived; }
 
 private:
     void walk();
-    // Each answers what stood in the way; empty when nothing did.
+    // Each returns why it could not be done; empty when it was.
     QString visit(const Visit &visit);
     QString perform(const Act &act);
     QString click(const QString &name);

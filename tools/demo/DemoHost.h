@@ -5,11 +5,11 @@
 #include <QString>
 #include <vector>
 
-/// The computer around the demo, as data: its own Wi-Fi and its print queue.
+/// What a story says of the demo's computer: its own Wi-Fi and its print queue.
 struct DemoHost {
-    HostWiFiState wifi; ///< Without an interface by default.
+    HostWiFiState wifi; ///< By default the computer has no Wi-Fi interface.
     std::vector<VisibleNetwork> networks;
-    QString storedPassword; ///< Of the network it is joined to.
+    QString storedPassword; ///< Of the network that the computer is joined to.
     ScanPermission permission = ScanPermission::Unknown;
     bool isPrinting = false; ///< The printer's queue is processing a job.
 };

@@ -5,7 +5,7 @@
 
 #include <memory>
 
-/// The Wi-Fi of the demo's computer. A look around takes a moment, as on a real one.
+/// The Wi-Fi of the demo's computer. A scan for networks takes some time, as on a real one.
 class DemoWiFi : public HostWiFiPort
 {
 public:

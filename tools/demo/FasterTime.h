@@ -2,7 +2,7 @@
 
 #include "SystemTime.h"
 
-/// The computer's clock, some times faster: everything that waits by it waits so much shorter.
+/// A clock that runs a given number of times faster than the computer's own, so that every wait is that much shorter.
 class FasterTime final : public TimePort
 {
 public:

@@ -26,7 +26,7 @@ Act type(const QString &widget, const QString &text)
 const Act closeWindow{.kind = Act::Kind::CloseWindow, .widget = {}, .text = {}};
 const Act confirm{.kind = Act::Kind::Confirm, .widget = {}, .text = {}};
 
-/// Takes its time to join, so that the progress can be seen.
+/// A printer that does its job, slowly enough for the progress to be seen.
 PrinterScript goodPrinter()
 {
     PrinterScript script;
@@ -49,7 +49,7 @@ PrinterScript refusingPrinter()
     return script;
 }
 
-/// A computer in a house with neighbours: every kind of security, a name twice, long and multi-byte names.
+/// A computer that sees many networks: every kind of security, a name twice, long names and names in other scripts.
 DemoHost joinedComputer()
 {
     return {.wifi = {.interfaceName = u"wlan0"_s,
@@ -138,7 +138,7 @@ Story wpsStory(const QString &name, const QString &summary, const std::vector<Vi
     return {.name = name, .summary = summary, .printer = absentPrinter(), .visits = visits};
 }
 
-/// As long as the printer has its Wi-Fi off, it says so when it is asked, which only an unknown model is.
+/// The printer's Wi-Fi is off, which it tells when it is asked. Only a model that the catalogue does not know is asked.
 Story wifiOffStory()
 {
     PrinterScript printer;
@@ -153,7 +153,7 @@ Story wifiOffStory()
     return story;
 }
 
-/// A wrong password is refused once; the right one joins.
+/// The printer refuses the first password; with the second one it joins the network.
 Story wrongPasswordStory()
 {
     PrinterScript printer = goodPrinter();

@@ -13,8 +13,8 @@
 /// One thing that a person does on a screen. Widgets are named by their object names.
 struct Act {
     enum class Kind {
-        Click,       ///< On the widget.
-        Type,        ///< `text` in the place of what the widget holds, after a click on it.
+        Click,       ///< Clicks the widget.
+        Type,        ///< Clicks the widget and replaces its text by `text`.
         CloseWindow, ///< Presses the window's close button.
         Confirm,     ///< Presses the first button of the sheet that shows.
     };
@@ -23,8 +23,8 @@ struct Act {
     QString text;
 };
 
-/// A screen on the way: who arrives waits for it, looks at it, does its acts, and takes a picture before the last of
-/// them.
+/// A screen on the way through the story: wait until it shows, look at it, do the acts, and take a picture before the
+/// last one.
 struct Visit {
     QString screen; ///< The class name.
     std::vector<Act> acts;
@@ -41,7 +41,7 @@ struct Story {
     ModelIdentity model{};
     DemoHost host{};
     std::vector<Visit> visits; ///< The last act of the last one ends the program.
-    /// What the printer must have been told in the end; absent: nothing.
+    /// What the printer must have been told in the end. Absent means that it must not have been told anything.
     std::optional<QByteArray> networkName{};
     std::optional<QByteArray> password{};
 };

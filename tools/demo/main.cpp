@@ -62,7 +62,7 @@ void printStories()
         std::printf("%-16s %s\n", qPrintable(story.name), qPrintable(story.summary));
 }
 
-/// The printer was told what the story says, and nothing else.
+/// Whether the printer was told the network and the password that the story says.
 bool wasToldWell(const PrinterRecord &record, const Story &story)
 {
     if (record.networkName == story.networkName && record.password == story.password && record.allSound())
