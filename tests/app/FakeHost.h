@@ -7,19 +7,19 @@
 #include <utility>
 #include <vector>
 
-/// A host's Wi-Fi that is what the test says, and answers when the test says.
+/// The computer's Wi-Fi as the test sets it up. It answers at once, or when the test lets it.
 class FakeHostWiFi : public HostWiFiPort
 {
 public:
     HostWiFiState now;
     SecretStatus secretStatus = SecretStatus::Success;
     QStringList askedSecrets;  ///< The networks whose password was asked for.
-    bool holdsSecrets = false; ///< Keeps the requests until `answerSecrets`.
+    bool holdsSecrets = false; ///< Requests wait for `answerSecrets`.
     WTResult<std::vector<VisibleNetwork>> networks = std::vector<VisibleNetwork>{};
     int scans = 0;           ///< How often the networks were asked for.
-    bool holdsScans = false; ///< Keeps the requests until `answerScans`.
+    bool holdsScans = false; ///< Requests wait for `answerScans`.
     ScanPermission permission = ScanPermission::Unknown;
-    bool tellsPermission = true; ///< Notifies a new watcher.
+    bool tellsPermission = true; ///< A new watcher is notified at once.
 
     HostWiFiState state() override { return now; }
     void scan(NetworksCallback done) override

@@ -21,8 +21,8 @@ namespace
 
 const QString probeArgument = u"--tell-language"_s;
 
-/// The other half of the locale rows: a process of its own tells what the environment makes of it, a fact a line, and
-/// then its log.
+/// What the program does when it is started as the child process of the locale test: it prints what it made of its
+/// environment, one fact a line, and then its log.
 int tellLanguage(const QString &resources)
 {
     LogCollector log;

@@ -16,11 +16,11 @@ namespace
 
 /// One thing that a person does at the keyboard, and the screen that shows then.
 struct Stroke {
-    const char *widget;         ///< Tab leads there first; null: what has the keyboard keeps it.
+    const char *widget;         ///< Reached by Tab first; null: the keyboard stays where it is.
     Qt::Key key;                ///< `Key_unknown`: only wait.
     const char *screen;         ///< Null: the program ends.
     const char *text = nullptr; ///< Typed before the key.
-    bool waits = false;         ///< The key's action begins when it goes down and lets five seconds of events pass.
+    bool waits = false;         ///< Pressing the key starts an action that takes five seconds.
 };
 
 /// What has the keyboard, if it is within the screen that shows.
@@ -81,7 +81,7 @@ private Q_SLOTS:
 
 void KeyboardTests::initTestCase()
 {
-    // A text cursor that blinks would be a mark of the keyboard now and then only.
+    // A blinking text cursor would be visible in some of the pictures only.
     QApplication::setCursorFlashTime(0);
 }
 

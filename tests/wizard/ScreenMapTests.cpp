@@ -194,7 +194,7 @@ void ScreenMapTests::firstScreenHasNoWayBack()
 void ScreenMapTests::configurationFailedLeadsPastTheRun()
 {
     WizardBed bed;
-    // The chain that a run leaves behind, without the run.
+    // The previous screens as they are after a run, without a run.
     auto *entry = bed.screen<WTNetworkWithManualAddition>();
     bed.screen<WTInstallingView>()->setPreView(entry);
     entry->setPreView(bed.screen<WTStartView>());

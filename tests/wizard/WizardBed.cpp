@@ -46,7 +46,7 @@ WizardBed::WizardBed(std::shared_ptr<UsbTestBench> bench, qsizetype printerCount
     window().activateWindow();
     if (!QTest::qWaitForWindowActive(&window()))
         qFatal("The window does not become active.");
-    // The search's first list comes from a thread of its own, and would stand among the lines of the test.
+    // Another thread logs the first list of printers. Without this wait the line could come in the middle of a test.
     if (!QTest::qWaitFor([&log] { return !log.lines().filter(QStringLiteral("USB Printers count")).isEmpty(); }))
         qFatal("The first search tells nothing.");
 }
@@ -55,7 +55,7 @@ WizardBed::~WizardBed()
 {
     m_screens.reset();
     WTManager::shared().wt_stopDiscoverPrinter();
-    // The port may only go when no send uses it any more.
+    // The port must not be destroyed while a send still uses it.
     waitFor([] { return SendWorkers::shared().isIdle(); });
 }
 

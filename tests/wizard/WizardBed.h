@@ -21,8 +21,8 @@ private:
     QTemporaryDir m_directory;
 };
 
-/// The whole wizard in its window, over real libusb with emulated printers, in virtual time. One bed at a time; the
-/// application object lives longer, and so may the bus.
+/// The whole wizard in its window, over real libusb with emulated printers, in virtual time. Only one bed may exist at
+/// a time, and the application object must outlive it.
 class WizardBed
 {
 public:

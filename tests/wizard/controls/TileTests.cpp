@@ -116,7 +116,7 @@ void TileTests::bordersFollowChoiceAndPointer()
     QCOMPARE(tile.bLayerColor(), selected ? Palette::lightBlue : Palette::white);
     QCOMPARE(tile.radioImageName(), selected ? u"icon_selected"_s : u"icon_select_bg"_s);
 
-    // A tile that neither is selected nor reacts leaves its borders alone.
+    // A tile that is not selected and does not react to the pointer keeps its border as it is.
     tile.setIsHover(false);
     tile.setIsSelect(false);
     QTEST(tile.borderColor(), "border");

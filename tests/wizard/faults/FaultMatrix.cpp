@@ -13,52 +13,57 @@ namespace
 
 using enum Ending;
 
-/// By FaultPlace; absent where the fault cannot happen.
+/// How a run ends for each FaultPlace; absent where the fault cannot happen.
 using Endings = std::array<std::optional<Ending>, 6>;
 
 /// One row of the matrix: what the printer does, and where it leads at each place.
 struct FaultRow {
     const char *name;
     PrinterFault fault;
-    /// What happens on the bus as soon as the frame before has arrived.
+    /// What happens on the bus as soon as the preceding frame has arrived.
     std::vector<BusEvent> between;
     Endings endings;
 };
 
-/// A printer that has gone, or is in other hands, stays so: the question after the wake-up fails.
+// The endings in the order of FaultPlace.
+
+/// The printer is unplugged or taken by another program and stays so. After a lost wake-up it is the capability query
+/// that fails.
 constexpr Endings lost{Unsupported, Unsupported, Unsupported, Failed, Failed, Failed};
-/// The step is lost, the printer is not. A wake-up without answer changes nothing, an address is asked for again.
+/// One command gets no answer, the next ones do. A run does without the answer to a wake-up, and asks for an address
+/// again.
 constexpr Endings unanswered{Complete, Complete, Unsupported, ConfigFailed, Complete, Failed};
 constexpr Endings harmless{Complete, Complete, Complete, Complete, Complete, Complete};
-/// The next question gets the late answer of the one before: of the same kind it serves as well.
+/// A command gets the late answer to the one before it. If both are the same command, the answer fits.
 constexpr Endings late{Unsupported, Unsupported, Unsupported, Complete, Complete, Failed};
-/// The configuration takes nothing but 1 for success, the capability only what it knows; the others do not mind.
+/// The printer answers with an unknown result code. Configuration and capability query count that as a failure; the
+/// other commands do not look at it.
 constexpr Endings unknown{Complete, Complete, Unsupported, ConfigFailed, Complete, Complete};
-/// The header alone decides; only the address needs its data.
+/// The reply ends after its header. Only the address query needs more.
 constexpr Endings withoutAddress{Complete, Complete, Complete, Complete, Complete, Failed};
 constexpr Endings tooShortAddress{Complete, Complete, Complete, Complete, Unanswered, Unanswered};
-/// A run pauses before its address queries alone. Elsewhere one frame follows the other, and the printer leaves in the
-/// exchange before.
+/// The printer is lost between two frames. Only before an address query does the run pause long enough for that;
+/// elsewhere the printer is lost during the exchange before, which then fails.
 constexpr Endings lostBefore{Unsupported, Unsupported, Unsupported, Unsupported, Failed, Failed};
 constexpr auto none = std::nullopt;
 constexpr Endings harmlessInPause{none, Complete, none, none, Complete, Complete};
 
 constexpr qsizetype insideFrame = 20;
 constexpr qsizetype insideHeader = 8;
-/// Longer than any step waits but the configuration, which the printer may take three minutes for.
+/// Longer than the time-out of every command but the configuration, which may take three minutes.
 constexpr auto lateAnswer = 70s;
 
 std::vector<FaultRow> rows()
 {
     using enum BusEvent::Action;
     return {
-        // The frame on its way.
+        // Faults while the printer receives the frame.
         {"takes nothing", {.acceptOnly = 0}, {}, unanswered},
         {"takes half a frame", {.acceptOnly = insideFrame}, {}, unanswered},
         {"takes its time", {.acceptDelay = 4s}, {}, harmless},
         {"stalls", {.stallOut = true}, {}, unanswered},
         {"unplugged in the frame", {.unplugOut = insideFrame}, {}, lost},
-        // The reply.
+        // Faults in what the printer replies.
         {"silent", {.silent = true}, {}, unanswered},
         {"answers late", {.delay = lateAnswer}, {}, late},
         {"wrong header", {.echo = 0xFF82}, {}, unanswered},
@@ -67,7 +72,7 @@ std::vector<FaultRow> rows()
         {"no data", {.noData = true}, {}, withoutAddress},
         {"garbage as data", {.data = QByteArray(64, '\xFE')}, {}, withoutAddress},
         {"data too short", {.data = "192.168.1.7"}, {}, tooShortAddress},
-        // The reply on its way.
+        // Faults while the computer receives the reply.
         {"stalls the reply", {.stallIn = true}, {}, unanswered},
         {"short header", {.cutAt = insideHeader}, {}, unanswered},
         {"stalls in the header", {.cutAt = insideHeader, .stallIn = true}, {}, unanswered},
@@ -76,7 +81,7 @@ std::vector<FaultRow> rows()
         {"garbage behind", {.trailingGarbage = "garbage"}, {}, harmless},
         {"in small pieces", {.slices = {0, 1, 0, 7, 3}}, {}, harmless},
         {"in slow pieces", {.slices = {4, 4, 4}, .sliceDelay = 1s}, {}, harmless},
-        // Between two frames.
+        // Faults between two frames.
         {"unplugged", {}, {{.action = Unplug}}, lostBefore},
         {"unplugged and back",
          {},
@@ -106,7 +111,7 @@ constexpr std::array places{
 
 constexpr int lastQuery = 7;
 
-/// The command, and which time it comes.
+/// One sending of a command: which command it is, and the first, second or later one of its kind.
 using Occurrence = BusEvent::Cause;
 
 Occurrence occurrenceAt(const Place &place, int attempt)
@@ -134,7 +139,7 @@ std::optional<Occurrence> before(FaultPlace place, const Occurrence &step)
     Q_UNREACHABLE();
 }
 
-/// What an earlier attempt is answered, so that there is another one.
+/// An answer to an attempt that makes the run try again.
 PrinterFault negativeAnswer(const Occurrence &attempt)
 {
     if (attempt.command == Configuration)

@@ -22,8 +22,8 @@ enum class Ending { Complete, Failed, Unsupported, ConfigFailed, Unanswered };
 struct FaultCase {
     QByteArray name; ///< "configuration 2: stalls".
     FaultPlace place = FaultPlace::WakeUp;
-    PrinterScript script; ///< For a printer that is asked all four questions.
-    /// Configurations that the printer refuses first; each time the person goes back and on again.
+    PrinterScript script; ///< For a printer that gets all four commands of a run.
+    /// How many runs the printer refuses first. After each the person goes back and starts another run.
     int refusals = 0;
     Ending ending = Ending::Complete;
 };
@@ -32,9 +32,9 @@ struct FaultCase {
 namespace FaultMatrix
 {
 
-/// Each step at each of its attempts: the configuration at 3, the address query at 7.
+/// Every fault at each attempt of each step: three attempts for the configuration, seven for the address.
 std::vector<FaultCase> everyAttempt();
-/// Each place once per fault, the attempts in turn.
+/// Every fault once at each place. Where a step has several attempts, the faults hit them in turn.
 std::vector<FaultCase> everyPlace();
 
 } // namespace FaultMatrix

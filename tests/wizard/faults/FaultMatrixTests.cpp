@@ -73,7 +73,7 @@ public:
         m_bed.paste(field("passwordTextField"), u"secret of Home"_s);
     }
 
-    /// @return what was said; empty when nothing was.
+    /// @return the message that showed; empty if none did.
     QString askForInformationPage()
     {
         m_bed.click("printWiFiHomePage");
@@ -118,11 +118,12 @@ QStringList descriptorsWithoutScannerLocks()
     return descriptors;
 }
 
-/// The emulated bus and the test's own books keep a little of each run; a lost screen, transfer or frame would be more.
+/// The emulated bus and the test itself keep a few bytes of each run. A screen, transfer or frame that is not freed
+/// would take more than this.
 constexpr qint64 bytesThatARunMayKeep = 1024;
 constexpr std::size_t runsUntilSettled = 100;
 
-/// Runs that were asked for in the environment; without, the matrix is walked once in short.
+/// The number of runs that the environment asks for; without it, `everyPlace` is walked once.
 int wantedRuns()
 {
     return qEnvironmentVariableIntValue("WT_FAULT_MATRIX_RUNS");
@@ -166,7 +167,7 @@ private:
 void FaultMatrixTests::initTestCase()
 {
     m_bench->bed.addPrinter();
-    // What a process makes once and keeps.
+    // The first run makes what a process keeps until its end; the figures are taken after it.
     walk({.name = "no fault"}, Entry::List);
     walk({.name = "no fault"}, Entry::Manual);
     m_bench->bed.unplug();
@@ -208,7 +209,7 @@ void FaultMatrixTests::walk(const FaultCase &faultCase, Entry entry)
     ListBed &bed = person.bed();
     person.reachEntryScreen();
     bed.bus().setScript(faultCase.script);
-    // What happens ahead of the first frame is over before it.
+    // A fault before the first frame must have happened before the run begins.
     bool isOver = false;
     const auto pause = bed.time().after(2s, [&isOver] { isOver = true; });
     QVERIFY(bed.waitFor([&isOver] { return isOver; }));
@@ -237,15 +238,15 @@ void FaultMatrixTests::run()
     QFETCH(Entry, entry);
     walk(faultCase, entry);
     m_bench->bed.unplug();
-    // The emulated bus closes its end of a connection a little later, and a worker may still be on its way out; so it
-    // may have been when the figures were first taken: the least that was ever seen counts.
+    // The emulated bus closes its end of a connection a little later, and a worker may not have ended yet, now or when
+    // the first figures were taken. So the least that was ever seen counts.
     QTRY_VERIFY2(
         descriptorsWithoutScannerLocks().size() <= m_descriptors.size(),
         qPrintable(u"%1\nbefore: %2"_s.arg(ProcessFigures::descriptors().join(u' '), m_descriptors.join(u' '))));
     m_descriptors = descriptorsWithoutScannerLocks();
     QTRY_VERIFY(ProcessFigures::threads() <= m_threads);
     m_threads = ProcessFigures::threads();
-    // Bounded by itself: the pictures of widgets that are gone.
+    // The cache of pictures has a limit of its own, so what it holds is no leak.
     QPixmapCache::clear();
     m_heap.push_back(ProcessFigures::heap());
 }

@@ -13,7 +13,7 @@ void fillScreen(WizardBed &bed, WTView *screen);
 /// A moment that is no screen of its own: a form with both of its errors, the question before quitting.
 struct Moment {
     const char *name;
-    QWidget *(*show)(WizardBed &bed); ///< Answers the sheet that hangs over the window, if there is one.
+    QWidget *(*show)(WizardBed &bed); ///< Returns the sheet over the window; null if there is none.
 };
 
 extern const std::array<Moment, 3> moments;

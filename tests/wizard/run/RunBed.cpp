@@ -34,7 +34,7 @@ RunBed::RunBed(TimePort &time, Wait wait, const PrinterScript &script, const Mod
 
 RunBed::~RunBed()
 {
-    // The port may only go when no send uses it any more; without a printer they all end.
+    // The port must not be destroyed while a send still uses it. Unplugging the printer ends all sends.
     if (m_bus.isPlugged())
         m_bus.unplug();
     m_wait(m_bus, [] { return SendWorkers::shared().isIdle(); });

@@ -31,11 +31,11 @@ public:
     bool waitFor(const std::function<bool()> &done);
     /// Looks for the printer as the start screen does.
     WTPrinterPtr findPrinter();
-    /// As an entry screen pushes the run.
+    /// Sets printer and network and shows the run, as an entry screen does.
     void push(const WTPrinterPtr &printer, const QString &name, const QString &password);
-    /// The screen that is showing; the run's own while it lasts.
+    /// The screen that is showing. During a run it is the run's screen.
     WTView *screen() const { return window().contentView(); }
-    /// Waits for the run's end and answers where it ended; null when it does not end.
+    /// Waits for the end of the run and returns the screen it ended on; null when it does not end.
     WTView *screenAtEnd();
 
     UsbfsBed &bus() { return m_bus; }

@@ -6,7 +6,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-/// One run as it is in life: real libusb, real threads, real seconds.
+/// One run in real time: over real libusb, with real threads, waiting real seconds.
 class RunInRealTimeTests : public QObject
 {
     Q_OBJECT

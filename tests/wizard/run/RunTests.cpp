@@ -26,7 +26,7 @@ PrinterScript silentOn(quint16 command)
     return {.faults = {{.command = command, .silent = true}}};
 }
 
-/// A printer whose every run is asked all four questions.
+/// "supportWifi" of a model whose runs consist of all four commands.
 constexpr qint64 supportUnknown = -1;
 
 } // namespace
@@ -154,7 +154,7 @@ void RunTests::configurationAnswer_data()
     row(2, 31, Failed, false, false, WTManager::CloseAsks, {u"info: 🏷 result：0"_s});
 }
 
-/// Most of these answers no printer command produces, so they are given to a run whose printer keeps silent.
+/// Most of these answers cannot be had from a printer. So the run gets them directly, while its printer is silent.
 void RunTests::configurationAnswer()
 {
     QFETCH(int, errorCode);

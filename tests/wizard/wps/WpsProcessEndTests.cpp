@@ -18,7 +18,7 @@ namespace
 constexpr auto asChild = "--as-child"_L1;
 constexpr int lineCount = 20;
 
-/// Takes its time, so that lines are under way when the process ends, and holds them back until it is flushed.
+/// A slow logger, which still has lines to take when the process ends, and writes nothing before it is flushed.
 class SlowLogger : public WTLogger
 {
 public:
