@@ -39,7 +39,7 @@ struct RunMachine {
     explicit RunMachine(std::size_t mostRuns);
     ~RunMachine() { bus.unplug(); }
 
-    ScreenPorts screenPorts() { return {time, desktop, {}}; }
+    ScreenPorts screenPorts() { return {time, spooler, desktop, hostWiFi, {}}; }
     /// The printer's name for the library.
     QString uri();
 

@@ -67,5 +67,5 @@ bool isWorkingWithPrintType(SpoolerPort &spooler, const QString &printerType, Bu
 {
     if (writesLog(variant))
         logInfo("查看本地是否有打印作业,打印机名称%@", printerType);
-    return isWorking(spooler.destinations(), printerType, InfoList::value(u"Vendor"_s).value_or(QString{}), variant);
+    return isWorking(spooler.destinations(), printerType, InfoList::value(u"Vendor"_s).value_or(QString()), variant);
 }

@@ -64,7 +64,7 @@ int wt_main(int argc, char **argv, const Machine &machine, const std::function<v
     // The desktop finds the window's icon and name by its entry.
     QGuiApplication::setDesktopFileName(u"com.quillmark.wifitool"_s);
     showToolkitTexts(application);
-    WizardScreens screens({machine.time, machine.desktop, machine.capabilities});
+    WizardScreens screens({machine.time, machine.spooler, machine.desktop, machine.hostWiFi, machine.capabilities});
     AppDelegate delegate;
     delegate.setWindow(&screens.window());
     QObject::connect(&screens.window(), &WTWindow::closeRequested, &delegate, &AppDelegate::closeApplication);

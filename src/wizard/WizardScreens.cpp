@@ -1,13 +1,11 @@
 #include "WizardScreens.h"
 
 #include "Localized.h"
-#include "WTApp.h"
 #include "WTCompleteView.h"
 #include "WTConfigFailedView.h"
 #include "WTConfigStateInfoView.h"
 #include "WTFailedView.h"
 #include "WTInstallingView.h"
-#include "WTManager.h"
 #include "WTNetworkWithManualAddition.h"
 #include "WTPrinterScreenWPSPBCView.h"
 #include "WTSelectPBCModelView.h"
@@ -44,10 +42,9 @@ WizardScreens::WizardScreens(const ScreenPorts &ports, const ProcessEnd &process
     m_window->setWindowTitle(localized(u"Wi-Fi配置工具"_s));
 
     auto *unconnect = makeScreen<WTUnconnectView>(*m_window);
-    WTManager &manager = WTManager::shared();
-    const NetworkPorts networkPorts{WTApp::shared().hostWiFi(), manager.time(), manager.spooler()};
+    const NetworkPorts networkPorts{ports.hostWiFi, ports.time, ports.spooler};
     auto *wifiList = makeScreen<WTWiFiListView>(*m_window, networkPorts);
-    auto *manualAdd = makeScreen<WTNetworkWithManualAddition>(*m_window, manager.spooler());
+    auto *manualAdd = makeScreen<WTNetworkWithManualAddition>(*m_window, ports.spooler);
     auto *installing = makeScreen<WTInstallingView>(*m_window, ports);
     auto *complete = makeScreen<WTCompleteView>(*m_window, ports.desktop);
     auto *failed = makeScreen<WTFailedView>(*m_window);

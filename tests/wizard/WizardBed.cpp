@@ -41,7 +41,8 @@ WizardBed::WizardBed(std::shared_ptr<UsbTestBench> bench, qsizetype printerCount
     WTApp::shared().setAppLanguage(language);
 
     const LogCollector log;
-    m_screens = std::make_unique<WizardScreens>(ScreenPorts{m_bench->time, desktop, {}}, [this] { ++processEnds; });
+    m_screens = std::make_unique<WizardScreens>(ScreenPorts{m_bench->time, spooler, desktop, hostWiFi, {}},
+                                                [this] { ++processEnds; });
     m_screens->show();
     window().activateWindow();
     if (!QTest::qWaitForWindowActive(&window()))

@@ -11,8 +11,9 @@ constexpr const char *roleProperty = "accessibleRole";
 QAccessibleInterface *makeAccessible(const QString &, QObject *object)
 {
     const QVariant role = object ? object->property(roleProperty) : QVariant();
-    return role.isValid() ? new QAccessibleWidget(qobject_cast<QWidget *>(object), QAccessible::Role(role.toInt()))
-                          : nullptr;
+    return role.isValid()
+               ? new QAccessibleWidget(qobject_cast<QWidget *>(object), static_cast<QAccessible::Role>(role.toInt()))
+               : nullptr;
 }
 
 } // namespace
@@ -20,7 +21,7 @@ QAccessibleInterface *makeAccessible(const QString &, QObject *object)
 void setAccessibleRole(QWidget &widget, QAccessible::Role role)
 {
     [[maybe_unused]] static const bool once = (QAccessible::installFactory(makeAccessible), true);
-    widget.setProperty(roleProperty, int(role));
+    widget.setProperty(roleProperty, static_cast<int>(role));
 }
 
 LiveLabel::LiveLabel(const QString &text, TextStyle::Size size, const QColor &color, QWidget *parent)

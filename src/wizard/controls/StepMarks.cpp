@@ -36,8 +36,8 @@ StepMarks::StepMarks(WizardStep current, QWidget *parent)
     setFixedHeight(rowHeight);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setAccessibleRole(*this, QAccessible::StaticText);
-    setAccessibleName(
-        formatText(localized(u"第%d步，共%d步：%@"_s), {m_current + 1, int(m_titles.size()), m_titles[m_current]}));
+    setAccessibleName(formatText(localized(u"第%d步，共%d步：%@"_s),
+                                 {m_current + 1, static_cast<int>(m_titles.size()), m_titles[m_current]}));
 }
 
 QSize StepMarks::sizeHint() const

@@ -63,7 +63,7 @@ void showAlert(QWidget *window, const Alert &alert, std::function<void(int respo
         QObject::connect(box, &QMessageBox::finished, window, [box, answered = std::move(answered)] {
             // When the window system closes the sheet, no button was clicked; that counts as the Escape key.
             const QAbstractButton *button = box->clickedButton() ? box->clickedButton() : box->escapeButton();
-            answered(alertFirstButtonReturn + int(box->buttons().indexOf(button)));
+            answered(alertFirstButtonReturn + static_cast<int>(box->buttons().indexOf(button)));
         });
     }
     box->open();

@@ -25,7 +25,7 @@ RunBed::RunBed(TimePort &time, Wait wait, const PrinterScript &script, const Mod
     m_bus.addPrinter(PrinterModel(identity, script));
     m_bus.plug();
 
-    m_screens = std::make_unique<WizardScreens>(ScreenPorts{time, m_desktop, {}});
+    m_screens = std::make_unique<WizardScreens>(ScreenPorts{time, m_spooler, m_desktop, m_hostWiFi, {}});
     m_entry = new WTView;
     window().addScreen(m_entry);
     m_entry->awakeFromNib();

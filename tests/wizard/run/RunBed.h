@@ -60,6 +60,7 @@ private:
     LibusbPort m_usb;
     FakeSpooler m_spooler;
     FakeDesktop m_desktop;
+    FakeHostWiFi m_hostWiFi;
     std::unique_ptr<WizardScreens> m_screens;
     WTView *m_entry = nullptr;
 };
