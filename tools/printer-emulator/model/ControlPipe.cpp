@@ -14,6 +14,7 @@ constexpr quint8 printerToHost = 0xA1; ///< Class request to an interface.
 constexpr quint8 recipientMask = 0x1F;
 constexpr quint8 recipientInterface = 1;
 
+constexpr quint8 printerClass = 7;
 constexpr quint8 getDescriptor = 6;
 constexpr quint8 stringDescriptor = 3;
 constexpr quint8 getDeviceID = 0;
@@ -30,12 +31,20 @@ std::optional<QByteArray> deviceIDReply(const ModelIdentity &identity)
     return reply + text;
 }
 
-std::optional<QByteArray> wholeAnswer(const Setup &setup, const ModelIdentity &identity)
+bool namesPrinterSetting(quint16 index, const UsbShape &shape)
+{
+    const std::size_t interface = index >> 8;
+    const std::size_t setting = index & 0xFF;
+    return interface < shape.interfaces.size() && setting < shape.interfaces[interface].size() &&
+           shape.interfaces[interface][setting].interfaceClass == printerClass;
+}
+
+std::optional<QByteArray> wholeAnswer(const Setup &setup, const ModelIdentity &identity, const UsbShape &shape)
 {
     if (setup.requestType == standardToHost && setup.request == getDescriptor && setup.value >> 8 == stringDescriptor)
         return UsbDescriptors::string(identity, quint8(setup.value));
-    if (setup.requestType == printerToHost && setup.request == getDeviceID)
-        return deviceIDReply(identity);
+    if (setup.asksForDeviceID())
+        return namesPrinterSetting(setup.index, shape) ? deviceIDReply(identity) : std::nullopt;
     if (setup.requestType == printerToHost && setup.request == getPortStatus)
         return QByteArray(1, selectedNoError);
     return setup.requestType & toHost ? std::nullopt : std::optional(QByteArray());
@@ -48,16 +57,21 @@ Setup Setup::parse(QByteArrayView bytes)
     return {quint8(bytes[0]), quint8(bytes[1]), number(2), number(4), number(6)};
 }
 
-std::optional<int> Setup::interfaceToClaim() const
+bool Setup::asksForDeviceID() const
 {
-    if ((requestType & recipientMask) != recipientInterface || (requestType == printerToHost && request == getDeviceID))
+    return requestType == printerToHost && request == getDeviceID;
+}
+
+std::optional<int> Setup::interfaceToClaim(const UsbShape &shape) const
+{
+    if ((requestType & recipientMask) != recipientInterface || (asksForDeviceID() && namesPrinterSetting(index, shape)))
         return std::nullopt;
     return index & 0xFF;
 }
 
-std::optional<QByteArray> answer(const Setup &setup, const ModelIdentity &identity)
+std::optional<QByteArray> answer(const Setup &setup, const ModelIdentity &identity, const UsbShape &shape)
 {
-    const std::optional<QByteArray> whole = wholeAnswer(setup, identity);
+    const std::optional<QByteArray> whole = wholeAnswer(setup, identity, shape);
     return whole ? std::optional(whole->first(std::min<qsizetype>(whole->size(), setup.length))) : std::nullopt;
 }
 } // namespace ControlPipe

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ModelIdentity.h"
+#include "UsbShape.h"
 
 #include <QByteArray>
 #include <QByteArrayView>
@@ -21,10 +22,13 @@ struct Setup {
     /// `bytes` holds `size` bytes.
     static Setup parse(QByteArrayView bytes);
 
-    /// Addressed to an interface, so that usbfs asks for a claim of it; the device ID of a printer may always be read.
-    std::optional<int> interfaceToClaim() const;
+    bool asksForDeviceID() const;
+
+    /// Addressed to an interface, so that usbfs asks for a claim of it. The device ID may be read without one, if the
+    /// index names a setting of the printer class: the interface in its high byte, the setting in its low byte.
+    std::optional<int> interfaceToClaim(const UsbShape &shape) const;
 };
 
 /// The data stage, cut to the length asked for; absent for a stall.
-std::optional<QByteArray> answer(const Setup &setup, const ModelIdentity &identity);
+std::optional<QByteArray> answer(const Setup &setup, const ModelIdentity &identity, const UsbShape &shape);
 } // namespace ControlPipe

@@ -12,6 +12,8 @@ struct ModelIdentity {
     quint16 productID = 0x0001;
     /// A device without a device ID answers GET_DEVICE_ID with a stall and has no `ieee1284_id`.
     bool hasDeviceID = true;
+    /// Whether it answers GET_DEVICE_ID at all, if only with a stall.
+    bool answersDeviceID = true;
 
     /// The product text of the USB descriptors: "Quillmark QZ100".
     QString product() const { return manufacturer + QLatin1Char(' ') + model; }

@@ -43,6 +43,14 @@ struct PrinterScript {
     QByteArray secondIpv6{};
     bool joinedFromStart = false;
 
+    /// What transfers see of a plug that is pulled, by this script's faults and events.
+    enum class PulledPlug {
+        AtOnce,    ///< The device has left.
+        BusErrors, ///< They fail, and the device leaves a quarter of a second later, when the hub has noticed.
+        Stalls     ///< The same; the failures look like stalls.
+    };
+    PulledPlug pulledPlug = PulledPlug::AtOnce;
+
     bool plugged = true; ///< On the bus from the start; otherwise an event plugs it.
 
     std::vector<PrinterFault> faults{}; ///< The first one that fits a command and its occurrence applies.

@@ -82,6 +82,10 @@ ScriptFile ScriptFile::parse(const QByteArray &json)
     fields.readText(u"secondIpv6"_s, script.secondIpv6);
     fields.read(u"joinedFromStart"_s, script.joinedFromStart);
     fields.read(u"plugged"_s, script.plugged);
+    using enum PrinterScript::PulledPlug;
+    static constexpr std::array pulledPlugs{AtOnce, BusErrors, Stalls};
+    if (const auto choice = fields.readChoice(u"pulledPlug"_s, {u"atOnce"_s, u"busErrors"_s, u"stalls"_s}))
+        script.pulledPlug = pulledPlugs.at(*choice);
     for (const QJsonObject &object : fields.objects(u"faults"_s)) {
         const QString where = u"faults[%1]"_s.arg(script.faults.size());
         script.faults.push_back(readFault(object, where, file.complaints));

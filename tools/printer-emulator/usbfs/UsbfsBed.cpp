@@ -72,6 +72,11 @@ void UsbfsBed::setKernelDriver(bool present, int printer)
     m_bus->with(printer, [present](UsbfsDevice &device) { device.setKernelDriver(present); });
 }
 
+int UsbfsBed::deviceIDQuestions(int printer) const
+{
+    return m_bus->of<int>(printer, &UsbfsDevice::deviceIDQuestions);
+}
+
 int UsbfsBed::alternateSetting(int printer, int interface) const
 {
     return m_bus->of<int>(

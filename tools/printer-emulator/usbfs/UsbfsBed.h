@@ -34,7 +34,7 @@ public:
 
     /// Puts the printer on the bus with a device number it never had. Returns when the "add" event is on its way.
     void plug(int printer = 0);
-    /// Takes it off: transfers under way fail, the node is gone. Returns when the "remove" event is on its way.
+    /// Takes it off at once: transfers under way fail, the node is gone. Returns when the "remove" event is on its way.
     void unplug(int printer = 0);
     void replug(int printer = 0);
     bool isPlugged(int printer = 0) const;
@@ -73,6 +73,8 @@ public:
     QString sysfsPath(int printer = 0) const;
     /// The same location that UsbDevice carries: bus << 24, one nibble per port.
     quint32 locationID(int printer = 0) const;
+    /// How often programs have asked it for its device ID.
+    int deviceIDQuestions(int printer = 0) const;
     /// Interfaces that programs have claimed now.
     int claims(int printer = 0) const;
 

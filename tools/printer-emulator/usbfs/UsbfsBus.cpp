@@ -215,7 +215,7 @@ void UsbfsBus::apply(int printer, BusEvent::Action action)
     UsbfsDevice &device = *m_devices.at(printer);
     switch (action) {
     case BusEvent::Action::Unplug:
-        return device.leave();
+        return device.pullPlug();
     case BusEvent::Action::Plug:
         return post([this, printer] { plugNow(printer); });
     case BusEvent::Action::Hold:

@@ -14,6 +14,9 @@
 
 namespace
 {
+/// From the first failed transfer until a hub has told that nobody is there.
+constexpr std::chrono::milliseconds hubNotices{250};
+
 constexpr quint32 capabilities = USBDEVFS_CAP_ZERO_PACKET | USBDEVFS_CAP_NO_PACKET_SIZE_LIM |
                                  USBDEVFS_CAP_BULK_CONTINUATION | USBDEVFS_CAP_BULK_SCATTER_GATHER |
                                  USBDEVFS_CAP_REAP_AFTER_DISCONNECT;
@@ -51,7 +54,23 @@ void UsbfsDevice::leave()
     m_pipes.reset();
     m_interfaces.reset();
     m_node.reset();
+    m_leaves.reset();
     m_bus.left(*this);
+}
+
+void UsbfsDevice::pullPlug()
+{
+    using enum PrinterScript::PulledPlug;
+    const auto pulled = model().script().pulledPlug;
+    if (!isPlugged() || m_leaves)
+        return;
+    if (pulled == AtOnce)
+        return leave();
+    m_leaves = m_bus.now() + hubNotices;
+    m_failure = pulled == Stalls ? -EPIPE : -EPROTO;
+    while (!m_pending.empty())
+        complete(m_pending.begin(), m_failure);
+    m_pipes.reset();
 }
 
 gboolean UsbfsDevice::onRequest(UMockdevIoctlBase *, UMockdevIoctlClient *client, gpointer self)
@@ -84,6 +103,8 @@ int UsbfsDevice::handle(UMockdevIoctlClient *client)
     case USBDEVFS_SUBMITURB:
         return submit(client);
     case USBDEVFS_CLEAR_HALT:
+        if (m_leaves)
+            return m_failure;
         m_pipes.clearHalt(*IoctlArgument<unsigned>(client) & USB_DIR_IN);
         return 0;
     default: {
@@ -104,10 +125,11 @@ int UsbfsDevice::submit(UMockdevIoctlClient *client)
     if (const int refused = permitTransfer(urb, client); refused < 0)
         return refused;
     m_pending.push_back(std::move(urb));
-    if (m_pending.back().isControl()) {
-        answerControl(m_pending.back());
-        complete(std::prev(m_pending.end()), m_pending.back().status);
-    }
+    UsbfsUrb &submitted = m_pending.back();
+    if (m_leaves)
+        complete(std::prev(m_pending.end()), m_failure);
+    else if (submitted.isControl() && answerControl(submitted))
+        complete(std::prev(m_pending.end()), submitted.status);
     return 0;
 }
 
@@ -117,15 +139,22 @@ int UsbfsDevice::permitTransfer(const UsbfsUrb &urb, UMockdevIoctlClient *client
         return m_interfaces.claimForEndpoint(urb.endpoint(), client);
     if (urb.length() < ControlPipe::Setup::size)
         return -EINVAL;
-    const std::optional<int> interface = ControlPipe::Setup::parse(urb.bytes()).interfaceToClaim();
+    const std::optional<int> interface = ControlPipe::Setup::parse(urb.bytes()).interfaceToClaim(m_shape);
     return interface ? m_interfaces.claim(*interface, client) : 0;
 }
 
-void UsbfsDevice::answerControl(UsbfsUrb &urb) const
+bool UsbfsDevice::answerControl(UsbfsUrb &urb)
 {
-    const auto answer = ControlPipe::answer(ControlPipe::Setup::parse(urb.bytes()), m_pipes.model().identity());
+    const auto setup = ControlPipe::Setup::parse(urb.bytes());
+    if (setup.asksForDeviceID()) {
+        ++m_deviceIDQuestions;
+        if (!m_pipes.model().identity().answersDeviceID)
+            return false;
+    }
+    const auto answer = ControlPipe::answer(setup, m_pipes.model().identity(), m_shape);
     urb.status = answer ? 0 : -EPIPE;
     urb.in = answer.value_or(QByteArray());
+    return true;
 }
 
 int UsbfsDevice::reap(UMockdevIoctlClient *client)
@@ -157,6 +186,8 @@ void UsbfsDevice::pump()
     pumpOut();
     pumpIn();
     if (m_pipes.unplugIsDue(m_bus.now()))
+        pullPlug();
+    if (m_leaves && *m_leaves <= m_bus.now())
         leave();
 }
 
@@ -172,7 +203,7 @@ void UsbfsDevice::dropOrphans()
 
 UsbfsDevice::Urbs::iterator UsbfsDevice::nextOut()
 {
-    return std::ranges::find_if(m_pending, [](const UsbfsUrb &urb) { return !urb.isIn(); });
+    return std::ranges::find_if(m_pending, [](const UsbfsUrb &urb) { return !urb.isIn() && !urb.isControl(); });
 }
 
 void UsbfsDevice::pumpOut()
@@ -185,7 +216,7 @@ void UsbfsDevice::pumpOut()
 
 void UsbfsDevice::pumpIn()
 {
-    const auto nextIn = [this] { return std::ranges::find_if(m_pending, &UsbfsUrb::isIn); };
+    const auto nextIn = [this] { return std::ranges::find_if(m_pending, &UsbfsUrb::isBulkIn); };
     for (auto urb = nextIn(); urb != m_pending.end(); urb = nextIn()) {
         if (!settle(urb, m_pipes.receive(urb->in, urb->length(), m_bus.now())))
             return;
@@ -207,7 +238,7 @@ bool UsbfsDevice::settle(Urbs::iterator urb, PrinterPipes::Outcome outcome)
         complete(urb, -EOVERFLOW);
         return true;
     case PrinterPipes::Outcome::Unplug:
-        leave();
+        pullPlug();
         return false;
     }
     Q_UNREACHABLE();
@@ -234,6 +265,8 @@ void UsbfsDevice::scheduled(const BusEvent &event)
 std::optional<UsbfsDevice::Instant> UsbfsDevice::nextDue() const
 {
     std::optional<Instant> due = m_pipes.nextDue(m_bus.now());
+    if (m_leaves)
+        due = std::min(due.value_or(*m_leaves), *m_leaves);
     for (const UsbfsUrb &urb : m_pending) {
         if (urb.out.plan && !urb.out.taken)
             due = std::min(due.value_or(urb.out.due), urb.out.due);

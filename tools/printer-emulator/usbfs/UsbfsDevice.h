@@ -46,6 +46,8 @@ public:
 
     void arrive(int deviceNumber);
     void leave();
+    /// As the script has it: the device leaves at once, or transfers fail first.
+    void pullPlug();
     bool isPlugged() const { return m_node != nullptr; }
     /// 0 before the first arrival.
     int deviceNumber() const { return m_deviceNumber; }
@@ -55,6 +57,8 @@ public:
     /// Moves whatever is due.
     void pump();
     std::optional<Instant> nextDue() const;
+    /// How often it was asked for its device ID.
+    int deviceIDQuestions() const { return m_deviceIDQuestions; }
     /// Something is finished, or due, that its program has not collected.
     bool owesSomething() const;
 
@@ -75,7 +79,8 @@ private:
     int permitTransfer(const UsbfsUrb &urb, UMockdevIoctlClient *client);
     int reap(UMockdevIoctlClient *client);
     int discard(UMockdevIoctlClient *client);
-    void answerControl(UsbfsUrb &urb) const;
+    /// Whether there is an answer at all.
+    bool answerControl(UsbfsUrb &urb);
 
     using Urbs = std::list<UsbfsUrb>;
     void dropOrphans();
@@ -97,6 +102,9 @@ private:
     int m_deviceNumber = 0;
     UsbfsInterfaces m_interfaces;
     bool m_permitted = true;
+    std::optional<Instant> m_leaves; ///< The plug has been pulled; until then transfers end with `m_failure`.
+    int m_failure = 0;               ///< A negative errno.
+    int m_deviceIDQuestions = 0;
 
     Urbs m_pending;
     Urbs m_done;

@@ -20,6 +20,7 @@ public:
     quint8 endpoint() const { return m_endpoint; }
     bool isIn() const { return m_endpoint & 0x80; }
     bool isControl() const { return m_control; }
+    bool isBulkIn() const { return isIn() && !isControl(); }
     qsizetype length() const { return m_length; }
     /// The program's bytes: what it sends, or, for a control transfer, the setup packet and its data.
     QByteArrayView bytes() const;

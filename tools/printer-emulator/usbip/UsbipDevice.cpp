@@ -67,7 +67,7 @@ std::optional<QByteArray> UsbipDevice::controlAnswer(const Request &request)
     default:
         break;
     }
-    return ControlPipe::answer(setup, model().identity());
+    return ControlPipe::answer(setup, model().identity(), m_shape);
 }
 
 bool UsbipDevice::pump(Instant now)
