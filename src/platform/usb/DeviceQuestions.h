@@ -1,23 +1,12 @@
 #pragma once
 
-#include "UsbHandles.h"
+#include "PrinterInterface.h"
 
 #include <QString>
 #include <optional>
 
-/// What a device answers over its control pipe. Each question waits at most a second; absent when there is no answer.
-class DeviceQuestions
-{
-public:
-    /// A device that may not be opened answers nothing.
-    explicit DeviceQuestions(libusb_device *device);
-
-    std::optional<QString> text(quint8 descriptorIndex) const;
-
-    /// The IEEE 1284 device ID of a printer interface. Absent also while another program or driver holds the interface;
-    /// empty when the device refuses.
-    std::optional<QString> deviceID(int interface) const;
-
-private:
-    UsbHandle m_handle;
-};
+/// The IEEE 1284 device ID, asked of the device itself. Nothing is claimed, since the kernel lets this one request pass
+/// whoever has the interface. Waits for the answer for at most a second.
+/// @return absent when the question could not be put, so that another time it may be; empty when the device has no ID
+/// or does not answer.
+std::optional<QString> askDeviceID(libusb_device *device, const PrinterInterface &interface);

@@ -60,14 +60,3 @@ std::optional<PrinterInterface> choosePrinterInterface(const libusb_config_descr
     }
     return std::nullopt;
 }
-
-std::vector<int> printerInterfaceNumbers(const libusb_config_descriptor &configuration)
-{
-    std::vector<int> numbers;
-    for (const libusb_interface &interface : interfacesOf(configuration)) {
-        const auto settings = settingsOf(interface);
-        if (std::ranges::any_of(settings, isPrinter))
-            numbers.push_back(settings.front().bInterfaceNumber);
-    }
-    return numbers;
-}

@@ -2,7 +2,6 @@
 
 #include <libusb.h>
 #include <optional>
-#include <vector>
 
 /// The way to a printer's data: one alternate setting of one interface and its two bulk pipes.
 struct PrinterInterface {
@@ -17,6 +16,3 @@ struct PrinterInterface {
 /// The first setting of class 7, subclass 1, protocol 2 (bidirectional) that has both bulk pipes, else of protocol 1.
 /// Protocols 3 and 4 carry other languages and are never chosen.
 std::optional<PrinterInterface> choosePrinterInterface(const libusb_config_descriptor &configuration);
-
-/// The numbers of all interfaces with a printer-class setting, whatever their protocol.
-std::vector<int> printerInterfaceNumbers(const libusb_config_descriptor &configuration);

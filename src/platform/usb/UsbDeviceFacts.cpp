@@ -15,83 +15,31 @@ namespace
 constexpr int locatedPorts = 6;
 constexpr int busShift = 24;
 
-/// One device's facts, as far as sysfs and the device tell them.
-class Inquiry
+UsbDevice describe(libusb_device *device, const libusb_device_descriptor &descriptor, const UsbSysfs &sysfs)
 {
-public:
-    explicit Inquiry(libusb_device *device)
-        : m_device(device)
-        , m_sysfs(device)
-    {
-    }
+    const auto text = [&sysfs](const QString &attribute) { return sysfs.attribute(attribute).value_or(QString()); };
+    return {.vendorID = descriptor.idVendor,
+            .productID = descriptor.idProduct,
+            .locationID = usbLocationID(device),
+            .manufacturer = text(u"manufacturer"_s),
+            .product = text(u"product"_s),
+            .serialNumber = text(u"serial"_s),
+            .ieee1284DeviceID = {}};
+}
 
-    /// `isComplete` tells afterwards whether nothing is missing that another time might be had.
-    UsbDevice describe(const libusb_device_descriptor &descriptor)
-    {
-        return {descriptor.idVendor,
-                descriptor.idProduct,
-                usbLocationID(m_device),
-                text(u"manufacturer"_s, descriptor.iManufacturer),
-                text(u"product"_s, descriptor.iProduct),
-                text(u"serial"_s, descriptor.iSerialNumber),
-                deviceID()};
-    }
-
-    bool isComplete() const { return m_complete; }
-
-private:
-    // The device is opened for the first question that sysfs cannot answer.
-    const DeviceQuestions &device()
-    {
-        if (!m_questions)
-            m_questions.emplace(m_device);
-        return *m_questions;
-    }
-
-    QString text(const QString &attribute, quint8 descriptorIndex)
-    {
-        if (descriptorIndex == 0)
-            return {};
-        auto answer = m_sysfs.attribute(attribute);
-        if (!answer)
-            answer = device().text(descriptorIndex);
-        return orMissing(answer);
-    }
-
-    QString deviceID()
-    {
-        const UsbConfiguration configuration = activeConfiguration(m_device);
-        if (!configuration)
-            return orMissing(std::nullopt);
-        QString id;
-        for (const int interface : printerInterfaceNumbers(*configuration)) {
-            const auto known = [&] {
-                return m_sysfs.interfaceAttribute(configuration->bConfigurationValue, interface, u"ieee1284_id"_s);
-            };
-            auto answer = known();
-            if (!answer)
-                answer = device().deviceID(interface);
-            // The kernel's driver may have come to hold the interface in between, and then has asked itself.
-            if (!answer)
-                answer = known();
-            id = orMissing(answer);
-            if (!id.isEmpty())
-                break;
-        }
-        return id;
-    }
-
-    QString orMissing(const std::optional<QString> &answer)
-    {
-        m_complete = m_complete && answer.has_value();
-        return answer.value_or(QString());
-    }
-
-    libusb_device *m_device;
-    UsbSysfs m_sysfs;
-    std::optional<DeviceQuestions> m_questions;
-    bool m_complete = true;
-};
+/// The device ID of the interface that a connection would use: from sysfs, where the kernel's driver leaves it, else,
+/// if that is wanted, from the device. Absent when neither could tell now.
+std::optional<QString> deviceID(libusb_device *device, const UsbSysfs &sysfs, bool mayAsk)
+{
+    const UsbConfiguration configuration = activeConfiguration(device);
+    const auto interface = configuration ? choosePrinterInterface(*configuration) : std::nullopt;
+    if (!interface)
+        return std::nullopt;
+    auto id = sysfs.interfaceAttribute(configuration->bConfigurationValue, interface->number, u"ieee1284_id"_s);
+    if (!id && mayAsk)
+        id = askDeviceID(device, *interface);
+    return id;
+}
 
 } // namespace
 
@@ -124,17 +72,25 @@ UsbDeviceList UsbDeviceFacts::collect(const std::vector<quint16> &vendorIDs)
         libusb_get_device_descriptor(device.get(), &descriptor);
         if (std::ranges::find(vendorIDs, descriptor.idVendor) == vendorIDs.end())
             continue;
-        if (const auto known = m_known.find(device.get()); known != m_known.end()) {
-            list.push_back(known->second.device);
-            continue;
-        }
-        Inquiry inquiry(device.get());
-        list.push_back(inquiry.describe(descriptor));
-        if (inquiry.isComplete()) {
-            libusb_device *const key = device.get();
-            m_known.emplace(key, Known{std::move(device), list.back()});
-        }
+        list.push_back(factsOf(std::move(device), descriptor));
     }
     std::ranges::sort(list, {}, &UsbDevice::locationID);
     return list;
+}
+
+UsbDevice UsbDeviceFacts::factsOf(UsbDeviceReference device, const libusb_device_descriptor &descriptor)
+{
+    const auto known = m_known.find(device.get());
+    const bool wasAsked = known != m_known.end();
+    if (wasAsked && !known->second.device.ieee1284DeviceID.isEmpty())
+        return known->second.device;
+    const UsbSysfs sysfs(device.get());
+    UsbDevice facts = describe(device.get(), descriptor, sysfs);
+    const auto id = deviceID(device.get(), sysfs, !wasAsked);
+    facts.ieee1284DeviceID = id.value_or(QString());
+    if (id) {
+        libusb_device *const key = device.get();
+        m_known.insert_or_assign(key, Known{std::move(device), facts});
+    }
+    return facts;
 }

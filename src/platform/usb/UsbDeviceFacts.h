@@ -10,9 +10,9 @@
 /// port 2, then port 4 on bus 1 is 0x01240000. Ports past the sixth do not fit and are left out.
 quint32 usbLocationID(libusb_device *device);
 
-/// Collects what is known of the devices on the bus: from sysfs, and what is missing there from the device itself,
-/// where it may be opened. What a device has said once is kept for as long as it is plugged in, since it cannot be
-/// asked while its interface is in use. Any thread.
+/// Collects what is known of the devices on the bus: from sysfs, and the device ID, if it is missing there, from the
+/// device itself. A device is asked once for as long as it is plugged in: what it said is kept, and also that it said
+/// nothing, which takes a second. Any thread.
 class UsbDeviceFacts
 {
 public:
@@ -23,10 +23,13 @@ public:
     UsbDeviceList collect(const std::vector<quint16> &vendorIDs);
 
 private:
+    /// A device whose ID is known, or empty after the device was asked in vain.
     struct Known {
         UsbDeviceReference reference; ///< Keeps the key from being used again.
         UsbDevice device;
     };
+
+    UsbDevice factsOf(UsbDeviceReference device, const libusb_device_descriptor &descriptor);
 
     UsbContext &m_context;
     std::mutex m_mutex;

@@ -1,6 +1,6 @@
+#include "Rows.h"
 #include "UsbTestBench.h"
 
-#include <QTest>
 #include <mutex>
 
 using namespace Qt::Literals::StringLiterals;
@@ -47,6 +47,7 @@ enum class Access { Free, Denied, Held, InUse };
 } // namespace
 
 Q_DECLARE_METATYPE(Access)
+Q_DECLARE_METATYPE(UsbShape)
 
 class DiscoveryTests : public QObject
 {
@@ -55,6 +56,7 @@ class DiscoveryTests : public QObject
 private Q_SLOTS:
     void facts_data();
     void facts();
+    void aMuteDeviceIsAskedOnce();
     void onlyAskedVendorsInOrderOfLocation();
     void everyChangeIsReportedOnce();
     void nothingIsReportedAfterTheEnd();
@@ -65,19 +67,22 @@ private Q_SLOTS:
 
 void DiscoveryTests::facts_data()
 {
-    QTest::addColumn<bool>("hasKernelDriver");
-    QTest::addColumn<bool>("hasDeviceID");
-    QTest::addColumn<Access>("access");
-    QTest::addColumn<bool>("deviceIDIsKnown");
-
-    QTest::newRow("driver bound, free") << true << true << Access::Free << true;
-    QTest::newRow("driver bound, may not be opened") << true << true << Access::Denied << true;
-    QTest::newRow("driver bound, in use by ourselves") << true << true << Access::InUse << true;
-    QTest::newRow("no driver, free: the device is asked") << false << true << Access::Free << true;
-    QTest::newRow("no driver, may not be opened") << false << true << Access::Denied << false;
-    QTest::newRow("no driver, held by another program") << false << true << Access::Held << false;
-    QTest::newRow("no driver, in use by ourselves") << false << true << Access::InUse << true;
-    QTest::newRow("a device without an ID") << true << false << Access::Free << false;
+    using Setting = UsbShape::AlternateSetting;
+    const UsbShape plain;
+    const UsbShape behindScanner{{{Setting{0, true, 255, 0}}, {Setting{1, false}, Setting{2}}}};
+    const UsbShape twoPrinters{{{Setting{1}}, {Setting{2}}}};
+    const Rows<bool, bool, Access, UsbShape, bool> row{"hasKernelDriver", "hasDeviceID", "access", "shape",
+                                                       "deviceIDIsKnown"};
+    row("driver bound, free", true, true, Access::Free, plain, true);
+    row("driver bound, may not be opened", true, true, Access::Denied, plain, true);
+    row("driver bound, in use by ourselves", true, true, Access::InUse, plain, true);
+    row("no driver, free: the device is asked", false, true, Access::Free, plain, true);
+    row("no driver, may not be opened", false, true, Access::Denied, plain, false);
+    row("no driver, held by another program", false, true, Access::Held, plain, true);
+    row("no driver, in use by ourselves", false, true, Access::InUse, plain, true);
+    row("no driver, an alternate setting behind a scanner", false, true, Access::Held, behindScanner, true);
+    row("no driver, two printers in one", false, true, Access::Held, twoPrinters, true);
+    row("a device without an ID", true, false, Access::Free, plain, false);
 }
 
 void DiscoveryTests::facts()
@@ -85,12 +90,13 @@ void DiscoveryTests::facts()
     QFETCH(bool, hasKernelDriver);
     QFETCH(bool, hasDeviceID);
     QFETCH(Access, access);
+    QFETCH(UsbShape, shape);
     QFETCH(bool, deviceIDIsKnown);
 
     UsbTestBench bench;
     ModelIdentity identity;
     identity.hasDeviceID = hasDeviceID;
-    bench.bed.addPrinter(PrinterModel(identity));
+    bench.bed.addPrinter(PrinterModel(identity), shape);
     bench.bed.setKernelDriver(hasKernelDriver);
     if (access == Access::Denied)
         bench.bed.deny();
@@ -117,6 +123,27 @@ void DiscoveryTests::facts()
     QCOMPARE(device.product, identity.product());
     QCOMPARE(device.serialNumber, identity.serialNumber);
     QCOMPARE(device.ieee1284DeviceID, deviceIDIsKnown ? QString::fromUtf8(identity.deviceID()) : QString());
+}
+
+// It has many interfaces and answers on none; what was asked in vain is not asked again, unless it was refused.
+void DiscoveryTests::aMuteDeviceIsAskedOnce()
+{
+    UsbTestBench bench;
+    ModelIdentity mute;
+    mute.answersDeviceID = false;
+    bench.bed.addPrinter(PrinterModel(mute), {std::vector<UsbShape::Interface>(7, {UsbShape::AlternateSetting{}})});
+    bench.bed.setKernelDriver(false);
+    bench.bed.deny();
+    bench.bed.plug();
+    const auto list = [&] { return bench.await([&] { return bench.port.devices(ourVendors); }); };
+    for (const int questions : {0, 1, 1}) {
+        QCOMPARE(list().size(), 1U);
+        QCOMPARE(bench.bed.deviceIDQuestions(), questions);
+        bench.bed.permit();
+    }
+    bench.bed.replug();
+    QCOMPARE(list().size(), 1U);
+    QCOMPARE(bench.bed.deviceIDQuestions(), 2);
 }
 
 void DiscoveryTests::onlyAskedVendorsInOrderOfLocation()
