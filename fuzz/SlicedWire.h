@@ -4,6 +4,7 @@
 #include "UsbPort.h"
 
 #include <algorithm>
+#include <utility>
 
 /// One printer on a bus without electrons: it takes every frame and answers with the given bytes, at most `slice` at a
 /// time; then it is gone. Lives as long as the bytes.
@@ -54,7 +55,7 @@ private:
             bytes = bytes.sliced(size);
             return slice;
         }
-        void discardInput() override { m_wire.m_bytes = {}; }
+        QByteArray drainInput() override { return std::exchange(m_wire.m_bytes, {}).toByteArray(); }
         void cancel() override {}
 
     private:

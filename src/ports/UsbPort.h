@@ -40,8 +40,8 @@ public:
     /// Waits for the next bytes on the bulk IN pipe: 0 (a zero-length packet) to `atMost` of them, as they come.
     [[nodiscard]] virtual WTResult<QByteArray> read(qsizetype atMost) = 0;
 
-    /// Throws away what the device still has to say, until it has been silent for a moment.
-    virtual void discardInput() = 0;
+    /// What the device has to say without having been asked, until it has been silent for a moment.
+    virtual QByteArray drainInput() = 0;
 
     /// Ends the transfer under way and every later one with `Cancelled`. Any thread, any number of times.
     virtual void cancel() = 0;

@@ -4,7 +4,6 @@
 #include "LibraryLog.h"
 #include "WTCDevice.h"
 
-#include <QtEndian>
 #include <exception>
 
 using namespace Qt::Literals::StringLiterals;
@@ -12,14 +11,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 
-/// How many bytes of data the printer sends behind this header, asked for or not; big-endian.
-quint16 announcedLength(const QByteArray &header)
-{
-    constexpr qsizetype offset = 6;
-    if (header.size() < offset + static_cast<qsizetype>(sizeof(quint16)))
-        return 0;
-    return qFromBigEndian<quint16>(header.constData() + offset);
-}
+/// One empty packet may end a transfer. A device that sends nothing else must not keep a processor busy.
+constexpr TimePort::Duration emptyPacketPause{10};
 
 } // namespace
 
@@ -96,33 +89,38 @@ void AclExchange::exchange()
     if (!connection)
         return failOnBus(connection.error());
     const BreakOffReach reach(*this, *connection.value());
-    converse(*connection.value(), *turn);
+    converse(*connection.value(), turn->earlierReplies);
 }
 
-void AclExchange::converse(UsbConnection &connection, DeviceTurns::Turn &turn)
+void AclExchange::converse(UsbConnection &connection, EarlierReplies &earlier)
 {
-    if (turn.inputIsStale)
-        connection.discardInput();
-    turn.inputIsStale = true;
+    if (!earlier.isEmpty())
+        earlier.drop(connection.drainInput());
+    earlier.asked(m_request.frame);
     if (const auto error = connection.write(m_request.frame))
         return failOnBus(*error);
-    if (!readHeader(connection))
+    if (!readHeader(connection, earlier))
         return;
     quint32 dataLength = 0;
     if (!makeHeadCallback(dataLength))
         return;
     if (dataLength > 0) {
         m_reply.data.emplace();
-        if (const auto error = read(connection, dataLength, *m_reply.data))
-            return failOnBus(*error);
+        const auto error = read(connection, dataLength, *m_reply.data);
+        earlier.dataCame(m_reply.data->size());
+        if (error)
+            failOnBus(*error);
     }
-    turn.inputIsStale = dataLength < announcedLength(*m_reply.header);
 }
 
-bool AclExchange::readHeader(UsbConnection &connection)
+bool AclExchange::readHeader(UsbConnection &connection, EarlierReplies &earlier)
 {
     QByteArray header;
-    const auto error = read(connection, m_request.headSize, header);
+    std::optional<WTError> error;
+    do {
+        error = read(connection, m_request.headSize, header);
+    } while (earlier.takeFrom(header) && !error);
+    earlier.headerCame(header);
     if (!error || !header.isEmpty())
         m_reply.header = header;
     if (error)
@@ -132,10 +130,14 @@ bool AclExchange::readHeader(UsbConnection &connection)
 
 std::optional<WTError> AclExchange::read(UsbConnection &connection, quint32 size, QByteArray &bytes) const
 {
+    bool wasEmpty = false;
     while (bytes.size() < size) {
         const auto slice = connection.read(size - bytes.size());
         if (!slice)
             return slice.error();
+        if (slice.value().isEmpty() && wasEmpty)
+            m_environment.time.sleep(emptyPacketPause);
+        wasEmpty = slice.value().isEmpty();
         bytes += slice.value();
     }
     return std::nullopt;

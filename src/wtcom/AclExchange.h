@@ -31,6 +31,7 @@ struct AclEnvironment {
 ///     look the printer up -> wait for its turn -> open -> write the frame -> read the header -> head callback
 ///     -> read the data -> close -> data callback
 ///
+/// What the printer says late about an earlier command is read and dropped ahead of the frame and of the header.
 /// A step that fails skips the others, but never a callback: the head callback is made once, then the data callback
 /// once.
 class AclExchange
@@ -59,8 +60,9 @@ private:
     };
 
     void exchange();
-    void converse(UsbConnection &connection, DeviceTurns::Turn &turn);
-    bool readHeader(UsbConnection &connection);
+    void converse(UsbConnection &connection, EarlierReplies &earlier);
+    /// The header of this command's reply, or of one that belongs to no command at all.
+    bool readHeader(UsbConnection &connection, EarlierReplies &earlier);
     /// Appends to `bytes` until it has `size` of them.
     std::optional<WTError> read(UsbConnection &connection, quint32 size, QByteArray &bytes) const;
     bool makeHeadCallback(quint32 &dataLength);

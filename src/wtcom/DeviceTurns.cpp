@@ -5,10 +5,10 @@ DeviceTurns::Turn::~Turn()
     {
         const std::lock_guard lock(m_turns.m_mutex);
         m_turns.m_inUse.erase(m_locationID);
-        if (inputIsStale)
-            m_turns.m_stale.insert(m_locationID);
+        if (earlierReplies.isEmpty())
+            m_turns.m_earlierReplies.erase(m_locationID);
         else
-            m_turns.m_stale.erase(m_locationID);
+            m_turns.m_earlierReplies[m_locationID] = earlierReplies;
     }
     m_turns.m_changed.notify_all();
 }
@@ -25,13 +25,15 @@ std::unique_ptr<DeviceTurns::Turn> DeviceTurns::wait(quint32 locationID, const s
         return nullptr;
     m_inUse.insert(locationID);
     std::unique_ptr<Turn> turn(new Turn(*this, locationID));
-    turn->inputIsStale = m_stale.contains(locationID);
+    if (const auto known = m_earlierReplies.find(locationID); known != m_earlierReplies.end())
+        turn->earlierReplies = known->second;
     return turn;
 }
 
 void DeviceTurns::askAgain()
 {
-    // Whoever has asked and is about to wait is waiting once the lock is free.
+    // Without the lock, the notification could fall between a waiter's last question and the beginning of its wait,
+    // and be missed.
     {
         const std::lock_guard lock(m_mutex);
     }

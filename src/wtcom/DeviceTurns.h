@@ -1,14 +1,16 @@
 #pragma once
 
-#include <QtGlobal>
+#include "EarlierReplies.h"
+
 #include <condition_variable>
 #include <functional>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <set>
 
-/// Lets one exchange at a time have a device, and remembers which devices may still be talking about an exchange that
-/// was broken off. Devices are told apart by their location. Any thread.
+/// Lets one exchange at a time have a device, and remembers what each device may still say about exchanges that were
+/// broken off. Devices are told apart by their location. Any thread.
 class DeviceTurns
 {
 public:
@@ -20,8 +22,8 @@ public:
         Turn(const Turn &) = delete;
         Turn &operator=(const Turn &) = delete;
 
-        /// The device may send what belongs to an earlier exchange. What it says at the end is found by the next turn.
-        bool inputIsStale = false;
+        /// What the device may still say about earlier exchanges. As it is at the end, the next turn finds it.
+        EarlierReplies earlierReplies;
 
     private:
         friend class DeviceTurns;
@@ -44,5 +46,5 @@ private:
     std::mutex m_mutex;
     std::condition_variable m_changed;
     std::set<quint32> m_inUse;
-    std::set<quint32> m_stale;
+    std::map<quint32, EarlierReplies> m_earlierReplies;
 };

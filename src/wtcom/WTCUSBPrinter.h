@@ -37,7 +37,8 @@ public:
     /// Finds the printer by its URI, sends `data`, reads exactly `headSize` bytes of header and then the data, in
     /// whatever slices they come. Returns at once; everything happens on a worker thread of this send. Only where the
     /// system has no thread to give, both callbacks are made on the calling thread, with an error.
-    /// Sends to one device take turns. The reply to a send that was broken off does not get into the next one's.
+    /// Sends to one device take turns. The reply to a send that was broken off does not get into the next one's,
+    /// however late it comes; unless both sent the same command: then it is taken for the next one's.
     /// @param timeout milliseconds for the whole exchange.
     static void IOKit_sendACLWithURI(const QString &URI, const QByteArray &data, quint8 headSize, int timeout,
                                      HeadCallback headCallback, DataCallback dataCallback);

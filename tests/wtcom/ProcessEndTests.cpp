@@ -35,7 +35,7 @@ public:
         return WTError{usbErrorDomain, static_cast<int>(UsbErrorCode::Cancelled), u"cancelled"_s};
     }
 
-    void discardInput() override {}
+    QByteArray drainInput() override { return {}; }
 
     void cancel() override { m_cancelled.set_value(); }
 

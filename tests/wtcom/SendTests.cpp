@@ -56,6 +56,9 @@ struct LibraryBench : UsbTestBench {
         return send.record();
     }
 
+    /// An answer to another command, after which no earlier one is waited for in the next test.
+    void settle() { finish(RecordedSend(printerURI, commandFrame(EmulatedCommand::Capability), timeout)); }
+
     RecordedSend::Record send(HeadReaction reaction = ReadAnnounced)
     {
         return finish(RecordedSend(printerURI, frame, timeout, reaction));
@@ -85,6 +88,9 @@ private Q_SLOTS:
     void aDeadlineThatPassesWhileOpeningSendsNothing();
     void aLateReplyIsNotTheNextOnes_data();
     void aLateReplyIsNotTheNextOnes();
+    void aLateReplyToTheSameCommandIsTaken();
+    void aReplyToNoCommandIsHandedOn();
+    void emptyPacketsDoNotSpin();
     void sendsToOnePrinterTakeTurns();
     void waitingForATurnIsBounded();
     void ofTwoWithOneURITheFirstIsMeant();
@@ -220,26 +226,66 @@ void SendTests::aDeadlineThatPassesWhileOpeningSendsNothing()
 void SendTests::aLateReplyIsNotTheNextOnes_data()
 {
     const QByteArray much = data(3000);
+    const std::vector<qsizetype> bytes(116, 1);
     const Rows<PrinterFault, HeadReaction> row{"fault", "reaction"};
     row("it came after the time-out", {.data = much, .delay = 7s}, ReadAnnounced);
     row("its data was not wanted", {.data = much}, Stop);
     row("less was wanted than was announced", {.data = much}, ReadNone);
     row("the head callback threw", {.data = much}, Throw);
+    row("it announced what it never sends", {.lengthField = 0xFFFF, .data = much}, ReadNone);
+    row("its header came in part", {.data = much, .slices = {7}, .sliceDelay = 4s}, ReadAnnounced);
     row("its data came too late", {.data = much, .slices = {16}, .sliceDelay = 6500ms}, ReadAnnounced);
+    row("its data came too late, with pauses", {.data = much, .slices = {16, 9, 700}, .sliceDelay = 3s}, ReadAnnounced);
+    row("it came a byte at a time", {.data = data(100), .slices = bytes, .sliceDelay = 100ms}, ReadAnnounced);
 }
 
+// The next command is sent at once, so that the late reply comes ahead of its own, or when all has been said already.
 void SendTests::aLateReplyIsNotTheNextOnes()
 {
     QFETCH(PrinterFault, fault);
     QFETCH(HeadReaction, reaction);
     fault.occurrence = 1;
-    LibraryBench bench({fault, {.occurrence = 2, .data = data(5)}});
-    bench.send(reaction);
-    // Whatever the printer still had to say of the first command has arrived by now.
-    bench.time.advance(10s);
+    constexpr auto next = EmulatedCommand::Capability;
+    for (const auto pause : {0s, 400s}) {
+        LibraryBench bench({fault, {.command = next, .data = data(5)}});
+        bench.send(reaction);
+        bench.time.advance(pause);
+        for (const auto command : {next, next, wakeUp}) {
+            const auto record = bench.finish(RecordedSend(printerURI, commandFrame(command), 400'000));
+            QVERIFY2(!record.error, qPrintable(record.error.value_or(WTError()).message));
+            QCOMPARE(record.header->sliced(2, 2), QByteArray::fromHex(command == next ? "FF81" : "FF21"));
+            QCOMPARE(record.data.value_or(QByteArray()).size(), command == next ? 5 : 0);
+        }
+    }
+}
+
+// The second question is as good as the first: whichever answer comes, it is the answer.
+void SendTests::aLateReplyToTheSameCommandIsTaken()
+{
+    LibraryBench bench(Faults{{.occurrence = 1, .data = data(4), .delay = 9s}, {.occurrence = 2, .silent = true}});
+    QCOMPARE(bench.send().error->code, static_cast<int>(TimedOut));
     const auto record = bench.send();
     QVERIFY(!record.error);
-    QCOMPARE(record.data, data(5));
+    QCOMPARE(record.data, data(4));
+    bench.settle();
+}
+
+void SendTests::aReplyToNoCommandIsHandedOn()
+{
+    LibraryBench bench(Faults{{.occurrence = 1, .silent = true}, {.occurrence = 2, .echo = 0xFF82, .data = data(0)}});
+    QCOMPARE(bench.send().error->code, static_cast<int>(TimedOut));
+    const auto record = bench.send();
+    QVERIFY(!record.error);
+    QCOMPARE(record.header->sliced(2, 2), QByteArray::fromHex("FF82"));
+    bench.settle();
+}
+
+void SendTests::emptyPacketsDoNotSpin()
+{
+    LibraryBench bench(Faults{{.slices = {0, 0}}});
+    const auto start = bench.time.now();
+    QVERIFY(!bench.send().error);
+    QVERIFY(bench.time.now() > start);
 }
 
 void SendTests::sendsToOnePrinterTakeTurns()
@@ -268,6 +314,7 @@ void SendTests::waitingForATurnIsBounded()
     QCOMPARE(bench.time.now() - start, TimePort::Duration(1s));
     QVERIFY(!first.hasEnded());
     bench.finish(first);
+    bench.settle();
 }
 
 void SendTests::ofTwoWithOneURITheFirstIsMeant()
@@ -283,16 +330,17 @@ void SendTests::ofTwoWithOneURITheFirstIsMeant()
     QCOMPARE(bench.bed.record(1).count(wakeUp), 1);
 }
 
-// Another program had the printer when it was found, so that it was named by its texts alone.
+// The printer might not be opened when it was found, so that it was named by its texts alone.
 void SendTests::aNameGivenBeforeTheDeviceIDWasKnownStays()
 {
     LibraryBench bench;
-    bench.bed.hold();
+    bench.bed.setKernelDriver(false);
+    bench.bed.deny();
     bench.bed.replug();
     const auto list = [&] { return bench.await([&] { return bench.port.devices({ModelIdentity().vendorID}); }); };
     const QString name = deviceFromUsb(list().at(0)).URI;
     QVERIFY(name != printerURI);
-    bench.bed.release();
+    bench.bed.permit();
     QCOMPARE(deviceFromUsb(list().at(0)).URI, printerURI);
     const auto record = bench.finish(RecordedSend(name, frame, timeout));
     QVERIFY2(!record.error, qPrintable(record.error.value_or(WTError()).message));

@@ -1,5 +1,6 @@
 #include "LibusbConnection.h"
 
+#include "UsbDeparture.h"
 #include "UsbErrorGate.h"
 
 #include <algorithm>
@@ -10,9 +11,9 @@ namespace
 {
 
 constexpr qsizetype largestTransfer = 65536;
-constexpr TimePort::Duration discardSilence{50};
+constexpr TimePort::Duration drainSilence{50};
 /// A device that never falls silent is not listened to for ever.
-constexpr int mostDiscardedTransfers = 64;
+constexpr int mostDrainedTransfers = 64;
 
 } // namespace
 
@@ -31,15 +32,16 @@ LibusbConnection::~LibusbConnection() = default;
 
 std::optional<WTError> LibusbConnection::write(QByteArrayView bytes)
 {
+    const QString what = u"writing to %1"_s.arg(m_node);
     while (!bytes.isEmpty()) {
         // libusb only reads from the buffer of an OUT transfer.
         auto *buffer = const_cast<unsigned char *>(reinterpret_cast<const unsigned char *>(bytes.data()));
         const int size = static_cast<int>(std::min(bytes.size(), largestTransfer));
-        const Outcome outcome = transfer(m_interface.outEndpoint, buffer, size, u"writing to %1"_s.arg(m_node));
+        const Outcome outcome = transfer(m_interface.outEndpoint, buffer, size, what);
         if (outcome.failure)
-            return outcome.failure;
+            return judged(*outcome.failure, what);
         if (outcome.transferred == 0)
-            return usbError({UsbErrorCode::Failed}, u"writing to %1"_s.arg(m_node), u"the device takes no bytes"_s);
+            return usbError({UsbErrorCode::Failed}, what, u"the device takes no bytes"_s);
         bytes = bytes.sliced(outcome.transferred);
     }
     return std::nullopt;
@@ -52,7 +54,7 @@ WTResult<QByteArray> LibusbConnection::read(qsizetype atMost)
         if (!failure)
             failure = fill(atMost);
         if (failure)
-            return *failure;
+            return judged(*failure, reading());
     }
     QByteArray bytes = m_unread.left(atMost);
     m_unread.remove(0, bytes.size());
@@ -66,7 +68,7 @@ std::optional<WTError> LibusbConnection::fill(qsizetype wanted)
     const qsizetype packets = std::clamp((wanted + packet - 1) / packet, qsizetype{1}, largestTransfer / packet);
     m_unread.resize(packets * packet);
     Outcome outcome = transfer(m_interface.inEndpoint, reinterpret_cast<unsigned char *>(m_unread.data()),
-                               static_cast<int>(m_unread.size()), u"reading from %1"_s.arg(m_node));
+                               static_cast<int>(m_unread.size()), reading());
     m_unread.truncate(outcome.transferred);
     if (outcome.transferred == 0)
         return outcome.failure;
@@ -74,18 +76,30 @@ std::optional<WTError> LibusbConnection::fill(qsizetype wanted)
     return std::nullopt;
 }
 
-void LibusbConnection::discardInput()
+QString LibusbConnection::reading() const
 {
-    for (int i = 0; i < mostDiscardedTransfers; ++i) {
-        const auto silence = m_time.after(discardSilence, [this] { endTransfer(m_silent); });
+    return u"reading from %1"_s.arg(m_node);
+}
+
+WTError LibusbConnection::judged(const WTError &failure, const QString &what) const
+{
+    return unlessUnplugged(failure, what, m_time, m_handle.get(), m_interface.number);
+}
+
+QByteArray LibusbConnection::drainInput()
+{
+    QByteArray drained;
+    for (int i = 0; i < mostDrainedTransfers; ++i) {
+        const auto silence = m_time.after(drainSilence, [this] { endTransfer(m_silent); });
         const auto failure = fill(largestTransfer);
+        drained += std::exchange(m_unread, {});
         if (failure && !isUsbError(*failure, UsbErrorCode::Stalled))
             break;
     }
-    m_unread.clear();
     m_failureBehindUnread.reset();
     const std::lock_guard lock(m_mutex);
     m_silent = false;
+    return drained;
 }
 
 void LibusbConnection::cancel()

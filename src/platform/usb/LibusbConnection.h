@@ -20,7 +20,7 @@ public:
 
     [[nodiscard]] std::optional<WTError> write(QByteArrayView bytes) override;
     [[nodiscard]] WTResult<QByteArray> read(qsizetype atMost) override;
-    void discardInput() override;
+    QByteArray drainInput() override;
     void cancel() override;
 
 private:
@@ -34,6 +34,9 @@ private:
     static void LIBUSB_CALL completed(libusb_transfer *transfer);
     /// Reads into `m_unread`.
     std::optional<WTError> fill(qsizetype wanted);
+    QString reading() const;
+    /// What a failure that is handed on was due to.
+    WTError judged(const WTError &failure, const QString &what) const;
     void endTransfer(bool &reason);
 
     TimePort &m_time;
@@ -52,5 +55,5 @@ private:
     const UsbTransfer m_transfer;
     bool m_underWay = false;
     bool m_cancelled = false;
-    bool m_silent = false; ///< While input is discarded: the device has been silent for long enough.
+    bool m_silent = false; ///< While input is drained: the device has been silent for long enough.
 };

@@ -3,6 +3,7 @@
 #include "ClaimedInterface.h"
 #include "LibusbConnection.h"
 #include "TimePort.h"
+#include "UsbDeparture.h"
 #include "UsbDeviceFacts.h"
 #include "UsbErrorGate.h"
 #include "UsbEventThread.h"
@@ -217,7 +218,8 @@ WTResult<std::unique_ptr<UsbConnection>> LibusbPort::open(const UsbDevice &wante
     m_state->thread.start();
     auto claimed = m_state->claim(handle.value().get(), printer.value());
     if (!claimed)
-        return claimed.error();
+        return unlessUnplugged(claimed.error(), claiming(printer.value()), m_state->time, handle.value().get(),
+                               printer.value().interface.number);
     const std::shared_ptr<ClaimedInterface> claim = std::move(claimed.value());
     m_state->remember(printer.value().node, claim);
     return std::unique_ptr<UsbConnection>(std::make_unique<LibusbConnection>(

@@ -23,10 +23,11 @@ struct PrinterBench : UsbTestBench {
         bed.plug();
     }
 
-    void answer(PrinterFault fault)
+    void answer(PrinterFault fault, PrinterScript::PulledPlug pulled = PrinterScript::PulledPlug::AtOnce)
     {
         fault.command = wakeUp;
         PrinterScript script;
+        script.pulledPlug = pulled;
         script.faults.push_back(std::move(fault));
         bed.setScript(script);
     }

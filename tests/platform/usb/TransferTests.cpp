@@ -1,4 +1,5 @@
 #include "PrinterBench.h"
+#include "Rows.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -30,7 +31,7 @@ private Q_SLOTS:
     void aStallIsCleared();
     void cancelEndsTheTransferAndAllLaterOnes_data();
     void cancelEndsTheTransferAndAllLaterOnes();
-    void discardedInputIsGone();
+    void drainedInputIsGone();
 };
 
 void TransferTests::aReplyInAnySlices_data()
@@ -109,44 +110,39 @@ void TransferTests::writesOfAnySize()
 
 void TransferTests::transferFailures_data()
 {
-    QTest::addColumn<PrinterFault>("fault");
-    QTest::addColumn<int>("written"); // error code
-    QTest::addColumn<int>("read");    // error code
-    QTest::addColumn<int>("received");
-    QTest::addColumn<QString>("message");
-
+    using enum PrinterScript::PulledPlug;
     const int unplugged = code(UsbErrorCode::Unplugged);
     const int stalled = code(UsbErrorCode::Stalled);
-    PrinterFault fault;
-    fault.unplugOut = 20;
-    QTest::newRow("unplugged while it is written to")
-        << fault << unplugged << unplugged << 0 << u"writing to %1: unplugged"_s;
-    fault = {};
-    fault.unplugIn = 0;
-    QTest::newRow("unplugged before it answers") << fault << 0 << unplugged << 0 << u"reading from %1: unplugged"_s;
-    fault.unplugIn = 7;
-    QTest::newRow("unplugged in the header") << fault << 0 << unplugged << 7 << u"reading from %1: unplugged"_s;
-    fault.unplugIn = 20;
-    QTest::newRow("unplugged in the data") << fault << 0 << unplugged << 20 << u"reading from %1: unplugged"_s;
-    fault = {};
-    fault.stallOut = true;
-    QTest::newRow("takes nothing but stalls") << fault << stalled << -1 << 0 << u"writing to %1: stalled"_s;
-    fault = {};
-    fault.stallIn = true;
-    QTest::newRow("stalls in place of a reply") << fault << 0 << stalled << 0 << u"reading from %1: stalled"_s;
-    fault.cutAt = 10;
-    QTest::newRow("stalls in the header") << fault << 0 << stalled << 10 << u"reading from %1: stalled"_s;
+    const QString leftWriting = u"writing to %1: unplugged"_s;
+    const QString leftReading = u"reading from %1: unplugged"_s;
+    const QString stalledReading = u"reading from %1: stalled"_s;
+    // Error codes, 0 for none and -1 where nothing is read; then how much was received.
+    const Rows<PrinterFault, PrinterScript::PulledPlug, int, int, int, QString> row{"fault", "pulled",   "written",
+                                                                                    "read",  "received", "message"};
+    row("unplugged while it is written to", {.unplugOut = 20}, AtOnce, unplugged, unplugged, 0, leftWriting);
+    row("the same, bus errors first", {.unplugOut = 20}, BusErrors, unplugged, unplugged, 0, leftWriting);
+    row("the same, stalls first", {.unplugOut = 20}, Stalls, unplugged, unplugged, 0, leftWriting);
+    row("unplugged before it answers", {.unplugIn = 0}, AtOnce, 0, unplugged, 0, leftReading);
+    row("the same, bus errors first ", {.unplugIn = 0}, BusErrors, 0, unplugged, 0, leftReading);
+    row("the same, stalls first ", {.unplugIn = 0}, Stalls, 0, unplugged, 0, leftReading);
+    row("unplugged in the header", {.unplugIn = 7}, AtOnce, 0, unplugged, 7, leftReading);
+    row("unplugged in the data", {.unplugIn = 20}, AtOnce, 0, unplugged, 20, leftReading);
+    row("takes nothing but stalls", {.stallOut = true}, AtOnce, stalled, -1, 0, u"writing to %1: stalled"_s);
+    row("stalls in place of a reply", {.stallIn = true}, AtOnce, 0, stalled, 0, stalledReading);
+    row("stalls in the header", {.cutAt = 10, .stallIn = true}, AtOnce, 0, stalled, 10, stalledReading);
 }
 
 void TransferTests::transferFailures()
 {
     QFETCH(PrinterFault, fault);
+    QFETCH(PrinterScript::PulledPlug, pulled);
     QFETCH(int, written);
     QFETCH(int, read);
     QFETCH(int, received);
     QFETCH(QString, message);
     fault.data = someData(100);
-    PrinterBench bench(fault);
+    PrinterBench bench;
+    bench.answer(fault, pulled);
     const auto connection = bench.connect();
     const QString expected = message.arg(bench.bed.nodePath());
 
@@ -222,20 +218,18 @@ void TransferTests::cancelEndsTheTransferAndAllLaterOnes()
     QCOMPARE(codeOf(bench.read(*connection, 116, reply)), code(UsbErrorCode::Cancelled));
 }
 
-void TransferTests::discardedInputIsGone()
+void TransferTests::drainedInputIsGone()
 {
     PrinterFault fault;
     fault.occurrence = 1;
     fault.trailingGarbage = QByteArray(5000, 'x');
+    fault.slices = {16, 1000, 0, 7};
     PrinterBench bench(fault);
     const auto connection = bench.connect();
     QVERIFY(!bench.write(*connection));
     QByteArray reply;
     QVERIFY(!bench.read(*connection, 16, reply));
-    bench.await([&] {
-        connection->discardInput();
-        return true;
-    });
+    QCOMPARE(bench.await([&] { return connection->drainInput(); }), fault.trailingGarbage);
     QVERIFY(!bench.write(*connection));
     QByteArray second;
     QVERIFY(!bench.read(*connection, 16, second));

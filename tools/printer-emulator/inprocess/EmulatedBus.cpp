@@ -227,16 +227,18 @@ std::optional<WTError> EmulatedBus::run(Transfer &transfer)
     Q_UNREACHABLE();
 }
 
-void EmulatedBus::discardInput()
+QByteArray EmulatedBus::drainInput()
 {
-    // Nothing is ever on its way here: what the printer has said by now is all there is to throw away.
+    // Nothing is ever on its way here: what the printer has said by now is all there is.
     const TimedLock::Turn turn(m_lock);
-    QByteArray discarded;
+    QByteArray drained;
     while (m_pipes.hasReplyDue(m_time.now()) && !m_pipes.unplugIsDue(m_time.now())) {
-        discarded.clear();
-        if (m_pipes.receive(discarded, packetSize, m_time.now()) == PrinterPipes::Outcome::Stalled)
+        QByteArray bytes;
+        if (m_pipes.receive(bytes, packetSize, m_time.now()) == PrinterPipes::Outcome::Stalled)
             m_pipes.clearHalt(true);
+        drained += bytes;
     }
+    return drained;
 }
 
 void EmulatedBus::cancel()

@@ -34,7 +34,7 @@ public:
     void release();
     std::optional<WTError> write(QByteArrayView bytes);
     WTResult<QByteArray> read(qsizetype atMost);
-    void discardInput();
+    QByteArray drainInput();
     void cancel();
 
 private:

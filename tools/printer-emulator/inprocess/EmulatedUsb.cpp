@@ -33,11 +33,7 @@ public:
         m_unread.remove(0, bytes.size());
         return bytes;
     }
-    void discardInput() override
-    {
-        m_unread.clear();
-        m_bus->discardInput();
-    }
+    QByteArray drainInput() override { return std::exchange(m_unread, {}) + m_bus->drainInput(); }
     void cancel() override { m_bus->cancel(); }
 
 private:
