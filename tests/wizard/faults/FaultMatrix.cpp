@@ -23,6 +23,7 @@ struct FaultRow {
     /// What happens on the bus as soon as the preceding frame has arrived.
     std::vector<BusEvent> between;
     Endings endings;
+    PrinterScript::PulledPlug pulledPlug = PrinterScript::PulledPlug::AtOnce;
 };
 
 // The endings in the order of FaultPlace.
@@ -34,8 +35,9 @@ constexpr Endings lost{Unsupported, Unsupported, Unsupported, Failed, Failed, Fa
 /// again.
 constexpr Endings unanswered{Complete, Complete, Unsupported, ConfigFailed, Complete, Failed};
 constexpr Endings harmless{Complete, Complete, Complete, Complete, Complete, Complete};
-/// A command gets the late answer to the one before it. If both are the same command, the answer fits.
-constexpr Endings late{Unsupported, Unsupported, Unsupported, Complete, Complete, Failed};
+/// The late answer is dropped, unless the command that waits for an answer is the same one again. But a printer answers
+/// in order: if the wake-up's answer takes too long for that, so does the capability query's behind it.
+constexpr Endings late{Complete, Unsupported, Unsupported, Complete, Complete, Failed};
 /// The printer answers with an unknown result code. Configuration and capability query count that as a failure; the
 /// other commands do not look at it.
 constexpr Endings unknown{Complete, Complete, Unsupported, ConfigFailed, Complete, Complete};
@@ -56,6 +58,7 @@ constexpr auto lateAnswer = 70s;
 std::vector<FaultRow> rows()
 {
     using enum BusEvent::Action;
+    using enum PrinterScript::PulledPlug;
     return {
         // Faults while the printer receives the frame.
         {"takes nothing", {.acceptOnly = 0}, {}, unanswered},
@@ -66,6 +69,9 @@ std::vector<FaultRow> rows()
         // Faults in what the printer replies.
         {"silent", {.silent = true}, {}, unanswered},
         {"answers late", {.delay = lateAnswer}, {}, late},
+        {"answers after the wake-up's time", {.delay = 9s}, {}, harmless},
+        {"answers across the wake-up's end", {.delay = 4s, .slices = {7, 3}, .sliceDelay = 4s}, {}, harmless},
+        {"answers late in slow pieces", {.delay = 40s, .slices = {3, 4, 9}, .sliceDelay = 4s}, {}, harmless},
         {"wrong header", {.echo = 0xFF82}, {}, unanswered},
         {"unknown result", {.result = 0x1234}, {}, unknown},
         {"wrong length", {.lengthField = 0xFFFF}, {}, withoutAddress},
@@ -77,6 +83,10 @@ std::vector<FaultRow> rows()
         {"short header", {.cutAt = insideHeader}, {}, unanswered},
         {"stalls in the header", {.cutAt = insideHeader, .stallIn = true}, {}, unanswered},
         {"unplugged in the header", {.unplugIn = insideHeader}, {}, lost},
+        {"unplugged while it is waited for", {.delay = 3s, .unplugIn = 0}, {}, lost},
+        {"unplugged, bus errors first", {.delay = 3s, .unplugIn = 0}, {}, lost, BusErrors},
+        {"unplugged, stalls first", {.delay = 3s, .unplugIn = insideHeader}, {}, lost, Stalls},
+        {"unplugged in the frame, bus errors first", {.unplugOut = insideFrame}, {}, lost, BusErrors},
         {"garbage before", {.garbage = "garbage"}, {}, unanswered},
         {"garbage behind", {.trailingGarbage = "garbage"}, {}, harmless},
         {"in small pieces", {.slices = {0, 1, 0, 7, 3}}, {}, harmless},
@@ -162,6 +172,7 @@ FaultCase makeCase(const FaultRow &row, const Place &place, Ending ending, int a
     fault.command = step.command;
     fault.occurrence = step.occurrence;
     made.script.faults.push_back(fault);
+    made.script.pulledPlug = row.pulledPlug;
     for (BusEvent event : row.between) {
         event.after = before(place.place, step);
         made.script.events.push_back(event);
