@@ -1,16 +1,22 @@
 #include "PrintQueueBusyCheck.h"
 
+#include "AlternateSignalStack.h"
 #include "InfoList.h"
 #include "Log.h"
 
 #include <algorithm>
+#include <chrono>
+#include <future>
+#include <thread>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace
 {
 
 constexpr QByteArrayView processing{"4"};
+constexpr auto longestWait = 2s;
 
 bool removesHyphens(BusyCheckVariant variant)
 {
@@ -27,6 +33,36 @@ std::optional<QString> asciiText(const QByteArray &name)
 {
     const bool isAscii = std::all_of(name.cbegin(), name.cend(), [](char byte) { return !(byte & 0x80); });
     return isAscii ? std::optional{QString::fromLatin1(name)} : std::nullopt;
+}
+
+void sayOnceWhatIsMissing(SpoolerPort &spooler)
+{
+    static const bool isSaid = [&spooler] {
+        if (const auto problem = spooler.problem())
+            logWarning("Whether a printer is printing cannot be asked: %@", problem->message);
+        return true;
+    }();
+    (void)isSaid;
+}
+
+/// Absent when the spooler takes too long. It then goes on being asked on its thread, and not a second time until that
+/// has come to an end.
+std::optional<std::vector<PrintDestination>> answerInTime(SpoolerPort &spooler)
+{
+    static std::future<std::vector<PrintDestination>> answer;
+    const auto isThere = [](std::chrono::seconds within) {
+        return answer.wait_for(within) == std::future_status::ready;
+    };
+    // An answer that came after its question had been given up is out of date.
+    if (!answer.valid() || isThere(0s)) {
+        std::promise<std::vector<PrintDestination>> promise;
+        answer = promise.get_future();
+        std::thread([&spooler, promise = std::move(promise)]() mutable {
+            const AlternateSignalStack signalStack;
+            promise.set_value(spooler.destinations());
+        }).detach();
+    }
+    return isThere(longestWait) ? std::optional(answer.get()) : std::nullopt;
 }
 
 } // namespace
@@ -67,5 +103,12 @@ bool isWorkingWithPrintType(SpoolerPort &spooler, const QString &printerType, Bu
 {
     if (writesLog(variant))
         logInfo("查看本地是否有打印作业,打印机名称%@", printerType);
-    return isWorking(spooler.destinations(), printerType, InfoList::value(u"Vendor"_s).value_or(QString()), variant);
+    const auto destinations = answerInTime(spooler);
+    if (!destinations) {
+        logWarning("The print spooler has not answered for %ld s; the printer counts as idle.", longestWait.count());
+        return false;
+    }
+    if (destinations->empty())
+        sayOnceWhatIsMissing(spooler);
+    return isWorking(*destinations, printerType, InfoList::value(u"Vendor"_s).value_or(QString()), variant);
 }

@@ -11,7 +11,9 @@ enum class BusyCheckVariant {
     ManualEntry, ///< Removes the hyphens of the printer type, and logs nothing.
 };
 
-/// Whether a print queue of this printer is printing, as the spooler sees it. Blocks for as long as the spooler takes.
+/// Whether a print queue of this printer is printing, as the spooler sees it. Blocks until the spooler has answered,
+/// but no longer than two seconds: where there is no answer, nothing is printing. Main thread.
+/// @param spooler outlives the question, which may go on after that.
 bool isWorkingWithPrintType(SpoolerPort &spooler, const QString &printerType, BusyCheckVariant variant);
 
 /// The same for given queues: whether one whose name contains `printQueueMatchKey` is in state "4", processing. An

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "WTError.h"
+
 #include <QByteArray>
-#include <QString>
 #include <optional>
 #include <vector>
 
@@ -18,6 +19,10 @@ class SpoolerPort
 public:
     virtual ~SpoolerPort() = default;
 
-    /// All destinations in the spooler's order; none when no spooler answers. Blocks for as long as the spooler takes.
+    /// All destinations in the spooler's order; none when no spooler answers. Blocks for as long as the spooler takes,
+    /// which may be for ever. Any thread.
     virtual std::vector<PrintDestination> destinations() = 0;
+
+    /// Why this host cannot ask any spooler; absent where it can.
+    virtual std::optional<WTError> problem() { return std::nullopt; }
 };

@@ -1,16 +1,15 @@
 #include "CupsLibrary.h"
 
-#include "AlternateSignalStack.h"
-
 #include <QLibrary>
-#include <optional>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
 
 constexpr int interfaceVersion = 2;
 
-std::optional<CupsLibrary> loadLibrary()
+WTResult<CupsLibrary> loadLibrary()
 {
     QLibrary file(QStringLiteral("cups"), interfaceVersion);
     file.setLoadHints(QLibrary::PreventUnloadHint);
@@ -21,14 +20,15 @@ std::optional<CupsLibrary> loadLibrary()
     CupsLibrary cups{};
     const bool complete = find(cups.getDests, "cupsGetDests") && find(cups.getDests2, "cupsGetDests2") &&
                           find(cups.freeDests, "cupsFreeDests") && find(cups.getOption, "cupsGetOption");
-    return complete ? std::optional(cups) : std::nullopt;
+    if (!complete)
+        return WTError{u"CUPS"_s, 1, u"libcups cannot be used: %1"_s.arg(file.errorString())};
+    return cups;
 }
 
 } // namespace
 
-const CupsLibrary *CupsLibrary::load()
+const WTResult<CupsLibrary> &CupsLibrary::load()
 {
-    const AlternateSignalStack signalStack;
-    static const std::optional<CupsLibrary> library = loadLibrary();
-    return library ? &*library : nullptr;
+    static const WTResult<CupsLibrary> library = loadLibrary();
+    return library;
 }

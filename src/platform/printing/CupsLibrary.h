@@ -1,5 +1,7 @@
 #pragma once
 
+#include "WTError.h"
+
 #include <cups/cups.h>
 
 /// The functions of libcups that the program calls. The library is loaded while the program runs: it brings a dozen
@@ -10,6 +12,6 @@ struct CupsLibrary {
     decltype(&::cupsFreeDests) freeDests;
     decltype(&::cupsGetOption) getOption;
 
-    /// Null on a host without libcups. Any thread.
-    [[nodiscard]] static const CupsLibrary *load();
+    /// An error on a host without libcups. Any thread.
+    [[nodiscard]] static const WTResult<CupsLibrary> &load();
 };

@@ -1,5 +1,6 @@
 #include "CupsSpooler.h"
 
+#include "AlternateSignalStack.h"
 #include "CupsLibrary.h"
 
 #include <span>
@@ -40,18 +41,27 @@ PrintDestination destinationOf(const CupsLibrary &cups, const cups_dest_t &queue
 
 CupsSpooler::CupsSpooler(const HostCapabilities &host)
     : m_hasConnection(host.spoolerHasConnection)
-    , m_library(std::async(std::launch::async, &CupsLibrary::load))
+    , m_libraryIsLoaded(std::async(std::launch::async, [] {
+        const AlternateSignalStack signalStack;
+        (void)CupsLibrary::load();
+    }))
 {
 }
 
 std::vector<PrintDestination> CupsSpooler::destinations()
 {
-    const CupsLibrary *const cups = m_library.get();
+    const WTResult<CupsLibrary> &cups = CupsLibrary::load();
     if (!cups)
         return {};
-    const DestinationArray queues{*cups, m_hasConnection};
+    const DestinationArray queues{cups.value(), m_hasConnection};
     std::vector<PrintDestination> destinations;
     for (const cups_dest_t &queue : queues.all())
-        destinations.push_back(destinationOf(*cups, queue));
+        destinations.push_back(destinationOf(cups.value(), queue));
     return destinations;
+}
+
+std::optional<WTError> CupsSpooler::problem()
+{
+    const WTResult<CupsLibrary> &cups = CupsLibrary::load();
+    return cups ? std::nullopt : std::optional(cups.error());
 }

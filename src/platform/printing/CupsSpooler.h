@@ -5,8 +5,6 @@
 
 #include <future>
 
-struct CupsLibrary;
-
 /// The host's print spooler through libcups. "CUPS_SERVER" names another server than the host's own. A host without a
 /// spooler has no destinations, and says so at once.
 class CupsSpooler : public SpoolerPort
@@ -16,8 +14,10 @@ public:
     explicit CupsSpooler(const HostCapabilities &host);
 
     std::vector<PrintDestination> destinations() override;
+    /// libcups is missing, or is not the one that is wanted.
+    std::optional<WTError> problem() override;
 
 private:
     bool m_hasConnection;
-    std::shared_future<const CupsLibrary *> m_library;
+    const std::shared_future<void> m_libraryIsLoaded;
 };

@@ -1,11 +1,15 @@
 #include "CupsSpooler.h"
 #include "CupsBed.h"
+#include "LogCollector.h"
 #include "PrintQueueBusyCheck.h"
 
 #include <QElapsedTimer>
 #include <QTest>
 #include <algorithm>
 #include <future>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -19,6 +23,26 @@ std::vector<PrintDestination> askFreshly(bool onConnection)
                       [onConnection] { return CupsSpooler{{.spoolerHasConnection = onConnection}}.destinations(); })
         .get();
 }
+
+/// Takes connections on a socket and never says a word.
+class SilentServer
+{
+public:
+    explicit SilentServer(const QString &path)
+        : m_socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0))
+    {
+        sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
+        qstrncpy(address.sun_path, path.toLocal8Bit().constData(), sizeof address.sun_path);
+        if (::bind(m_socket, reinterpret_cast<sockaddr *>(&address), sizeof address) != 0 || ::listen(m_socket, 8) != 0)
+            qFatal("No server at %s.", address.sun_path);
+    }
+    ~SilentServer() { ::close(m_socket); }
+    SilentServer(const SilentServer &) = delete;
+    SilentServer &operator=(const SilentServer &) = delete;
+
+private:
+    const int m_socket;
+};
 
 void addConnectionRows()
 {
@@ -42,6 +66,7 @@ private Q_SLOTS:
     void tellsAPrintingPrinterFromAnIdleOne();
     void answersNothingAtOnceWhereNobodyListens_data() { addConnectionRows(); }
     void answersNothingAtOnceWhereNobodyListens();
+    void aSpoolerThatNeverAnswersCountsAsIdle();
 
 private:
     CupsBed m_bed;
@@ -95,6 +120,25 @@ void CupsSpoolerTest::answersNothingAtOnceWhereNobodyListens()
     qputenv("CUPS_SERVER", server);
     QVERIFY(queues.empty());
     QVERIFY2(milliseconds < 5000, qPrintable(QString::number(milliseconds)));
+}
+
+void CupsSpoolerTest::aSpoolerThatNeverAnswersCountsAsIdle()
+{
+    const QTemporaryDir folder;
+    const SilentServer server(folder.filePath(u"cups.sock"_s));
+    const QByteArray real = qgetenv("CUPS_SERVER");
+    qputenv("CUPS_SERVER", folder.filePath(u"cups.sock"_s).toLocal8Bit());
+    // Outlives the question, which ends when the server goes.
+    static CupsSpooler spooler{{}};
+    const LogCollector log;
+    QElapsedTimer clock;
+    clock.start();
+    QVERIFY(!isWorkingWithPrintType(spooler, u"QZ100"_s, BusyCheckVariant::ManualEntry));
+    const qint64 milliseconds = clock.elapsed();
+    qputenv("CUPS_SERVER", real);
+    QVERIFY2(milliseconds >= 2000 && milliseconds < 10000, qPrintable(QString::number(milliseconds)));
+    QCOMPARE(log.lines().constLast(),
+             u"warning: The print spooler has not answered for 2 s; the printer counts as idle."_s);
 }
 
 QTEST_GUILESS_MAIN(CupsSpoolerTest)
