@@ -25,6 +25,7 @@ private Q_SLOTS:
     void waitsAsLongAsItsCommandMayTake_data();
     void waitsAsLongAsItsCommandMayTake();
     void answersASuccessfulConfigurationAfterAPause();
+    void findsPrintersOfBothVendorsUntilTheSearchEnds();
 
 private:
     PrinterBench m_bench;
@@ -144,6 +145,27 @@ void PrinterCommandTest::answersASuccessfulConfigurationAfterAPause()
     const PrinterRecord told = m_bench.bed.record();
     QCOMPARE(told.networkName, networkName.toUtf8());
     QCOMPARE(told.password, networkPassword.toUtf8());
+}
+
+void PrinterCommandTest::findsPrintersOfBothVendorsUntilTheSearchEnds()
+{
+    auto &manager = WTManager::shared();
+    ModelIdentity sister;
+    sister.vendorID = 0x6A1C;
+    const int second = m_bench.bed.addPrinter(PrinterModel(sister));
+    m_bench.bed.plug(second);
+    manager.wt_startDiscoverPrinter();
+    QVERIFY(m_bench.runUntil([&] { return manager.printerList().count() == 2; }));
+    QCOMPARE(manager.printerList().objectAtIndex(1)->usbObj->VID, 0x6A1C);
+    manager.wt_stopDiscoverPrinter();
+    const LogCollector log;
+    m_bench.bed.unplug(second);
+    m_bench.time.advance(1s);
+    manager.wt_startDiscoverPrinter();
+    QVERIFY(m_bench.runUntil([&] { return manager.printerList().count() == 1; }));
+    manager.wt_stopDiscoverPrinter();
+    // Only the search that was started anew has told of the change.
+    QCOMPARE(log.lines().filter(u"USB Printers count"_s).size(), 1);
 }
 
 QTEST_GUILESS_MAIN(PrinterCommandTest)
