@@ -46,10 +46,11 @@ struct PrinterScript {
     /// What transfers see of a plug that is pulled, by this script's faults and events.
     enum class PulledPlug {
         AtOnce,    ///< The device has left.
-        BusErrors, ///< They fail, and the device leaves a quarter of a second later, when the hub has noticed.
+        BusErrors, ///< They fail, and the device leaves a moment later, when the hub has noticed.
         Stalls     ///< The same; the failures look like stalls.
     };
     PulledPlug pulledPlug = PulledPlug::AtOnce;
+    static constexpr Duration hubNotices{250}; ///< From the first failure until the device has left.
 
     bool plugged = true; ///< On the bus from the start; otherwise an event plugs it.
 

@@ -14,9 +14,6 @@
 
 namespace
 {
-/// From the first failed transfer until a hub has told that nobody is there.
-constexpr std::chrono::milliseconds hubNotices{250};
-
 constexpr quint32 capabilities = USBDEVFS_CAP_ZERO_PACKET | USBDEVFS_CAP_NO_PACKET_SIZE_LIM |
                                  USBDEVFS_CAP_BULK_CONTINUATION | USBDEVFS_CAP_BULK_SCATTER_GATHER |
                                  USBDEVFS_CAP_REAP_AFTER_DISCONNECT;
@@ -66,7 +63,7 @@ void UsbfsDevice::pullPlug()
         return;
     if (pulled == AtOnce)
         return leave();
-    m_leaves = m_bus.now() + hubNotices;
+    m_leaves = m_bus.now() + PrinterScript::hubNotices;
     m_failure = pulled == Stalls ? -EPIPE : -EPROTO;
     while (!m_pending.empty())
         complete(m_pending.begin(), m_failure);

@@ -1,6 +1,7 @@
 #include "UsbipBus.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <thread>
 #include <utility>
 
@@ -40,7 +41,7 @@ void UsbipBus::serveDueRequests()
             UsbipMessages::Request::parse(header.value_or(QByteArray(UsbipMessages::headerSize, '\0')));
         const std::optional<QByteArray> data = header ? m_host->read(request.dataSize()) : std::nullopt;
         if (!data)
-            return apply(BusEvent::Action::Unplug);
+            return leave();
         m_device.handle(request, *data);
     }
     if (!m_host)
@@ -48,15 +49,31 @@ void UsbipBus::serveDueRequests()
     const bool stays = m_device.pump(steady_clock::now());
     m_host->write(m_device.takeAnswers());
     if (!stays)
-        apply(BusEvent::Action::Unplug);
+        pullPlug();
+}
+
+void UsbipBus::pullPlug()
+{
+    using enum PrinterScript::PulledPlug;
+    const auto pulled = m_device.model().script().pulledPlug;
+    if (!m_host || m_device.isFailing() || pulled == AtOnce)
+        return leave();
+    m_device.failAll(pulled == Stalls ? -EPIPE : -EPROTO);
+    m_host->write(m_device.takeAnswers());
+    m_agenda.add(steady_clock::now() + PrinterScript::hubNotices, {0, BusEvent::Action::Unplug});
+}
+
+void UsbipBus::leave()
+{
+    m_host.reset();
+    m_device.reset();
 }
 
 void UsbipBus::apply(BusEvent::Action action)
 {
     switch (action) {
     case BusEvent::Action::Unplug:
-        m_host.reset();
-        m_device.reset();
+        pullPlug();
         break;
     case BusEvent::Action::Plug:
         if (!m_host)

@@ -21,6 +21,9 @@ private:
     using Instant = Agenda::Instant;
 
     void apply(BusEvent::Action action);
+    /// As the script has it: the printer leaves at once, or transfers fail first.
+    void pullPlug();
+    void leave();
     void serveDueRequests();
     std::optional<std::chrono::milliseconds> untilNextDue() const;
 

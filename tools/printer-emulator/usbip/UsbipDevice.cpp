@@ -24,6 +24,8 @@ void UsbipDevice::handle(const Request &request, const QByteArray &data)
         m_answers += UsbipMessages::unlinked(request.sequence, given != m_pending.end());
         if (given != m_pending.end())
             m_pending.erase(given);
+    } else if (isFailing()) {
+        m_answers += UsbipMessages::received(request.sequence, m_failure, {});
     } else if (request.endpoint == 0) {
         control(request);
     } else {
@@ -119,8 +121,17 @@ std::optional<UsbipDevice::Instant> UsbipDevice::nextDue(Instant now) const
     return due;
 }
 
+void UsbipDevice::failAll(int status)
+{
+    m_failure = status;
+    while (!m_pending.empty())
+        complete(m_pending.begin(), status);
+    m_pipes.reset();
+}
+
 void UsbipDevice::reset()
 {
+    m_failure = 0;
     m_pending.clear();
     m_answers.clear();
     m_pipes.reset();

@@ -31,7 +31,10 @@ public:
     std::optional<Instant> nextDue(Instant now) const;
     /// What there is to send to the host.
     QByteArray takeAnswers() { return std::exchange(m_answers, {}); }
-    /// The plug was pulled: forgets all that was under way.
+    /// The plug is being pulled: all transfers under way, and all to come until `reset`, end with this negative errno.
+    void failAll(int status);
+    bool isFailing() const { return m_failure != 0; }
+    /// The device has left: forgets all that was under way.
     void reset();
 
 private:
@@ -55,4 +58,5 @@ private:
     PrinterPipes m_pipes;
     Transfers m_pending;
     QByteArray m_answers;
+    int m_failure = 0;
 };
