@@ -9,8 +9,8 @@
 /// One print queue as the spooler lists it.
 struct PrintDestination {
     QByteArray name;
-    std::optional<QByteArray>
-        printerState; ///< The option "printer-state" (RFC 8011, 5.4.11): "3" idle, "4" processing.
+    /// The option "printer-state": "3" is idle, "4" processing, "5" stopped (RFC 8011, 5.4.11).
+    std::optional<QByteArray> printerState;
 };
 
 /// The host's print spooler.

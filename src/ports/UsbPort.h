@@ -10,7 +10,7 @@
 #include <optional>
 #include <vector>
 
-/// What is known of a device without talking to it. Complete also for a device that may not be opened.
+/// What is known of a device without claiming it.
 struct UsbDevice {
     quint16 vendorID = 0;
     quint16 productID = 0;
@@ -19,7 +19,8 @@ struct UsbDevice {
     QString manufacturer;
     QString product;
     QString serialNumber;
-    /// The printer's IEEE 1284 device ID ("MFG:...;MDL:...;"), empty when the device has none.
+    /// The printer's IEEE 1284 device ID ("MFG:...;MDL:...;"). Empty when the device has none, and for as long as
+    /// neither the kernel's printer driver has read it nor the device may be opened to be asked.
     QString ieee1284DeviceID;
 
     bool operator==(const UsbDevice &) const = default;

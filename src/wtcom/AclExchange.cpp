@@ -16,7 +16,7 @@ constexpr TimePort::Duration emptyPacketPause{10};
 
 } // namespace
 
-/// While it lives, a break-off reaches the connection; one that came earlier reaches it at once.
+/// While it lives, `breakOff` cancels the connection. If the exchange was broken off before, that happens at once.
 class AclExchange::BreakOffReach
 {
 public:

@@ -13,7 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 
-/// A callback that blocks must not keep the process from ending.
+/// How long the end of the process waits for sends that have been broken off: one of their callbacks may block.
 constexpr std::chrono::seconds longestFarewell{2};
 
 } // namespace

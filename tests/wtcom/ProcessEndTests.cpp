@@ -88,7 +88,7 @@ int endDuringASend(SilentBus &bus)
     return 0;
 }
 
-// No thread is to be had: the limit of processes counts threads, but binds nobody who is privileged.
+// The limit of processes also counts threads, so that none is to be had. It does not bind root.
 int sendWithoutThreads(SilentBus &)
 {
     constexpr uid_t nobody = 65534;

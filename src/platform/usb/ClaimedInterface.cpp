@@ -5,7 +5,7 @@
 namespace
 {
 
-// A driver that cannot be detached shows in the claim, which then fails.
+// Whether the driver could be detached is not asked: if not, the claim fails.
 int claimFromDriver(libusb_device_handle *handle, int interface)
 {
     const bool driverIsBound = libusb_kernel_driver_active(handle, interface) == 1;

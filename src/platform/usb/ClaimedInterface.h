@@ -5,8 +5,8 @@
 
 #include <memory>
 
-/// A claimed interface in its chosen alternate setting. The kernel's driver, if one was bound, makes room in the same
-/// moment. Released in the end; then the driver comes back.
+/// A claimed interface in its chosen alternate setting. The kernel's driver, if one is bound, is detached by the claim,
+/// and bound again when the destructor releases the interface.
 class ClaimedInterface
 {
 public:

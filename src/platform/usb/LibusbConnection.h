@@ -45,9 +45,9 @@ private:
     const PrinterInterface m_interface;
     const QString m_node;
 
-    /// The bulk IN pipe delivers whole packets, so more may come than a reader asked for.
+    /// Transfers are of whole packets, so that more may come than a reader asked for; it is kept for the next one.
     QByteArray m_unread;
-    /// A transfer may bring bytes and then fail: first the bytes are read, then the failure.
+    /// Of a transfer that brought bytes and then failed: told when the bytes have been read.
     std::optional<WTError> m_failureBehindUnread;
 
     std::mutex m_mutex;

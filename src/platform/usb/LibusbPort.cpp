@@ -130,7 +130,8 @@ void LibusbPort::State::replaceWatch(std::shared_ptr<Watch> next)
     watch.swap(next);
     if (!thread.isCurrent())
         reportEnded.wait(lock, [this] { return !reporting; });
-    // The listener that went takes its captures along, after the lock.
+    // `next` holds the watch that was. It goes after the lock, since what its listener has captured may do anything
+    // then.
     lock.unlock();
 }
 

@@ -7,8 +7,8 @@ class TimePort;
 /// The USB bus through libusb.
 ///
 /// One thread, started with first use, handles libusb's events and hotplug and calls the watcher. Facts of a device
-/// come from sysfs, so that they are complete for a device that may not be opened; what sysfs lacks is asked of the
-/// device. A computer without USB has an empty bus; each `watch`, `devices` and `open` looks again.
+/// come from sysfs, which everybody may read; only the device ID, if it is not there, is asked of the device. A
+/// computer without USB has an empty bus; each `watch`, `devices` and `open` looks again.
 class LibusbPort final : public UsbPort
 {
 public:

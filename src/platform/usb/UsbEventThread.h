@@ -38,9 +38,9 @@ private:
     mutable std::mutex m_mutex;
     std::condition_variable m_wakeUp;
     std::optional<libusb_hotplug_callback_handle> m_hotplug;
-    /// Written under the mutex. libusb reads it as well, behind the lock under which it waits for events: so a request
-    /// that comes between our look and its wait is not slept through, even if another thread that handles events has
-    /// taken our interruption.
+    /// Other than 0: `attend` is to be called. Written under the mutex; libusb is given its address and looks at it,
+    /// too, when it is about to wait for events. So a request that comes after our own look is not slept through, even
+    /// if the interruption that goes with it has woken another thread that handles events.
     int m_attentionRequested = 0;
     bool m_stopping = false;
     std::thread m_thread;
