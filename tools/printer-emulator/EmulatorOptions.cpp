@@ -11,6 +11,8 @@ std::variant<EmulatorOptions, EmulatorOptions::Message> EmulatorOptions::parse(c
 {
     const QCommandLineOption usbfs(u"usbfs"_s, u"Put the printer on an emulated usbfs."_s);
     const QCommandLineOption usbip(u"usbip"_s, u"Attach the printer to the kernel's virtual host controller."_s);
+    const QCommandLineOption usbredir(
+        u"usbredir"_s, u"Wait for qemu at a Unix socket, and plug the printer into its machine."_s, u"socket"_s);
     const QCommandLineOption join(u"join-command"_s,
                                   u"Ask a program to join the network: it reads the name and the password, each ended "
                                   "by a zero byte, and prints the printer's IPv4 address, or fails."_s,
@@ -20,12 +22,13 @@ std::variant<EmulatorOptions, EmulatorOptions::Message> EmulatorOptions::parse(c
                                     u"file"_s);
     const QCommandLineOption model(u"model"_s, u"The model's name: QZ100 unless given."_s, u"name"_s);
     const QCommandLineOption serial(u"serial"_s, u"The serial number: QM0001 unless given."_s, u"number"_s);
+    const QCommandLineOption vendor(u"vendor"_s, u"The vendor ID, in hexadecimal: 6A1B unless given."_s, u"ID"_s);
 
     QCommandLineParser parser;
     parser.setApplicationDescription(u"Runs a program with an emulated printer on its USB bus, or puts "
-                                     "the printer on the kernel's own. "
+                                     "the printer on the bus of a real kernel. "
                                      "Exits with the program's own status, 128 + n if signal n ended it."_s);
-    parser.addOptions({usbfs, usbip, join, script, frames, model, serial});
+    parser.addOptions({usbfs, usbip, usbredir, join, script, frames, model, serial, vendor});
     const QCommandLineOption help = parser.addHelpOption();
     parser.addPositionalArgument(u"command"_s, u"The program to run, with its arguments."_s, u"-- command ..."_s);
 
@@ -33,11 +36,16 @@ std::variant<EmulatorOptions, EmulatorOptions::Message> EmulatorOptions::parse(c
         return Message{parser.errorText()};
     if (parser.isSet(help))
         return Message{parser.helpText(), false};
-    if (parser.isSet(usbfs) == parser.isSet(usbip) || parser.isSet(usbip) != parser.positionalArguments().isEmpty())
+    const int buses = int(parser.isSet(usbfs)) + int(parser.isSet(usbip)) + int(parser.isSet(usbredir));
+    if (buses != 1 || parser.isSet(usbfs) == parser.positionalArguments().isEmpty())
         return Message{parser.helpText()};
 
     EmulatorOptions options;
-    options.bus = parser.isSet(usbip) ? Bus::Usbip : Bus::Usbfs;
+    if (parser.isSet(usbip))
+        options.bus = Bus::Usbip;
+    if (parser.isSet(usbredir))
+        options.bus = Bus::Usbredir;
+    options.socket = parser.value(usbredir);
     options.joinProgram = parser.value(join);
     options.command = parser.positionalArguments();
     options.framesFile = parser.value(frames);
@@ -45,6 +53,12 @@ std::variant<EmulatorOptions, EmulatorOptions::Message> EmulatorOptions::parse(c
         options.identity.model = parser.value(model);
     if (parser.isSet(serial))
         options.identity.serialNumber = parser.value(serial);
+    if (parser.isSet(vendor)) {
+        bool isNumber = false;
+        options.identity.vendorID = parser.value(vendor).toUShort(&isNumber, 16);
+        if (!isNumber)
+            return Message{u"--vendor: "_s + parser.value(vendor) + u" is no vendor ID"_s};
+    }
     if (parser.isSet(script)) {
         QFile file(parser.value(script));
         if (!file.open(QFile::ReadOnly))

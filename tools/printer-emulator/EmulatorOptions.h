@@ -12,14 +12,16 @@ struct EmulatorOptions {
     ModelIdentity identity;
     PrinterScript script;
     enum class Bus {
-        Usbfs, ///< Emulated, for `command` and its children.
-        Usbip, ///< The kernel's own, until the printer is unplugged.
+        Usbfs,    ///< Emulated, for `command` and its children.
+        Usbip,    ///< The kernel's own, until the printer is unplugged.
+        Usbredir, ///< That of qemu's machine, until the printer is unplugged.
     };
 
     QString framesFile;  ///< Empty: frames are not kept.
     QString joinProgram; ///< Empty: the script says what becomes of a configuration.
     Bus bus = Bus::Usbfs;
-    QStringList command; ///< Empty with `Bus::Usbip`.
+    QString socket;      ///< With `Bus::Usbredir`.
+    QStringList command; ///< With `Bus::Usbfs`.
 
     /// The command line does not ask for a run: print this and leave.
     struct Message {

@@ -1,9 +1,11 @@
 #include "ChildProgram.h"
 #include "EmulatorOptions.h"
 #include "JoinProgram.h"
+#include "RemoteBus.h"
 #include "SystemTime.h"
 #include "UsbfsBed.h"
-#include "UsbipBus.h"
+#include "UsbipLine.h"
+#include "UsbredirLine.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -68,6 +70,12 @@ int runOnUsbfs(const EmulatorOptions &options, PrinterModel printer, QFile &fram
     return child->wait();
 }
 
+int runOnLine(RemoteLine &&line, PrinterModel printer, QFile &frames)
+{
+    RemoteBus(std::move(printer), line, [&frames](const ReceivedFrame &frame) { keep(frames, frame); }).run();
+    return 0;
+}
+
 int run(const EmulatorOptions &options)
 {
     QFile frames(options.framesFile);
@@ -85,8 +93,9 @@ int run(const EmulatorOptions &options)
     case EmulatorOptions::Bus::Usbfs:
         return runOnUsbfs(options, std::move(printer), frames);
     case EmulatorOptions::Bus::Usbip:
-        UsbipBus(std::move(printer), [&frames](const ReceivedFrame &frame) { keep(frames, frame); }).run();
-        return 0;
+        return runOnLine(UsbipLine(), std::move(printer), frames);
+    case EmulatorOptions::Bus::Usbredir:
+        return runOnLine(UsbredirLine(QFile::encodeName(options.socket)), std::move(printer), frames);
     }
     Q_UNREACHABLE();
 }
