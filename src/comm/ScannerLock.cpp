@@ -9,8 +9,27 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+/// The descriptor of a regular file; -1 for anything else, such as a link or a pipe that another user put there.
+int openLockFile(const QString &path)
+{
+    const int descriptor = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW);
+    struct stat status {
+    };
+    if (descriptor < 0 || (fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode)))
+        return descriptor;
+    close(descriptor);
+    return -1;
+}
+
+} // namespace
 
 QStringList ScannerLock::configuredPaths()
 {
@@ -29,9 +48,7 @@ QStringList ScannerLock::configuredPaths()
 bool ScannerLock::isHeld(const QStringList &paths)
 {
     for (const QString &path : paths) {
-        if (!QFile::exists(path))
-            continue;
-        const int descriptor = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+        const int descriptor = openLockFile(path);
         if (descriptor < 0)
             continue;
         if (flock(descriptor, LOCK_EX | LOCK_NB) != 0) {

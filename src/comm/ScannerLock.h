@@ -9,8 +9,9 @@ namespace ScannerLock
 /// The paths that the catalogue names; none if there is no catalogue.
 QStringList configuredPaths();
 
-/// Whether another process holds one of the locks (flock(2)). A file that does not exist or may not be read counts as
-/// not locked. The files stay open on purpose: a driver that watches its lock file must not see it being closed.
+/// Whether another process holds one of the locks (flock(2)). A file that does not exist or may not be read holds
+/// nothing, and neither does what is no regular file. Never waits. The descriptors of lock files stay open on purpose:
+/// a driver that watches its lock file must not see it closed.
 bool isHeld(const QStringList &paths);
 
 } // namespace ScannerLock
