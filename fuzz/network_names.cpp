@@ -1,15 +1,22 @@
-/// Networks and printers as the host names them: a network's flags, raw name and password, and a printer's device ID.
-/// Three bytes of flags, then texts parted by line ends.
+/// Networks and printers as the host names them: a network's flags, raw name and password, and a printer's device ID,
+/// on their way to the screen, the log and the printer. Three bytes of flags, one that holds the name's length, the
+/// name, the password up to a line end, the device ID.
 #include "AccessPointSecurity.h"
 #include "Fuzz.h"
 #include "GlibPointer.h"
 #include "Ieee1284DeviceID.h"
+#include "PjlEnvelope.h"
+#include "PrinterCommand.h"
 #include "Utf8Text.h"
 #include "WTCDevice.h"
+#include "WTCommand.h"
+#include "WTLogFormatter.h"
+#include "WTLogMessage.h"
 #include "WTWiFi.h"
 #include "WifiConfigurationPayload.h"
 #include "WirelessDevice.h"
 #include "cutText.h"
+#include "untrustedText.h"
 
 #include <algorithm>
 
@@ -24,6 +31,19 @@ constexpr qsizetype longestAirName = 32;
 bool isWellFormed(const QString &text)
 {
     return text.isValidUtf16();
+}
+
+/// Whether `text` stays on its line and shows all that it holds, from left to right where it is not Arabic or Hebrew.
+bool showsAll(const QString &text)
+{
+    static const QString marks = u"\u061c\u200e\u200f"_s;
+    return std::ranges::none_of(text, [](QChar character) {
+        const QChar::Direction direction = character.direction();
+        return character.category() == QChar::Other_Control || character.category() == QChar::Separator_Line ||
+               character.category() == QChar::Separator_Paragraph || marks.contains(character) ||
+               (direction >= QChar::DirLRE && direction <= QChar::DirPDF && direction != QChar::DirAL) ||
+               (direction >= QChar::DirLRI && direction <= QChar::DirPDI);
+    });
 }
 
 QString nameFromTheAir(QByteArrayView bytes)
@@ -41,14 +61,40 @@ void checkCut(const QString &text)
     require(!isWellFormed(text) || isWellFormed(cut), "a cut splits no pair");
 }
 
+QString logLine(const QString &shownName)
+{
+    return WTLogFormatter()
+        .formatLogMessage(WTLogMessage::initWithFormat(u"ssid:%@"_s, {shownName}, 0, WTLogFlagInfo, 0, {}, {}, 0, {}))
+        .value_or(QString());
+}
+
+void checkShown(const WTWiFi &network)
+{
+    const QString shown = network.shownSSID().value_or(QString());
+    require(showsAll(shown) && isWellFormed(shown), "a row, a field or a label shows all of a name on one line");
+    require(visibleText(shown) == shown, "what is shown is shown the same");
+    require(shown == network.SSID || !showsAll(*network.SSID), "a harmless name is shown as it is");
+    const QString line = logLine(shown);
+    require(line.endsWith(u"ssid:"_s + shown) && showsAll(line), "a name stays on its line of the log");
+}
+
+void checkFrame(const QByteArray &payload)
+{
+    const QByteArray frame = WTCommand::PJLWithCMD(PrinterCommand::wifiConfiguration, payload);
+    require(frame.count(PjlEnvelope::universalExitLanguage) == 2, "a name neither ends the job nor begins another");
+}
+
 void checkPayload(const QString &name, const QString &password)
 {
     using Payload = WifiConfigurationPayload;
     const auto payload = Payload::encode(name, password);
     const QByteArray secret = password.toUtf8();
-    require(payload.has_value() == (secret.size() <= Payload::passwordLimit), "only a long password is refused");
+    require(payload.has_value() == (secret.size() <= Payload::passwordLimit && isSendableNetworkName(name)),
+            "only a long password and a name with a control character are refused");
     if (!payload)
         return;
+    if (isSendableNetworkName(password)) // The screens take no other password.
+        checkFrame(*payload);
     require(payload->size() == Payload::size, "the payload has its size");
     require(payload->first(Payload::nameSize) ==
                 name.toUtf8().left(Payload::nameLimit).leftJustified(Payload::nameSize, '\0'),
@@ -61,13 +107,15 @@ void checkPayload(const QString &name, const QString &password)
 void checkNetwork(QByteArrayView bytes, const QString &password)
 {
     const QByteArrayView onAir = bytes.first(std::min(bytes.size(), longestAirName));
-    const QString name = nameFromTheAir(onAir);
+    WTWiFi network;
+    network.SSID = nameFromTheAir(onAir);
+    const QString &name = *network.SSID;
     require(isWellFormed(name), "a name is readable");
-    // A zero byte ends a name: what stands behind it could not be told to a printer.
-    require(name.isEmpty() == (onAir.isEmpty() || onAir.front() == '\0'), "only no name is empty");
-    if (utf8Text(onAir) && !onAir.contains('\0'))
+    require(name.isEmpty() == (onAir.count('\0') == onAir.size()), "only no name is empty");
+    if (utf8Text(onAir) && !name.isEmpty())
         require(name.toUtf8() == onAir, "a name that is text reaches the printer as it came");
     checkCut(name);
+    checkShown(network);
     checkPayload(name, password);
 }
 
@@ -92,6 +140,8 @@ void checkDeviceID(const QString &text)
     device.serialNumber = text;
     const WTCDevice printer = deviceFromUsb(device);
     require(std::ranges::all_of(printer.URI, [](QChar c) { return c > u' ' && c < u'\x7f'; }), "a URI is plain");
+    require(showsAll(printer.printerType) && showsAll(printer.manufacturer) && showsAll(printer.serialNumber),
+            "what a printer says of itself stays on its line");
     require(printer.URI.count(u'/') == 3 && printer.URI.count(u'?') == 1, "a name never ends its part of the URI");
 }
 
@@ -112,9 +162,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t size)
     const auto flags = Fuzz::takeByte(input);
     const auto wpa = Fuzz::takeByte(input);
     checkSecurity(flags, wpa, Fuzz::takeByte(input));
-    const auto [name, rest] = Fuzz::splitAt(input, '\n');
-    const auto [password, deviceID] = Fuzz::splitAt(rest, '\n');
-    checkNetwork(name, QString::fromUtf8(password));
+    const qsizetype announced = Fuzz::takeByte(input);
+    const qsizetype length = std::min(announced, input.size());
+    const auto [password, deviceID] = Fuzz::splitAt(input.sliced(length), '\n');
+    checkNetwork(input.first(length), QString::fromUtf8(password));
     checkText(input);
     checkDeviceID(QString::fromUtf8(deviceID));
     return 0;

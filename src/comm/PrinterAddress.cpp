@@ -1,6 +1,7 @@
 #include "PrinterAddress.h"
 
 #include "WTManager.h"
+#include "untrustedText.h"
 
 #include <QRegularExpression>
 #include <array>
@@ -39,7 +40,7 @@ QRegularExpression wholeText(QStringView pattern)
 
 std::optional<QString> fieldOf(const QByteArray &data, AddressField field)
 {
-    return WTManager::ipByData(data, field.offset, field.size);
+    return visibleText(WTManager::ipByData(data, field.offset, field.size));
 }
 
 } // namespace

@@ -24,8 +24,8 @@ inline constexpr AddressField unstatusField{112, 64};
 /// A reply with less data holds no address.
 inline constexpr qsizetype leastAddressData = 16;
 
-/// The texts of the fields. A text is empty when the reply is too short for its field to be read at all, and absent
-/// when the field runs past the end of the reply or is not UTF-8.
+/// The texts of the fields, hidden characters as their numbers (`visibleText`). A text is empty when the reply is too
+/// short for its field to be read at all, and absent when the field runs past the end of the reply or is not UTF-8.
 struct AddressCandidates {
     std::optional<QString> ipv4;
     std::optional<QString> ipv6;

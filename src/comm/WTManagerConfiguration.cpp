@@ -8,6 +8,7 @@
 #include "WTCommand.h"
 #include "WifiConfigurationPayload.h"
 #include "isSafe.h"
+#include "untrustedText.h"
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -53,17 +54,21 @@ void WTManager::wifiConfigForPrinter(const QString &uri, quint32, const QString 
                                      StatusCallback callBack)
 {
     if (!isSafe(ssid)) {
-        logError("dirty data👉🏻ssid:%@", ssid);
+        logError("dirty data👉🏻ssid:%@", visibleText(ssid));
         return;
     }
     const auto payload = WifiConfigurationPayload::encode(ssid, password);
     if (!payload) {
-        logError("The password is longer than the %ld bytes that a printer takes; nothing is sent.",
-                 WifiConfigurationPayload::passwordLimit);
-        const WTError tooLong{printerErrorDomain, static_cast<int>(WTPrinterStatus::NoHeader),
-                              u"the password is longer than a printer takes"_s};
-        refusals().async([callBack = std::move(callBack), tooLong] {
-            callBack({.status = WTPrinterStatus::NoHeader, .cause = tooLong});
+        if (isSendableNetworkName(ssid))
+            logError("The password is longer than the %ld bytes that a printer takes; nothing is sent.",
+                     WifiConfigurationPayload::passwordLimit);
+        else
+            logError("The network's name holds a control character; nothing is sent.");
+        const WTError refused{printerErrorDomain, static_cast<int>(WTPrinterStatus::NoHeader),
+                              isSendableNetworkName(ssid) ? u"the password is longer than a printer takes"_s
+                                                          : u"the network's name holds a control character"_s};
+        refusals().async([callBack = std::move(callBack), refused] {
+            callBack({.status = WTPrinterStatus::NoHeader, .cause = refused});
         });
         return;
     }

@@ -1,9 +1,11 @@
 #include "WifiConfigurationPayload.h"
 
+#include "untrustedText.h"
+
 std::optional<QByteArray> WifiConfigurationPayload::encode(const QString &ssid, const QString &password)
 {
     const QByteArray secret = password.toUtf8();
-    if (secret.size() > passwordLimit)
+    if (secret.size() > passwordLimit || !isSendableNetworkName(ssid))
         return std::nullopt;
 
     QByteArray payload = ssid.toUtf8().left(nameLimit).leftJustified(nameSize, '\0');

@@ -21,6 +21,7 @@ public:
     static constexpr qsizetype passwordLimit = 31;
     static constexpr qsizetype size = 208;
 
-    /// Absent when the password has more than `passwordLimit` bytes: a cut password would never work.
+    /// Absent when the password has more than `passwordLimit` bytes, since a cut password would never work, or when the
+    /// name cannot be sent (`isSendableNetworkName`).
     static std::optional<QByteArray> encode(const QString &ssid, const QString &password);
 };

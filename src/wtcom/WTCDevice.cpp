@@ -1,6 +1,7 @@
 #include "WTCDevice.h"
 
 #include "Ieee1284DeviceID.h"
+#include "untrustedText.h"
 
 #include <QUrl>
 #include <algorithm>
@@ -34,14 +35,15 @@ WTCDevice deviceFromUsb(const UsbDevice &device)
 {
     const Ieee1284DeviceID id(device.ieee1284DeviceID);
     WTCDevice printer;
-    printer.printerType = firstUsable(id.model(), device.product);
-    printer.manufacturer = firstUsable(id.manufacturer(), device.manufacturer);
-    printer.serialNumber = device.serialNumber;
+    const QString model = firstUsable(id.model(), device.product);
+    const QString manufacturer = firstUsable(id.manufacturer(), device.manufacturer);
+    printer.printerType = visibleText(model);
+    printer.manufacturer = visibleText(manufacturer);
+    printer.serialNumber = visibleText(device.serialNumber);
     printer.VID = device.vendorID;
     printer.PID = device.productID;
     printer.locationID = device.locationID;
-    printer.URI = u"usb://%1/%2?serial=%3"_s.arg(encoded(printer.manufacturer), encoded(printer.printerType),
-                                                 encoded(printer.serialNumber));
+    printer.URI = u"usb://%1/%2?serial=%3"_s.arg(encoded(manufacturer), encoded(model), encoded(device.serialNumber));
     return printer;
 }
 

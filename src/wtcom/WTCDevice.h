@@ -5,7 +5,8 @@
 #include <QString>
 #include <optional>
 
-/// A printer on the bus, as the search service reports it.
+/// A printer on the bus, as the search service reports it. Hidden characters in its texts stand as their numbers
+/// (`visibleText`); the URI holds what the device said.
 struct WTCDevice {
     QString printerType; ///< The device ID's MDL, else the product text.
     QString serialNumber;

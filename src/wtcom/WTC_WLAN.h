@@ -1,6 +1,7 @@
 #pragma once
 
 #include "WTError.h"
+#include "untrustedText.h"
 
 #include <QString>
 #include <functional>
@@ -22,7 +23,9 @@ public:
     /// The networks that the host sees now, in the host's order. Returns at once; the scan may take seconds.
     static void getWiFiList(ListCallback callBack);
 
+    /// The network's name as it is sent. Hidden characters and all: for log and screen there is `shownSSID`.
     std::optional<QString> SSID;
+    std::optional<QString> shownSSID() const { return visibleText(SSID); }
     std::optional<QString> password;
     qint64 security = 0; ///< 0 other, 1 open, 2 WEP, 3 WPA personal, ... 13 OWE.
     qint64 quality = 0;  ///< Per cent.

@@ -95,6 +95,7 @@ void CommandFrameTest::encodesNameAndPassword_data()
     row("password of 31 bytes", u"n"_s, wide + u'x', payload("n", wide.toUtf8() + 'x'));
     row("password of 32 bytes", u"n"_s, QString(32, u'p'), std::nullopt);
     row("password of 33 bytes", u"n"_s, wide + u"密"_s, std::nullopt);
+    row("name that ends the printer's job", u"\x1b%-12345X"_s, u"p"_s, std::nullopt);
 }
 
 void CommandFrameTest::encodesNameAndPassword()

@@ -4,6 +4,7 @@
 #include "TextFormat.h"
 #include "WTSafeArray.h"
 #include "isSafe.h"
+#include "untrustedText.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -18,6 +19,8 @@ class TextTest : public QObject
 private Q_SLOTS:
     void formats_data();
     void formats();
+    void showsHiddenCharacters_data();
+    void showsHiddenCharacters();
     void knowsUsableContent();
     void readsTheInformationList();
 };
@@ -58,6 +61,25 @@ void TextTest::formats()
 {
     QFETCH(QString, made);
     QTEST(made, "expected");
+}
+
+void TextTest::showsHiddenCharacters_data()
+{
+    const Rows<QString, QString, bool> row{"text", "visible", "sendable"};
+    row("harmless", u"Café 咖啡 \\n 👩\u200d🔧"_s, u"Café 咖啡 \\n 👩\u200d🔧"_s, true);
+    row("control characters", u"a\0\n\x1b\x7f\x85"_s, u"a\\u0000\\u000A\\u001B\\u007F\\u0085"_s, false);
+    row("DEL alone", u"\x7f"_s, u"\\u007F"_s, false);
+    row("C1 alone, as in names that are no UTF-8", u"\x85"_s, u"\\u0085"_s, true);
+    row("separators", u"a\u2028b\u2029"_s, u"a\\u2028b\\u2029"_s, true);
+    row("direction marks", u"\u061c\u200e\u200f\u202a\u202e\u2066\u2069"_s,
+        u"\\u061C\\u200E\\u200F\\u202A\\u202E\\u2066\\u2069"_s, true);
+}
+
+void TextTest::showsHiddenCharacters()
+{
+    QFETCH(QString, text);
+    QTEST(visibleText(text), "visible");
+    QTEST(isSendableNetworkName(text), "sendable");
 }
 
 void TextTest::knowsUsableContent()

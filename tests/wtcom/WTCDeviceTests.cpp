@@ -25,6 +25,8 @@ void WTCDeviceTests::fromUsb_data()
     row("long keys, other case", u" manufacturer : Quillmark ;MODEL: QZ100 "_s, u"QZ100"_s, u"Quillmark"_s, named);
     row("a colon in a value", u"MFG:Q;MDL:A:B"_s, u"A:B"_s, u"Q"_s, u"usb://Q/A%3AB?serial=S%2F1"_s);
     row("not ASCII", u"MFG:墨;MDL:QZ1"_s, u"QZ1"_s, u"墨"_s, u"usb://%E5%A2%A8/QZ1?serial=S%2F1"_s);
+    row("hidden characters", u"MFG:Q\u202e;MDL:QZ1\n2"_s, u"QZ1\\u000A2"_s, u"Q\\u202E"_s,
+        u"usb://Q%E2%80%AE/QZ1%0A2?serial=S%2F1"_s);
     row("only a model", u"MDL:QZ100;"_s, u"QZ100"_s, u"Maker"_s, u"usb://Maker/QZ100?serial=S%2F1"_s);
     row("empty values", u"MFG:;MDL: ;"_s, product, u"Maker"_s, texts);
     row("no device ID", {}, product, u"Maker"_s, texts);

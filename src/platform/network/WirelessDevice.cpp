@@ -4,6 +4,7 @@
 #include "AccessPointSecurity.h"
 
 #include <QStringDecoder>
+#include <QStringList>
 #include <algorithm>
 #include <map>
 #include <tuple>
@@ -45,24 +46,30 @@ NMDeviceWifi *primaryDevice(NMClient *client)
     return nullptr;
 }
 
+/// A device that NetworkManager leaves alone neither scans nor knows a password; a joined one has both to give.
+int usefulness(NMDeviceWifi *device)
+{
+    if (!nm_device_get_managed(NM_DEVICE(device)))
+        return 0;
+    return nm_device_wifi_get_active_access_point(device) ? 2 : 1;
+}
+
 } // namespace
 
 NMDeviceWifi *defaultWirelessDevice(NMClient *client)
 {
     if (NMDeviceWifi *primary = primaryDevice(client))
         return primary;
-    NMDeviceWifi *first = nullptr;
+    NMDeviceWifi *best = nullptr;
     const GPtrArray *devices = nm_client_get_devices(client);
     for (guint index = 0; devices && index < devices->len; ++index) {
         if (!NM_IS_DEVICE_WIFI(devices->pdata[index]))
             continue;
         NMDeviceWifi *device = NM_DEVICE_WIFI(devices->pdata[index]);
-        if (nm_device_wifi_get_active_access_point(device))
-            return device;
-        if (!first)
-            first = device;
+        if (!best || usefulness(device) > usefulness(best))
+            best = device;
     }
-    return first;
+    return best;
 }
 
 QString readableName(GBytes *ssid)
@@ -74,9 +81,15 @@ QString readableName(GBytes *ssid)
     // Hidden networks announce no name, or one of zero bytes only.
     if (std::all_of(bytes, bytes + size, [](guint8 byte) { return byte == 0; }))
         return {};
-    const GlibPointer<gchar> text(nm_utils_ssid_to_utf8(bytes, size));
-    // A byte order mark belongs to the name: without it the printer would look for another network.
-    return QStringDecoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom).decode(text.get());
+    // Piece by piece between zero bytes: libnm's text would end at the first one, and be the name of another network.
+    QStringList pieces;
+    for (const QByteArray &piece : QByteArray(reinterpret_cast<const char *>(bytes), qsizetype(size)).split('\0')) {
+        const GlibPointer<gchar> text(
+            nm_utils_ssid_to_utf8(reinterpret_cast<const guint8 *>(piece.constData()), gsize(piece.size())));
+        // A byte order mark belongs to the name: without it the printer would look for another network.
+        pieces += QStringDecoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom).decode(text.get());
+    }
+    return pieces.join(QChar::Null);
 }
 
 HostWiFiState wirelessState(NMClient *client, NMDeviceWifi *device)
