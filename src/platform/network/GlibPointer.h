@@ -4,10 +4,11 @@
 
 #include <memory>
 
-/// Owners of glib things. For .cpp files of this folder only.
+/// Owners of GLib things. For .cpp files of this folder only.
 struct GlibRelease {
     void operator()(GMainContext *context) const { g_main_context_unref(context); }
     void operator()(GMainLoop *loop) const { g_main_loop_unref(loop); }
+    void operator()(GSource *source) const { g_source_unref(source); }
     void operator()(GError *error) const { g_error_free(error); }
     void operator()(GVariant *variant) const { g_variant_unref(variant); }
     void operator()(gchar *text) const { g_free(text); }

@@ -15,6 +15,9 @@ namespace
 
 const QString errorDomain = QStringLiteral("NetworkManager");
 
+/// How long a system bus that was not there is left alone.
+constexpr TimePort::Duration busRetryPause = std::chrono::seconds(5);
+
 WTError noDevice()
 {
     return {errorDomain, 1,
@@ -57,6 +60,7 @@ struct NetworkManagerWiFi::State {
     static void permissionChanged(State *state) { state->refreshPermission(); }
 
     void connectToHost();
+    void connectLater();
     void disconnectFromHost();
     void watchClient();
     void watchDevice(NMDeviceWifi *device);
@@ -72,8 +76,10 @@ struct NetworkManagerWiFi::State {
     std::function<void()> permissionWatcher;
 
     // The network thread's own.
-    GObjectPointer<GCancellable> operations; ///< Cancelled when the connection to the host ends.
-    bool connected = false;                  ///< The first answer, good or bad, is in.
+    const GObjectPointer<GCancellable> operations{g_cancellable_new()}; ///< Cancelled when the connection ends.
+    bool connecting = false;                                            ///< A client is being made.
+    bool connected = false;                                             ///< The first answer, good or bad, is in.
+    std::unique_ptr<TimePort::Timer> nextTry;
     GObjectPointer<NMClient> client;
     GObjectPointer<NMDeviceWifi> device;
     GObjectPointer<NMAccessPoint> accessPoint;
@@ -86,8 +92,15 @@ struct NetworkManagerWiFi::State {
 
 void NetworkManagerWiFi::State::connectToHost()
 {
-    operations.reset(g_cancellable_new());
+    if (g_cancellable_is_cancelled(operations.get()))
+        return;
+    connecting = true;
     nm_client_new_async(operations.get(), &State::clientMade, this);
+}
+
+void NetworkManagerWiFi::State::connectLater()
+{
+    nextTry = time.after(busRetryPause, [this] { thread.post([this] { connectToHost(); }); });
 }
 
 void NetworkManagerWiFi::State::clientMade(GObject *, GAsyncResult *result, gpointer data)
@@ -96,9 +109,12 @@ void NetworkManagerWiFi::State::clientMade(GObject *, GAsyncResult *result, gpoi
     GError *failure = nullptr;
     state->client.reset(NM_CLIENT(nm_client_new_finish(result, &failure)));
     const GlibPointer<GError> error(failure);
+    state->connecting = false;
     state->connected = true;
     if (state->client)
         state->watchClient();
+    else if (!g_cancellable_is_cancelled(state->operations.get()))
+        state->connectLater();
     state->refresh();
     state->refreshPermission();
 }
@@ -107,8 +123,9 @@ void NetworkManagerWiFi::State::disconnectFromHost()
 {
     GMainContext *context = g_main_context_get_thread_default();
     g_cancellable_cancel(operations.get());
+    nextTry.reset();
     // The creation of a client may not be left halfway: the bus connection that it opens is the whole process's.
-    while (!connected)
+    while (connecting)
         g_main_context_iteration(context, TRUE);
     accessPointSignal = {};
     deviceSignal = {};

@@ -4,8 +4,6 @@
 
 #include "AlternateSignalStack.h"
 
-#include <deque>
-#include <mutex>
 #include <thread>
 #include <utility>
 
@@ -16,44 +14,29 @@ struct NetworkThread::State {
     {
     }
 
-    static gboolean runJobs(gpointer state);
-    void wake();
-    void run();
+    void attach(int priority, Job job) const;
+    void run() const;
 
-    GlibPointer<GMainContext> context;
-    GlibPointer<GMainLoop> loop;
-    std::mutex mutex;
-    std::deque<Job> jobs;
-    bool ending = false;
+    const GlibPointer<GMainContext> context; ///< Queues the jobs; what is left goes with it.
+    const GlibPointer<GMainLoop> loop;
     std::thread thread;
 };
 
-gboolean NetworkThread::State::runJobs(gpointer data)
+void NetworkThread::State::attach(int priority, Job job) const
 {
-    auto *state = static_cast<State *>(data);
-    std::deque<Job> jobs;
-    {
-        const std::lock_guard lock(state->mutex);
-        if (state->ending)
-            g_main_loop_quit(state->loop.get());
-        else
-            jobs.swap(state->jobs);
-    }
-    for (const Job &job : jobs)
-        job();
-    return G_SOURCE_REMOVE;
+    const GlibPointer<GSource> source(g_idle_source_new());
+    g_source_set_priority(source.get(), priority);
+    g_source_set_callback(
+        source.get(),
+        [](gpointer data) -> gboolean {
+            (*static_cast<Job *>(data))();
+            return G_SOURCE_REMOVE;
+        },
+        new Job(std::move(job)), [](gpointer data) { delete static_cast<Job *>(data); });
+    g_source_attach(source.get(), context.get());
 }
 
-void NetworkThread::State::wake()
-{
-    GSource *source = g_idle_source_new();
-    g_source_set_priority(source, G_PRIORITY_DEFAULT);
-    g_source_set_callback(source, &State::runJobs, this, nullptr);
-    g_source_attach(source, context.get());
-    g_source_unref(source);
-}
-
-void NetworkThread::State::run()
+void NetworkThread::State::run() const
 {
     const AlternateSignalStack signalStack;
     g_main_context_push_thread_default(context.get());
@@ -69,20 +52,12 @@ NetworkThread::NetworkThread()
 
 NetworkThread::~NetworkThread()
 {
-    {
-        const std::lock_guard lock(m_state->mutex);
-        m_state->ending = true;
-        m_state->jobs.clear();
-    }
-    m_state->wake();
+    // Not from here: a loop that has not begun to run yet would not notice.
+    m_state->attach(G_PRIORITY_HIGH, [loop = m_state->loop.get()] { g_main_loop_quit(loop); });
     m_state->thread.join();
 }
 
 void NetworkThread::post(Job job)
 {
-    {
-        const std::lock_guard lock(m_state->mutex);
-        m_state->jobs.push_back(std::move(job));
-    }
-    m_state->wake();
+    m_state->attach(G_PRIORITY_DEFAULT, std::move(job));
 }

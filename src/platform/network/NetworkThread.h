@@ -4,7 +4,7 @@
 #include <memory>
 
 /// The thread that owns every libnm object: NetworkManager may take its time on the bus without holding up a screen.
-/// Its glib main context is the thread's default one.
+/// Its GLib main context is the thread's default one.
 class NetworkThread
 {
 public:

@@ -8,7 +8,8 @@
 
 /// Questions to libnm's objects. Network thread only; for .cpp files of this folder.
 
-/// The device that counts: the one of the primary connection, else a joined one, else the first. Null without one.
+/// The device that counts: the one of the primary connection, else the first that NetworkManager manages and that is
+/// joined, else the first managed one, else the first. Null without one.
 NMDeviceWifi *defaultWirelessDevice(NMClient *client);
 
 /// A network's name as readable text, also when its bytes are no UTF-8; empty for a hidden network.

@@ -2,6 +2,7 @@
 #include "AccessPointSecurity.h"
 #include "MockNetworkManager.h"
 #include "SystemTime.h"
+#include "VirtualTime.h"
 
 #include <QJsonObject>
 #include <QTest>
@@ -9,6 +10,7 @@
 #include <limits>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
 using Operations = QList<QJsonArray>;
 
 namespace
@@ -73,6 +75,7 @@ class NetworkManagerWiFiTest : public QObject
 private Q_SLOTS:
     void cleanup() { m_mock.tell(QJsonArray{u"stop"_s}); }
 
+    void usesABusThatComesLater();
     void state_data();
     void state();
     void followsTheHost();
@@ -93,6 +96,23 @@ private:
     SystemTime m_time;
 };
 
+void NetworkManagerWiFiTest::usesABusThatComesLater()
+{
+    m_mock.tell(joinedComputer());
+    const QByteArray address = qgetenv("DBUS_SYSTEM_BUS_ADDRESS");
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nowhere/bus");
+    VirtualTime time;
+    NetworkManagerWiFi wifi(time);
+    auto answered = std::make_shared<std::atomic<bool>>(false);
+    wifi.watchScanPermission([answered] { *answered = true; });
+    QTRY_VERIFY(answered->load());
+    QVERIFY(wifi.state().interfaceName.isEmpty());
+
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", address);
+    time.advance(5s);
+    QTRY_COMPARE(wifi.state().ssid.value_or(QString()), u"Office"_s);
+}
+
 void NetworkManagerWiFiTest::state_data()
 {
     QTest::addColumn<Operations>("host");
@@ -104,19 +124,29 @@ void NetworkManagerWiFiTest::state_data()
     QTest::addColumn<qint64>("platformSecurity");
 
     const Operations radioOff{{u"start"_s, false}, {u"device"_s, u"wlan0"_s}};
-    const Operations twoDevices =
-        joinedComputer() + Operations{{u"device"_s, u"wlan1"_s},
-                                      {u"ap"_s, u"wlan1"_s, u"cafe"_s, hex("Caf\u00e9"), 30, 5180, 0, 0, 0},
-                                      {u"profile"_s, u"wlan1"_s, u"p2"_s, u"Caf\u00e9"_s},
-                                      {u"join"_s, u"wlan1"_s, u"p2"_s, u"cafe"_s, true}};
+    const Operations switchedOff{{u"start"_s}, {u"device"_s, u"wlan0"_s}, {u"hardware_switch"_s, false}};
+    const auto joined = [](bool primary) {
+        return Operations{{u"device"_s, u"wlan1"_s},
+                          {u"ap"_s, u"wlan1"_s, u"cafe"_s, hex("Caf\u00e9"), 30, 5180, 0, 0, 0},
+                          {u"profile"_s, u"wlan1"_s, u"p2"_s, u"Caf\u00e9"_s},
+                          {u"join"_s, u"wlan1"_s, u"p2"_s, u"cafe"_s, primary}};
+    };
+    const auto unmanaged = [](const QString &device) { return QJsonArray{u"device"_s, device, u"newer"_s, false}; };
 
     QTest::newRow("NetworkManager absent") << Operations{} << QString() << false << QString() << 0 << 0 << 0LL;
     QTest::newRow("no wireless device") << Operations{{u"start"_s}} << QString() << false << QString() << 0 << 0 << 0LL;
     QTest::newRow("radio off") << radioOff << u"wlan0"_s << false << QString() << 0 << 0 << 0LL;
+    QTest::newRow("switched off by hand") << switchedOff << u"wlan0"_s << false << QString() << 0 << 0 << 0LL;
     QTest::newRow("not joined") << Operations{{u"start"_s}, {u"device"_s, u"wlan0"_s}} << u"wlan0"_s << true
                                 << QString() << 0 << 0 << 0LL;
     QTest::newRow("joined") << joinedComputer() << u"wlan0"_s << true << u"Office"_s << -59 << 1 << 4LL;
-    QTest::newRow("the primary of two") << twoDevices << u"wlan1"_s << true << u"Caf\u00e9"_s << -85 << 2 << 0LL;
+    QTest::newRow("the primary of two") << joinedComputer() + joined(true) << u"wlan1"_s << true << u"Caf\u00e9"_s
+                                        << -85 << 2 << 0LL;
+    QTest::newRow("the joined one of two") << Operations{{u"start"_s}, {u"device"_s, u"wlan0"_s}} + joined(false)
+                                           << u"wlan1"_s << true << u"Caf\u00e9"_s << -85 << 2 << 0LL;
+    QTest::newRow("the managed one of two")
+        << Operations{{u"start"_s}, unmanaged(u"wlan0"_s), {u"device"_s, u"wlan1"_s}} << u"wlan1"_s << true << QString()
+        << 0 << 0 << 0LL;
 }
 
 void NetworkManagerWiFiTest::state()
@@ -176,9 +206,11 @@ void NetworkManagerWiFiTest::networks_data()
                                                             {u"ap"_s, u"wlan0"_s, u"b"_s, hex(QByteArray(8, '\0')), 90},
                                                             {u"ap"_s, u"wlan0"_s, u"c"_s, hex("seen"), 5}}
                                               << QByteArray("seen/7/5");
-    QTest::newRow("multi-byte and not UTF-8") << Operations{{u"ap"_s, u"wlan0"_s, u"a"_s, hex("咖啡"), 80},
-                                                            {u"ap"_s, u"wlan0"_s, u"b"_s, u"4361666ce9"_s, 70}}
-                                              << QByteArray("咖啡/7/80, Cafl\u00e9/7/70");
+    QTest::newRow("multi-byte, not UTF-8, a zero byte")
+        << Operations{{u"ap"_s, u"wlan0"_s, u"a"_s, hex("咖啡"), 80},
+                      {u"ap"_s, u"wlan0"_s, u"b"_s, u"4361666ce9"_s, 70},
+                      {u"ap"_s, u"wlan0"_s, u"c"_s, hex("Cafl\0\xe9"_ba), 60}}
+        << "咖啡/7/80, Cafl\u00e9/7/70, Cafl\0\u00e9/7/60"_ba;
     QTest::newRow("none") << Operations{} << QByteArray();
 }
 
@@ -209,23 +241,28 @@ void NetworkManagerWiFiTest::scanWithoutNewerAnswerEnds()
 
 void NetworkManagerWiFiTest::secrets_data()
 {
-    QTest::addColumn<QJsonArray>("profile");
+    QTest::addColumn<Operations>("profiles");
     QTest::addColumn<int>("status");
     QTest::addColumn<QString>("password");
 
     const auto stored = [](const QJsonObject &secrets) {
-        return QJsonArray{u"profile"_s, u"wlan0"_s, u"p1"_s, u"Office"_s, secrets};
+        return Operations{{u"profile"_s, u"wlan0"_s, u"p1"_s, u"Office"_s, secrets}};
     };
     const auto refused = [](const QString &error) {
-        return QJsonArray{u"profile"_s, u"wlan0"_s, u"p1"_s, u"Office"_s, QJsonValue(), error};
+        return Operations{{u"profile"_s, u"wlan0"_s, u"p1"_s, u"Office"_s, QJsonValue(), error}};
     };
     const QString difficult = u" \u00a5\u20ac\u00a3\u2022\"'\\ "_s;
     QTest::newRow("stored") << stored({{u"psk"_s, difficult}}) << 0 << difficult;
     QTest::newRow("WEP key in use") << stored({{u"wep-key0"_s, u"abcde"_s}}) << 0 << u"abcde"_s;
     QTest::newRow("nothing stored") << stored({}) << int(SecretStatus::NotStored) << QString();
     QTest::newRow("another network's profile")
-        << QJsonArray{u"profile"_s, u"wlan0"_s, u"p1"_s, u"Home"_s, QJsonObject{{u"psk"_s, u"x"_s}}}
+        << Operations{{u"profile"_s, u"wlan0"_s, u"p1"_s, u"Home"_s, QJsonObject{{u"psk"_s, u"x"_s}}}}
         << int(SecretStatus::NotStored) << QString();
+    const auto another = [](const QString &name) {
+        return QJsonArray{u"profile"_s, u"wlan0"_s, name, u"Office"_s, QJsonObject{{u"psk"_s, u"an older one"_s}}};
+    };
+    QTest::newRow("the profile in use before others of its network")
+        << Operations{another(u"p0"_s)} + joinedComputer().sliced(2) + Operations{another(u"p2"_s)} << 0 << u"s3cret"_s;
     QTest::newRow("permission denied") << refused(u"org.freedesktop.NetworkManager.Settings.PermissionDenied"_s)
                                        << -25293 << QString();
     QTest::newRow("prompt cancelled") << refused(u"org.freedesktop.NetworkManager.AgentManager.UserCanceled"_s) << -128
@@ -238,10 +275,10 @@ void NetworkManagerWiFiTest::secrets_data()
 
 void NetworkManagerWiFiTest::secrets()
 {
-    QFETCH(QJsonArray, profile);
+    QFETCH(Operations, profiles);
     QFETCH(int, status);
     QFETCH(QString, password);
-    m_mock.tell({{u"start"_s}, {u"device"_s, u"wlan0"_s}, profile});
+    m_mock.tell(Operations{{u"start"_s}, {u"device"_s, u"wlan0"_s}} + profiles);
     NetworkManagerWiFi wifi(m_time);
     QTRY_COMPARE(wifi.state().interfaceName, u"wlan0"_s);
     const auto answer = secretOf(wifi, u"Office"_s);

@@ -59,11 +59,15 @@ class Mock:
     def radio(self, enabled):
         self.set(MANAGER, NM, "WirelessEnabled", dbus.Boolean(enabled))
 
-    def device(self, name, scan="newer"):
+    def hardware_switch(self, enabled):
+        self.set(MANAGER, NM, "WirelessHardwareEnabled", dbus.Boolean(enabled))
+
+    def device(self, name, scan="newer", managed=True):
         path = self.template.AddWiFiDevice(name, name, 30)
         device = self.object(path)
         device.AddProperty(WIRELESS, "ActiveAccessPoint", dbus.ObjectPath("/"))
         device.AddProperty(WIRELESS, "LastScan", dbus.Int64(1000))
+        self.set(path, NM + ".Device", "Managed", dbus.Boolean(managed))
         code = {
             "newer": f"self.UpdateProperties('{WIRELESS}', {{'LastScan': dbus.Int64(2000)}})",
             "refused": f"raise dbus.exceptions.DBusException('too soon', name='{NM}.Device.NotAllowed')",
