@@ -60,19 +60,23 @@ public:
     bool isWirelessAP = false;                     ///< Reserved.
     qint32 channelWifi = 0;                        ///< Band: 0 unknown, 1 the 2.4 GHz band, 2 the 5 GHz band.
     qint64 secureWifi = 0;                         ///< The current network's security, platform numbering.
-    std::optional<QString> selectedSSID;           ///< The network to configure; a refresh makes it the current one.
-    qint64 selectedAuthMode = 0;                   ///< Its security, platform numbering.
-    std::optional<QString> selectedPassword;       ///< Kept by a refresh: it may belong to an earlier selection.
-    qint64 selectedRssi = 0;                       ///< The current network's quality in per cent.
+    std::optional<QString> selectedSSID; ///< The network to configure, its name as it is sent; a refresh makes it the
+                                         ///< current one. Log and screen show `visibleText` of it.
+    qint64 selectedAuthMode = 0;         ///< Its security, platform numbering.
+    std::optional<QString> selectedPassword; ///< Only ever the one that was fetched for the selected network; none for
+                                             ///< an open one. Changed by a fetch and by a refresh.
+    qint64 selectedRssi = 0;                 ///< The current network's quality in per cent.
 
-    /// Reads all of the above from the host, except the reserved ones and the password. Where the host names no default
-    /// interface and has no interface at all, nothing changes.
+    /// Reads all of the above from the host, except the reserved ones and the password, which goes unless it is that of
+    /// the network that is selected now. Where the host names no default interface and has no interface at all, nothing
+    /// changes.
     void checkPcNetState();
 
     using PasswordCallback = std::function<void(const QString &password)>;
 
     /// Asks for the selected network's stored password, unless the network is open, and puts what comes, empty after a
-    /// failure, into `selectedPassword`. What came for another network goes at once.
+    /// failure, into `selectedPassword`. What came for another network goes at once, and an answer that comes when
+    /// another network is selected is not kept.
     void fetchWIFIPWD();
     /// The stored password of the network that is selected when the host is asked; `ssid` only decides whether to ask:
     /// an absent one answers at once. The host may ask its user first. Empty after a failure.
@@ -96,6 +100,12 @@ Q_SIGNALS:
 private:
     WTApp() = default;
 
+    /// Gets the network that the host was asked for, and its password, empty after a failure.
+    using AccountPasswordCallback = std::function<void(const QString &account, const QString &password)>;
+
+    /// Asks for the password of the network that is selected when the question is put, which is soon after.
+    void askForPassword(AccountPasswordCallback callBack);
+    void dropOthersPassword();
     void keepPassword(const std::optional<QString> &ssid, const QString &password);
 
     std::optional<QString> m_systemVersion;

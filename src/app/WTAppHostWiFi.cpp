@@ -2,9 +2,12 @@
 #include "Log.h"
 #include "MainThread.h"
 #include "WTApp.h"
+#include "untrustedText.h"
 
 namespace
 {
+
+constexpr qint64 openNetwork = 0; ///< In the platform's numbering.
 
 const char *mark(bool yes)
 {
@@ -43,10 +46,11 @@ void WTApp::checkPcNetState()
     logInfo("powerOnWifi:%@", mark(powerOnWifi));
     channelWifi = state.band;
     selectedSSID = state.ssid;
-    logInfo("selectedSSID:%@", selectedSSID);
+    logInfo("selectedSSID:%@", visibleText(selectedSSID));
     selectedRssi = _qualityStringWithRSSI(state.rssi);
     secureWifi = state.security;
     selectedAuthMode = state.security;
+    dropOthersPassword();
     isMacWiFiConnected = powerOnWifi && selectedSSID && !selectedSSID->isEmpty();
     logInfo("isMacWiFiConnected:%@", mark(isMacWiFiConnected));
 }
@@ -69,20 +73,28 @@ qint64 WTApp::intNumberForSecurityMode(quint64 mode)
 
 void WTApp::fetchWIFIPWD()
 {
-    if (selectedAuthMode == 0)
+    // The host may ask its user first; until then nobody is shown another network's password.
+    dropOthersPassword();
+    if (selectedAuthMode == openNetwork)
         return;
     logInfo("🏷");
-    // The host may ask its user first; until then nobody is shown another network's password.
-    if (m_passwordSSID && m_passwordSSID != selectedSSID)
+    if (selectedSSID)
+        askForPassword(
+            [](const QString &account, const QString &password) { shared().keepPassword(account, password); });
+    else
+        keepPassword(std::nullopt, {});
+}
+
+void WTApp::dropOthersPassword()
+{
+    if (selectedAuthMode == openNetwork || m_passwordSSID != selectedSSID)
         selectedPassword.reset();
-    pwdBySSID(selectedSSID,
-              [asked = selectedSSID](const QString &password) { shared().keepPassword(asked, password); });
 }
 
 void WTApp::keepPassword(const std::optional<QString> &ssid, const QString &password)
 {
     // While the host asked its user, another network can have been selected.
-    if (selectedSSID != ssid)
+    if (selectedSSID != ssid || selectedAuthMode == openNetwork)
         return;
     selectedPassword = password;
     m_passwordSSID = ssid;
@@ -94,6 +106,11 @@ void WTApp::pwdBySSID(const std::optional<QString> &ssid, PasswordCallback callB
         callBack({});
         return;
     }
+    askForPassword([callBack = std::move(callBack)](const QString &, const QString &password) { callBack(password); });
+}
+
+void WTApp::askForPassword(AccountPasswordCallback callBack)
+{
     onMainThread([callBack = std::move(callBack)] {
         const QString account = shared().selectedSSID.value_or(QString());
         shared().hostWiFi().storedPassword(account, [callBack, account](SecretStatus status, const QString &password) {
@@ -101,7 +118,7 @@ void WTApp::pwdBySSID(const std::optional<QString> &ssid, PasswordCallback callB
                 logSecretFailure(status);
                 if (status == SecretStatus::Success)
                     shared().keepPassword(account, password);
-                callBack(status == SecretStatus::Success ? password : QString());
+                callBack(account, status == SecretStatus::Success ? password : QString());
                 Q_EMIT shared().storedPasswordArrived(account);
             });
         });

@@ -27,7 +27,24 @@ constexpr std::array labelKeys{
     "OWE"_L1,
 };
 
+/// Open, and open with encryption (OWE), in the library's numbering and in the platform's.
+bool needsNoPassword(qint64 librarySecurity)
+{
+    return librarySecurity == 1 || librarySecurity == 13;
+}
+
+bool joinedWithoutPassword(qint64 platformSecurity)
+{
+    return platformSecurity == 0 || platformSecurity == 14;
+}
+
 } // namespace
+
+bool WTWiFi::isJoined(const QString &joinedName, qint64 joinedSecurity) const
+{
+    return !joinedName.isEmpty() && SSID == joinedName &&
+           needsNoPassword(security) == joinedWithoutPassword(joinedSecurity);
+}
 
 std::optional<QString> WTWiFi::authModeLabel() const
 {

@@ -8,6 +8,11 @@
 class WTWiFi : public WTC_WLAN
 {
 public:
+    /// Whether this is the network that the computer is joined to, by its name and its security in the platform's
+    /// numbering. A name alone proves nothing: anybody can open a network without a password under the name of one that
+    /// has one.
+    bool isJoined(const QString &joinedName, qint64 joinedSecurity) const;
+
     /// Always derived from `security`; absent from 14 on.
     std::optional<QString> authModeLabel() const;
     /// Stores a copy that no reader ever sees.

@@ -19,13 +19,15 @@ private Q_SLOTS:
     void ratesSignals();
     void numbersSecurityModes();
     void labelsSecurity();
+    void knowsTheJoinedNetwork();
     void refreshes_data();
     void refreshes();
     void leavesAllAloneWithoutInterface();
     void fetchesThePassword_data();
     void fetchesThePassword();
     void readsTheSelectedNetworksPassword();
-    void showsNoPasswordOfAnotherNetwork();
+    void keepsPasswordsWithTheirNetwork_data();
+    void keepsPasswordsWithTheirNetwork();
 
 private:
     FakeHostWiFi m_hostWiFi;
@@ -84,6 +86,24 @@ void HostStateTest::labelsSecurity()
     QCOMPARE(label(14), std::nullopt);
 }
 
+void HostStateTest::knowsTheJoinedNetwork()
+{
+    const auto isJoined = [](const QString &name, qint64 security, const QString &joined, qint64 joinedSecurity) {
+        WTWiFi wifi;
+        wifi.SSID = name;
+        wifi.security = security;
+        return wifi.isJoined(joined, joinedSecurity);
+    };
+    QVERIFY(isJoined(u"Quill House"_s, 7, u"Quill House"_s, 4));
+    QVERIFY(isJoined(u"Quill House"_s, 9, u"Quill House"_s, 4)); // Another access point of the network.
+    QVERIFY(!isJoined(u"Quill House"_s, 1, u"Quill House"_s, 4));
+    QVERIFY(!isJoined(u"Quill House"_s, 13, u"Quill House"_s, 4));
+    QVERIFY(isJoined(u"Quill House"_s, 1, u"Quill House"_s, 0));
+    QVERIFY(!isJoined(u"Quill House"_s, 7, u"Quill House"_s, 0));
+    QVERIFY(!isJoined(u"Next Door"_s, 7, u"Quill House"_s, 4));
+    QVERIFY(!isJoined(u""_s, 7, u""_s, 4));
+}
+
 void HostStateTest::refreshes_data()
 {
     const auto lines = [](const char *power, const char *shown, const char *connected) {
@@ -105,7 +125,6 @@ void HostStateTest::refreshes()
     QFETCH(QStringList, lines);
     m_hostWiFi.now.poweredOn = poweredOn;
     m_hostWiFi.now.ssid = ssid;
-    m_app.selectedPassword = u"of an earlier network"_s;
 
     const LogCollector log;
     m_app.checkPcNetState();
@@ -118,7 +137,6 @@ void HostStateTest::refreshes()
     QCOMPARE(m_app.selectedRssi, 80);
     QCOMPARE(m_app.secureWifi, 4);
     QCOMPARE(m_app.selectedAuthMode, 4);
-    QCOMPARE(m_app.selectedPassword, u"of an earlier network"_s);
 }
 
 void HostStateTest::leavesAllAloneWithoutInterface()
@@ -142,28 +160,28 @@ void HostStateTest::leavesAllAloneWithoutInterface()
 void HostStateTest::fetchesThePassword_data()
 {
     const QString mark = u"info: 🏷"_s;
-    const Rows<qint64, SecretStatus, QString, QStringList> row{"security", "status", "password", "lines"};
-    row("open", 0, SecretStatus::Success, u"before"_s, {});
+    const Rows<qint64, SecretStatus, std::optional<QString>, QStringList> row{"security", "status", "password",
+                                                                              "lines"};
+    row("open", 0, SecretStatus::Success, std::nullopt, {});
     row("stored", 4, SecretStatus::Success, u"secret of Quill House"_s, {mark});
-    row("not permitted", 4, SecretStatus::PermissionDenied, {}, {mark, u"info: 鉴权失败，请检查密码"_s});
-    row("cancelled", 4, SecretStatus::PromptCancelled, {}, {mark, u"info: 用户取消了鉴权"_s});
-    row("not stored", 4, SecretStatus::NotStored, {}, {mark, u"info: 获取密码失败，错误代码: -25300"_s});
+    row("not permitted", 4, SecretStatus::PermissionDenied, u""_s, {mark, u"info: 鉴权失败，请检查密码"_s});
+    row("cancelled", 4, SecretStatus::PromptCancelled, u""_s, {mark, u"info: 用户取消了鉴权"_s});
+    row("not stored", 4, SecretStatus::NotStored, u""_s, {mark, u"info: 获取密码失败，错误代码: -25300"_s});
 }
 
 void HostStateTest::fetchesThePassword()
 {
     QFETCH(qint64, security);
-    QFETCH(QString, password);
+    QFETCH(std::optional<QString>, password);
     QFETCH(QStringList, lines);
     QFETCH(SecretStatus, status);
     m_hostWiFi.now.security = security;
     m_hostWiFi.secretStatus = status;
     m_app.checkPcNetState();
-    m_app.selectedPassword = u"before"_s;
+    m_app.selectedPassword.reset();
 
     const LogCollector log;
     m_app.fetchWIFIPWD();
-    QCOMPARE(m_app.selectedPassword, u"before"_s);
     QTRY_COMPARE(m_app.selectedPassword, password);
     QCOMPARE(log.lines(), lines);
     QCOMPARE(m_hostWiFi.askedSecrets.isEmpty(), security == 0);
@@ -184,18 +202,50 @@ void HostStateTest::readsTheSelectedNetworksPassword()
     QCOMPARE(answers.last(), u"secret of Chosen since"_s);
 }
 
-void HostStateTest::showsNoPasswordOfAnotherNetwork()
+/// What happens between the fetch of "Quill House"'s password and the moment at which it is looked at. "ask" lets the
+/// question reach the host, which answers at "answer".
+void HostStateTest::keepsPasswordsWithTheirNetwork_data()
 {
+    const auto steps = [](const char *list) { return QString::fromLatin1(list).split(u", "_s); };
+    const Rows<QStringList, std::optional<QString>> row{"steps", "password"};
+    row("stays", steps("join Quill House"), u"secret of Quill House"_s);
+    row("joins another", steps("join Next Door"), std::nullopt);
+    row("joins another, which is asked for", steps("join Next Door, fetch, ask, answer"), u"secret of Next Door"_s);
+    row("joins another, whose prompt is open", steps("join Next Door, fetch, ask"), std::nullopt);
+    row("joins an open one", steps("open Cafe, fetch, ask, answer"), std::nullopt);
+    row("joins an open one of the same name", steps("open Quill House"), std::nullopt);
+    row("comes back while another's prompt is open", steps("join Next Door, fetch, ask, join Quill House, answer"),
+        std::nullopt);
+    row("leaves between fetch and question", steps("fetch, join Next Door, ask, join Quill House, answer"),
+        std::nullopt);
+    row("the network is open when the prompt is answered", steps("join Next Door, fetch, ask, open Next Door, answer"),
+        std::nullopt);
+}
+
+void HostStateTest::keepsPasswordsWithTheirNetwork()
+{
+    QFETCH(QStringList, steps);
     m_app.fetchWIFIPWD();
     QTRY_COMPARE(m_app.selectedPassword, u"secret of Quill House"_s);
-    m_app.fetchWIFIPWD();
-    QCOMPARE(m_app.selectedPassword, u"secret of Quill House"_s);
-
-    m_hostWiFi.now.ssid = u"Next Door"_s;
-    m_app.checkPcNetState();
-    m_app.fetchWIFIPWD();
-    QCOMPARE(m_app.selectedPassword, std::nullopt);
-    QTRY_COMPARE(m_app.selectedPassword, u"secret of Next Door"_s);
+    m_hostWiFi.holdsSecrets = true;
+    for (const QString &step : std::as_const(steps)) {
+        if (step == u"fetch"_s) {
+            m_app.fetchWIFIPWD();
+        } else if (step == u"answer"_s) {
+            m_hostWiFi.answerSecrets();
+            QCoreApplication::processEvents();
+        } else if (step == u"ask"_s) {
+            QCoreApplication::processEvents();
+        } else {
+            m_hostWiFi.now.ssid = step.sliced(5);
+            m_hostWiFi.now.security = step.startsWith(u"open"_s) ? 0 : 4;
+            m_app.checkPcNetState();
+        }
+    }
+    QTEST(m_app.selectedPassword, "password");
+    m_hostWiFi.holdsSecrets = false;
+    m_hostWiFi.answerSecrets();
+    QCoreApplication::processEvents();
 }
 
 QTEST_GUILESS_MAIN(HostStateTest)
