@@ -2,8 +2,12 @@
 
 #include "AppWindow.h"
 #include "Localized.h"
+#include "Log.h"
 #include "WTApp.h"
 #include "WTManager.h"
+
+#include <QCoreApplication>
+#include <QEvent>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -11,6 +15,22 @@ void AppDelegate::applicationDidFinishLaunching()
 {
     m_window->comeForward(!WTApp::shared().capabilities().activatesCooperatively);
     WTManager::shared().setCloseEnable(WTManager::CloseAsks);
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool AppDelegate::eventFilter(QObject *, QEvent *event)
+{
+    if (event->type() != QEvent::Quit)
+        return false;
+    sessionEnds();
+    return true;
+}
+
+void AppDelegate::sessionEnds()
+{
+    const bool runs = WTManager::shared().closeEnable() == WTManager::CloseIgnored;
+    logWarning(runs ? "The session ends; the configuration that is under way is broken off." : "The session ends.");
+    WTApp::wt_exitApp();
 }
 
 void AppDelegate::closeApplication()

@@ -36,7 +36,14 @@ bool BundleEx::showLanguage(const std::optional<QString> &code)
             bundle = std::make_unique<LanguageBundle>(folder);
     }
     mainBundle().m_languageBundle = std::move(bundle);
-    return mainBundle().m_languageBundle != nullptr;
+    const bool shows = mainBundle().m_languageBundle != nullptr;
+    mainBundle().m_shownLanguage = shows ? code : std::nullopt;
+    return shows;
+}
+
+std::optional<QString> BundleEx::shownLanguage()
+{
+    return mainBundle().m_shownLanguage;
 }
 
 QStringList BundleEx::setAppLanguage(const std::optional<QString> &code)

@@ -18,6 +18,9 @@ public:
     /// language has a folder.
     static bool showLanguage(const std::optional<QString> &code);
 
+    /// The language whose texts are preferred now; absent without any.
+    static std::optional<QString> shownLanguage();
+
     /// Moves the first preferred language that begins with `code`, else `code` itself, to the front of the user's
     /// stored list, and answers the new list. Absent and empty codes change nothing.
     static QStringList setAppLanguage(const std::optional<QString> &code);
@@ -33,4 +36,5 @@ private:
     BundleEx() = default;
 
     std::unique_ptr<LanguageBundle> m_languageBundle;
+    std::optional<QString> m_shownLanguage;
 };

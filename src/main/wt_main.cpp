@@ -2,9 +2,11 @@
 
 #include "AppDelegate.h"
 #include "Banner.h"
+#include "BundleEx.h"
 #include "InfoList.h"
 #include "Log.h"
 #include "Machine.h"
+#include "TerminationRequest.h"
 #include "WTApp.h"
 #include "WTCServer.h"
 #include "WTC_WLAN.h"
@@ -45,10 +47,10 @@ void begin(const Machine &machine)
     WTApp::shared().appLanguage();
 }
 
-/// The toolkit's own texts (context menus of fields) in the interface language, where the system has them.
+/// The toolkit's own texts (context menus of fields) in the language of the program's, where the system has them.
 void showToolkitTexts(QApplication &application)
 {
-    const QLocale language(WTApp::shared().appLanguage().value_or(u"en"_s));
+    const QLocale language(BundleEx::shownLanguage().value_or(u"en"_s));
     auto *texts = new QTranslator(&application);
     if (texts->load(language, u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(texts);
@@ -68,6 +70,8 @@ int wt_main(int argc, char **argv, const Machine &machine, const std::function<v
     AppDelegate delegate;
     delegate.setWindow(&screens.window());
     QObject::connect(&screens.window(), &WTWindow::closeRequested, &delegate, &AppDelegate::closeApplication);
+    const TerminationRequest termination;
+    QObject::connect(&termination, &TerminationRequest::arrived, &delegate, &AppDelegate::sessionEnds);
     QObject::connect(&application, &QApplication::aboutToQuit, &delegate, &AppDelegate::applicationWillTerminate);
     QApplication::setQuitOnLastWindowClosed(delegate.applicationShouldTerminateAfterLastWindowClosed());
 

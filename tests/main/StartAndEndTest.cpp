@@ -14,6 +14,7 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
+#include <csignal>
 #include <cstdio>
 #include <sys/resource.h>
 
@@ -63,6 +64,14 @@ void answer(const WTWindow &window, int button)
 void walk(WTWindow &window, const QString &way)
 {
     WTManager &manager = WTManager::shared();
+    if (way == u"log out"_s || way == u"terminate"_s) {
+        manager.setCloseEnable(WTManager::CloseIgnored);
+        if (way == u"log out"_s)
+            QCoreApplication::quit();
+        else
+            raise(SIGTERM);
+        return;
+    }
     if (way == u"confirm"_s) {
         pressClose(window);
         answer(window, 0);
@@ -84,7 +93,7 @@ int walkingProcess(int argc, char **argv)
     noPrinter.plugged = false;
     static auto *demo = new DemoMachine(noPrinter, {});
     Machine machine = demo->machine();
-    machine.capabilities.hasUnifiedLog = way == u"confirm"_s;
+    machine.capabilities.hasUnifiedLog = way != u"refuse"_s;
     return wt_main(argc, argv, machine, [&](WTWindow &window) {
         QMetaObject::invokeMethod(
             &window,
@@ -124,6 +133,8 @@ void StartAndEndTest::closesByTheCloseState_data()
     const QString file = u"com.wtlog.fileLogger"_s;
     const QString silent = u"does not ask"_s;
     const QString rolling = u"86400 s, 104857600 bytes, 7 files"_s, core = u"0 bytes of a core"_s;
+    for (const char *end : {"log out", "terminate"})
+        QTest::newRow(end) << QStringList{u"com.wtlog.osLogger"_s, file, rolling, core};
     QTest::newRow("confirm") << QStringList{u"com.wtlog.osLogger"_s, file, rolling, core, u"asks"_s, u"stays"_s};
     QTest::newRow("refuse") << QStringList{u"com.wtlog.aslLogger"_s,
                                            file,
@@ -151,7 +162,8 @@ void StartAndEndTest::closesByTheCloseState()
     process.start(QCoreApplication::applicationFilePath(),
                   {walkArgument, QString::fromLatin1(QTest::currentDataTag())});
     QVERIFY(process.waitForFinished());
-    QTEST(QString::fromUtf8(process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts), "told");
+    QFETCH(QStringList, told);
+    QCOMPARE(QString::fromUtf8(process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts), told);
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), 0);
 
@@ -166,7 +178,10 @@ void StartAndEndTest::closesByTheCloseState()
     QVERIFY2(lines[14].endsWith(u"设置中间日志的路径："_s + libraryLog), qPrintable(lines[14]));
     QVERIFY(QFile::exists(libraryLog));
 
-    const QStringList warnings = lines.filter(QRegularExpression(u"^⚠️ "_s));
+    QStringList warnings = lines.filter(QRegularExpression(u"^⚠️ "_s));
+    if (!told.contains(u"asks"_s))
+        QCOMPARE(warnings.takeFirst(),
+                 u"⚠️ The session ends; the configuration that is under way is broken off."_s);
     QCOMPARE(warnings.size(), 10);
     QVERIFY(warnings.first().startsWith(u"⚠️ ╔══"_s));
     QVERIFY(warnings.last().startsWith(u"⚠️ ╚══"_s));
