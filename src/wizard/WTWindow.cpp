@@ -1,12 +1,13 @@
 #include "WTWindow.h"
 
+#include "HeldKeys.h"
 #include "TextStyle.h"
 #include "WTApp.h"
 #include "WTView.h"
 #include "showAlert.h"
 
 #include <QCloseEvent>
-#include <QGuiApplication>
+#include <QCoreApplication>
 #include <QStackedWidget>
 
 namespace
@@ -25,6 +26,7 @@ WTWindow::WTWindow(QWidget *parent)
     setCentralWidget(m_content);
     setMinimumSize(smallestSize);
     resize(firstSize);
+    QCoreApplication::instance()->installEventFilter(new HeldKeys(this));
 }
 
 void WTWindow::addScreen(WTView *view)
@@ -62,7 +64,7 @@ void WTWindow::setReleasedWhenClosed(bool) {}
 
 void WTWindow::closeEvent(QCloseEvent *event)
 {
-    if (QCoreApplication::closingDown() || qGuiApp->isSavingSession()) {
+    if (QCoreApplication::closingDown()) {
         event->accept();
         return;
     }

@@ -33,8 +33,8 @@ public:
     WTView *autoInstallView = nullptr; ///< The run's screen. Nothing reads it.
 
 Q_SIGNALS:
-    /// The user asked for the window to be closed, and it stays open. While the session manager ends the session, and
-    /// while the application object is destroyed, the window closes without this signal.
+    /// The user asked for the window to be closed, and it stays open. While the application object is destroyed, the
+    /// window closes without this signal.
     void closeRequested();
 
 protected:

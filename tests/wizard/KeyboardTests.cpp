@@ -74,6 +74,7 @@ private Q_SLOTS:
     void initTestCase();
     void walk_data();
     void walk();
+    void heldEnterActsOnce_data();
     void heldEnterActsOnce();
     void mnemonics_data();
     void mnemonics();
@@ -221,16 +222,47 @@ void KeyboardTests::walk()
     }
 }
 
+/// A held key, as desktops tell it: repeats that are called so, or a release and a press of the same instant each time.
+void KeyboardTests::heldEnterActsOnce_data()
+{
+    QTest::addColumn<bool>("calledRepeats");
+    QTest::addColumn<QByteArray>("tile");
+    QTest::addColumn<QByteArray>("screen");
+    QTest::addColumn<QByteArray>("screenAnew"); // The key is pressed once more.
+    for (const bool called : {true, false}) {
+        const char *way = called ? "repeats" : "releases";
+        QTest::addRow("main action, %s", way)
+            << called << QByteArray() << QByteArray("WTSetWPSMethodView") << QByteArray("WTUseWPSSetWifiView");
+        QTest::addRow("tile, %s", way) << called << QByteArray("selectWPS") << QByteArray("WTStartView")
+                                       << QByteArray("WTSetWPSMethodView");
+    }
+}
+
 void KeyboardTests::heldEnterActsOnce()
 {
+    QFETCH(bool, calledRepeats);
+    QFETCH(QByteArray, tile);
     WizardBed bed;
-    press(bed, {nullptr, Qt::Key_Right, nullptr});
-    press(bed, {nullptr, Qt::Key_Space, nullptr});
-    for (const bool repeats : {false, true, true}) {
-        QKeyEvent event(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, repeats);
-        QCoreApplication::sendEvent(focused(bed), &event);
+    if (tile.isEmpty()) {
+        press(bed, {nullptr, Qt::Key_Right, nullptr});
+        press(bed, {nullptr, Qt::Key_Space, nullptr});
+    } else {
+        bed.widget(tile)->setFocus();
     }
-    QCOMPARE(bed.shown(), "WTSetWPSMethodView");
+    const auto send = [&](QEvent::Type type, bool repeats, quint64 time) {
+        QKeyEvent event(type, Qt::Key_Return, Qt::NoModifier, u"\r"_s, repeats);
+        event.setTimestamp(time);
+        QCoreApplication::sendEvent(focused(bed), &event);
+    };
+    send(QEvent::KeyPress, false, 1000);
+    for (const quint64 time : {1500, 1530}) {
+        send(QEvent::KeyRelease, calledRepeats, time);
+        send(QEvent::KeyPress, calledRepeats, time);
+    }
+    send(QEvent::KeyRelease, false, 1550);
+    QTEST(bed.shown(), "screen");
+    send(QEvent::KeyPress, false, 1700);
+    QTEST(bed.shown(), "screenAnew");
 }
 
 void KeyboardTests::mnemonics_data()

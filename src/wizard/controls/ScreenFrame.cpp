@@ -130,11 +130,7 @@ void ScreenFrame::keyPressEvent(QKeyEvent *event)
         target = m_back;
     else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         target = buttonForEnter();
-    // A key that is held down acts only once: the first action may have changed the screen, and a repetition would act
-    // on the new one.
-    if (target && event->isAutoRepeat())
-        event->accept();
-    else if (target && target->isEnabled())
+    if (target && target->isEnabled())
         target->click();
     else
         QWidget::keyPressEvent(event);
