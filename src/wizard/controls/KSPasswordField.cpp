@@ -15,6 +15,10 @@ namespace
 
 constexpr int markSize = 24;
 
+/// An input method neither learns a password nor guesses at it, shown or hidden.
+constexpr Qt::InputMethodHints privacyHints =
+    Qt::ImhHiddenText | Qt::ImhNoAutoUppercase | Qt::ImhNoPredictiveText | Qt::ImhSensitiveData;
+
 } // namespace
 
 QString KSPasswordTextFieldCell::markName() const
@@ -41,7 +45,6 @@ KSPasswordField::KSPasswordField(QWidget *parent)
     : WTTextfield(parent)
     , m_mark(addAction(QIcon(), TrailingPosition))
 {
-    setInputMethodHints(Qt::ImhHiddenText | Qt::ImhNoAutoUppercase | Qt::ImhNoPredictiveText | Qt::ImhSensitiveData);
     connect(m_mark, &QAction::triggered, this, &KSPasswordField::showHidePressed);
     setShowsText(false);
 }
@@ -60,6 +63,8 @@ void KSPasswordField::setShowsText(bool shows)
     else
         m_cell = std::make_unique<KSPasswordSecureTextFieldCell>();
     setEchoMode(m_cell->echoMode());
+    // Behind the echo mode, which takes the hints away from a text that shows.
+    setInputMethodHints(privacyHints);
     m_mark->setText(ButtonLook::spokenTitle(m_cell->markAction()));
     m_mark->setToolTip(m_mark->text());
     m_mark->setIcon(Picture(m_cell->markName()).pixmap({markSize, markSize}, devicePixelRatioF()));

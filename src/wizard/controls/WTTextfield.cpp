@@ -18,7 +18,11 @@ WTTextfield::WTTextfield(QWidget *parent)
     connect(this, &QLineEdit::textChanged, this, [this] {
         if (!m_showsText)
             Q_EMIT controlTextDidChange(this);
+        m_before = content();
     });
+    // The toolkit tells of a changed text first, then of selection and cursor.
+    connect(this, &QLineEdit::selectionChanged, this, [this] { m_before = content(); });
+    connect(this, &QLineEdit::cursorPositionChanged, this, [this] { m_before = content(); });
     connect(this, &QLineEdit::editingFinished, this, [this] { Q_EMIT controlTextDidEndEditing(this); });
 }
 
@@ -38,7 +42,17 @@ void WTTextfield::putBack(const QString &shown)
 {
     if (text() == shown)
         return;
-    const int cursor = cursorPosition();
+    const Content before = shown == m_before.text ? m_before : Content{{}, cursorPosition()};
     showText(shown);
-    setCursorPosition(cursor);
+    if (before.selectionStart < 0)
+        setCursorPosition(before.cursor);
+    else if (before.cursor == before.selectionStart)
+        setSelection(before.selectionEnd, before.selectionStart - before.selectionEnd);
+    else
+        setSelection(before.selectionStart, before.selectionEnd - before.selectionStart);
+}
+
+WTTextfield::Content WTTextfield::content() const
+{
+    return {text(), cursorPosition(), selectionStart(), selectionEnd()};
 }

@@ -14,8 +14,9 @@ public:
     /// Fills the field for the screen, without `controlTextDidChange`. `setText` counts as a change by the user: screen
     /// readers call it when the user tells them what to write.
     void showText(const QString &text);
-    /// The same as `showText`, but the cursor stays where it is. Does nothing when the field shows `text` already, so
-    /// that the undo history is kept.
+    /// `showText` in answer to a change by the user, which it takes back in part or in whole. When `text` is what stood
+    /// there before, cursor and selection are as they were before, so that a refused key changes nothing; else the cursor
+    /// stays where it is. Does nothing when the field shows `text` already, so that the undo history is kept.
     void putBack(const QString &text);
 
 Q_SIGNALS:
@@ -30,5 +31,16 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
 
 private:
+    /// What the field held ahead of a change, until the change has been told.
+    struct Content {
+        QString text;
+        int cursor = 0;
+        int selectionStart = -1; ///< -1: nothing is selected.
+        int selectionEnd = -1;
+    };
+
+    Content content() const;
+
+    Content m_before;
     bool m_showsText = false; ///< `showText` is at work, so a change of the text is not the user's.
 };

@@ -24,6 +24,9 @@ private Q_SLOTS:
     void formatterRefusesWhatIsTooLong_data();
     void formatterRefusesWhatIsTooLong();
     void fieldTellsWhatHappensToIt();
+    void refusedKeyLeavesTheCursor_data();
+    void refusedKeyLeavesTheCursor();
+    void inputMethodsKeepOff();
     void strength_data();
     void strength();
     void description_data();
@@ -94,6 +97,47 @@ void FieldTests::fieldTellsWhatHappensToIt()
     QCOMPARE(changed.count(), 3);
     QTest::keyClick(&field, Qt::Key_Return);
     QCOMPARE(ended.count(), 1);
+}
+
+void FieldTests::refusedKeyLeavesTheCursor_data()
+{
+    QTest::addColumn<int>("start");
+    QTest::addColumn<int>("length");
+    QTest::addColumn<QString>("after"); // The next letter that is taken.
+    QTest::newRow("in the middle") << 2 << 0 << u"seXcret"_s;
+    QTest::newRow("at the end") << 6 << 0 << u"secretX"_s;
+    QTest::newRow("over a selection") << 1 << 2 << u"sXret"_s;
+    QTest::newRow("over a selection made backwards") << 3 << -2 << u"sXret"_s;
+}
+
+void FieldTests::refusedKeyLeavesTheCursor()
+{
+    QFETCH(int, start);
+    QFETCH(int, length);
+    KSPasswordField field;
+    connect(&field, &WTTextfield::controlTextDidChange, &field, [&field] {
+        if (field.text().contains(u'!'))
+            field.putBack(u"secret"_s);
+    });
+    field.showText(u"secret"_s);
+    field.setSelection(start, length);
+    const int cursor = field.cursorPosition();
+    QTest::keyClicks(&field, u"!!"_s);
+    QCOMPARE(field.text(), u"secret"_s);
+    QCOMPARE(field.cursorPosition(), cursor);
+    QTest::keyClicks(&field, u"X"_s);
+    QTEST(field.text(), "after");
+}
+
+void FieldTests::inputMethodsKeepOff()
+{
+    KSPasswordField field;
+    for (const bool shows : {false, true, false}) {
+        field.setShowsText(shows);
+        const auto hints = Qt::InputMethodHints(field.inputMethodQuery(Qt::ImHints).toInt());
+        QVERIFY(hints.testFlags(Qt::ImhHiddenText | Qt::ImhSensitiveData | Qt::ImhNoPredictiveText |
+                                Qt::ImhNoAutoUppercase));
+    }
 }
 
 void FieldTests::strength_data()
