@@ -8,10 +8,12 @@ class DesktopPort
 public:
     virtual ~DesktopPort() = default;
 
-    /// A shell command line that opens the desktop's add-printer panel and returns at once.
+    /// A shell command line that opens the desktop's add-printer panel and returns at once. Empty where there is no
+    /// such panel.
     virtual QString addPrinterCommandLine() = 0;
 
-    /// A shell command line that opens the desktop's Wi-Fi or privacy settings and returns at once.
+    /// A shell command line that opens the desktop's Wi-Fi or privacy settings and returns at once. Empty where there
+    /// are none.
     virtual QString privacySettingsCommandLine() = 0;
 
     /// The host's description: lines of a key, a colon and a value. Empty when the host has none to give.

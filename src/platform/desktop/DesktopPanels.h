@@ -17,6 +17,7 @@ struct Panel {
 
 inline constexpr std::array addPrinter{
     Panel{QLatin1StringView{"GNOME"}, QLatin1StringView{"gnome-control-center"}, QLatin1StringView{" printers"}},
+    Panel{QLatin1StringView{"KDE"}, QLatin1StringView{"kcmshell6"}, QLatin1StringView{" kcm_printer_manager"}},
     Panel{QLatin1StringView{"KDE"}, QLatin1StringView{"kcmshell5"}, QLatin1StringView{" kcm_printer_manager"}},
     Panel{QLatin1StringView{"KDE"}, QLatin1StringView{"kde-add-printer"}, QLatin1StringView{" --addprinter"}},
     Panel{QLatin1StringView{}, QLatin1StringView{"system-config-printer"}, QLatin1StringView{}},
@@ -25,9 +26,9 @@ inline constexpr std::array addPrinter{
 
 inline constexpr std::array privacySettings{
     Panel{QLatin1StringView{"GNOME"}, QLatin1StringView{"gnome-control-center"}, QLatin1StringView{" wifi"}},
+    Panel{QLatin1StringView{"KDE"}, QLatin1StringView{"kcmshell6"}, QLatin1StringView{" kcm_networkmanagement"}},
     Panel{QLatin1StringView{"KDE"}, QLatin1StringView{"kcmshell5"}, QLatin1StringView{" kcm_networkmanagement"}},
     Panel{QLatin1StringView{}, QLatin1StringView{"nm-connection-editor"}, QLatin1StringView{}},
-    Panel{QLatin1StringView{}, QLatin1StringView{"xdg-open"}, QLatin1StringView{" settings://network"}},
 };
 
 /// A shell command line that opens the first panel that belongs to this desktop and whose program is on the path. It

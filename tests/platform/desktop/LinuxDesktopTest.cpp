@@ -1,4 +1,5 @@
 #include "LinuxDesktop.h"
+#include "detectHostCapabilities.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -47,6 +48,7 @@ private Q_SLOTS:
     void reportsTheHostWhateverTheHostnameServiceDoes_data();
     void reportsTheHostWhateverTheHostnameServiceDoes();
     void namesTheOperatingSystem();
+    void detectsWhatTheHostOffers();
 };
 
 void LinuxDesktopTest::choosesThePanelOfTheDesktopThatIsInstalled_data()
@@ -66,14 +68,15 @@ void LinuxDesktopTest::choosesThePanelOfTheDesktopThatIsInstalled_data()
         << u"gnome-control-center wifi"_s;
     QTest::newRow("KDE") << QByteArray{"KDE"} << everything << u"kcmshell5 kcm_printer_manager"_s
                          << u"kcmshell5 kcm_networkmanagement"_s;
+    QTest::newRow("KDE Plasma 6") << QByteArray{"KDE"} << QStringList{u"kcmshell5"_s, u"kcmshell6"_s}
+                                  << u"kcmshell6 kcm_printer_manager"_s << u"kcmshell6 kcm_networkmanagement"_s;
     QTest::newRow("KDE without its shell for modules")
         << QByteArray{"KDE"} << QStringList{u"kde-add-printer"_s, u"nm-connection-editor"_s}
         << u"kde-add-printer --addprinter"_s << u"nm-connection-editor"_s;
     QTest::newRow("another desktop") << QByteArray{"XFCE"} << everything << u"system-config-printer"_s
                                      << u"nm-connection-editor"_s;
     QTest::newRow("GNOME without its panels")
-        << QByteArray{"GNOME"} << QStringList{u"xdg-open"_s} << u"xdg-open http://localhost:631/admin"_s
-        << u"xdg-open settings://network"_s;
+        << QByteArray{"GNOME"} << QStringList{u"xdg-open"_s} << u"xdg-open http://localhost:631/admin"_s << QString{};
     QTest::newRow("nothing installed") << QByteArray{"GNOME"} << QStringList{} << QString{} << QString{};
 }
 
@@ -133,6 +136,18 @@ void LinuxDesktopTest::namesTheOperatingSystem()
     const QString version = LinuxDesktop{}.operatingSystemVersion();
     QVERIFY(!version.isEmpty());
     QVERIFY(QString::fromUtf8(release.readAll()).contains(u"PRETTY_NAME=\""_s + version + u'"'));
+}
+
+void LinuxDesktopTest::detectsWhatTheHostOffers()
+{
+    qunsetenv("WAYLAND_DISPLAY");
+    QVERIFY(!detectHostCapabilities().activatesCooperatively);
+    qputenv("WAYLAND_DISPLAY", "wayland-0");
+    const HostCapabilities host = detectHostCapabilities();
+    QVERIFY(host.activatesCooperatively);
+    // NetworkManager lets no program look for networks unasked.
+    QVERIFY(host.scanNeedsPermission);
+    QCOMPARE(host.hasUnifiedLog, QFile::exists(u"/run/systemd/journal/socket"_s));
 }
 
 QTEST_GUILESS_MAIN(LinuxDesktopTest)
