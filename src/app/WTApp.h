@@ -49,7 +49,8 @@ public:
     std::optional<QString> appLanguage();
     /// Attaches the language's texts; afterwards absent when there are none. Absent and empty codes change nothing.
     void setAppLanguage(const std::optional<QString> &code);
-    /// The decision alone: the host's language if the resource folder has an entry that begins with it, else "en".
+    /// Which language it would be, without attaching any: the host's if the resource folder has an entry whose name
+    /// begins with it, else "en".
     QString currentLocale() const;
 
     // -- the host's wireless connection -------------------------------------------------------------------------

@@ -13,7 +13,7 @@ public:
     /// has one.
     bool isJoined(const QString &joinedName, qint64 joinedSecurity) const;
 
-    /// Always derived from `security`; absent from 14 on.
+    /// Derived from `security` each time; absent for 14 and above.
     std::optional<QString> authModeLabel() const;
     /// Stores a copy that no reader ever sees.
     void setAuthModeLabel(const std::optional<QString> &label);

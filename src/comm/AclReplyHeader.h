@@ -29,7 +29,7 @@ public:
     quint16 command() const { return number(2); }
     quint16 result() const { return number(4); }
     quint16 dataLength() const { return number(6); }
-    /// The two bytes of the length field added: how the address query states its length.
+    /// The sum of the two bytes of the length field: the reply to an address query states its length so.
     quint16 addedLengthBytes() const;
 
 private:

@@ -19,6 +19,6 @@ public:
     /// The host's description: lines of a key, a colon and a value. Empty when the host has none to give.
     virtual QString hostReport() = 0;
 
-    /// The operating system's version as people say it.
+    /// Name and version of the operating system, as people say them.
     virtual QString operatingSystemVersion() = 0;
 };

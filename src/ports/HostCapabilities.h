@@ -1,6 +1,6 @@
 #pragma once
 
-/// What this host offers, asked once at start-up. Both answers of each are supported.
+/// What this host offers, asked once at start-up. The program works with either answer to each question.
 struct HostCapabilities {
     bool hasUnifiedLog = true;          ///< The journal takes lines; otherwise syslog does.
     bool hasDefaultInterface = true;    ///< The Wi-Fi service names a default interface.

@@ -13,7 +13,7 @@ struct HostWiFiState {
     bool poweredOn = false;      ///< The radio.
     int band = 0;                ///< 0 unknown, 1 the 2.4 GHz band, 2 the 5 GHz band.
     std::optional<QString> ssid; ///< The network it is joined to.
-    int rssi = 0;                ///< dBm; 0 when there is no network.
+    int rssi = 0;                ///< Signal strength in dBm; 0 when it is joined to none.
     qint64 security = 0;         ///< Platform numbering: 0 open, 1 WEP, 2 to 5 WPA personal, ...
 
     bool operator==(const HostWiFiState &) const = default;
@@ -21,14 +21,14 @@ struct HostWiFiState {
 
 /// One network that the computer sees.
 struct VisibleNetwork {
-    QString ssid;        ///< Readable text, also of a name that is no UTF-8.
+    QString ssid;        ///< As text; a name whose bytes are no UTF-8 is decoded as best it can be.
     qint64 security = 0; ///< The communication library's numbering: 0 other, 1 open, 2 WEP, ... 13 OWE.
     qint64 quality = 0;  ///< Per cent.
 
     bool operator==(const VisibleNetwork &) const = default;
 };
 
-/// May the program look for networks? The numbers are those of the location-permission service.
+/// Whether the program may look for networks. The numbers stand in the log.
 enum class ScanPermission : int { NotDetermined = 0, Restricted = 1, Denied = 2, Allowed = 3, Unknown = 4 };
 
 /// Why a stored password could not be had. 0 is success.
@@ -53,8 +53,8 @@ public:
     /// The state as last heard from the host.
     virtual HostWiFiState state() = 0;
 
-    /// Looks around and reports the visible networks, strongest first, then by name: one per name and security, hidden
-    /// ones left out. What is already known when the host will not look again within 10 s.
+    /// Looks around and reports the visible networks, strongest first, then by name: one for each pair of name and
+    /// security, without the hidden ones. Where the host has not looked again within 10 s, reports what it knew before.
     virtual void scan(NetworksCallback done) = 0;
 
     /// The stored password of the network of this name. The host may ask its user first, which can take minutes.
@@ -62,7 +62,7 @@ public:
 
     virtual ScanPermission scanPermission() = 0;
 
-    /// Calls `changed` once soon after (as soon as the permission is known) and then on every change. An empty function
-    /// ends the watch.
+    /// Calls `changed` once, as soon as the permission is known, and then at every change of it. There is one watcher:
+    /// a new function takes the place of the old one, an empty one ends the watch.
     virtual void watchScanPermission(std::function<void()> changed) = 0;
 };

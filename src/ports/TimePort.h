@@ -12,8 +12,8 @@ public:
     using Instant = std::chrono::steady_clock::time_point;
     using Duration = std::chrono::milliseconds;
 
-    /// A pending action. Destroying it before it is due revokes the action; destroying it on another thread while the
-    /// action runs waits for the action's end, so whatever the action captured may go right after.
+    /// A pending action. Destroyed before the action is due, it revokes the action; destroyed on another thread while
+    /// the action runs, it waits for the action's end, so that what the action uses may be destroyed next.
     class Timer
     {
     public:

@@ -5,7 +5,7 @@
 #include <array>
 #include <span>
 
-/// The panels that the desktops offer, the fitting one first.
+/// The settings panels of the desktops. Of each list the first one counts that this computer has.
 namespace DesktopPanels
 {
 

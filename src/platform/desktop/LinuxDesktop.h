@@ -9,8 +9,8 @@
 class LinuxDesktop : public DesktopPort
 {
 public:
-    /// Asks for the host's own report at once, so that it is there when it is wanted.
-    /// @param reportLimit how long that may take before the short one serves.
+    /// Starts `hostnamectl` in the background, so that its report is there when somebody asks for it.
+    /// @param reportLimit how long that may take; after it `hostReport` answers a short report of its own.
     explicit LinuxDesktop(std::chrono::milliseconds reportLimit = std::chrono::seconds{2});
 
     QString addPrinterCommandLine() override;

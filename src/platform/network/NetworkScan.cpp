@@ -11,7 +11,8 @@ namespace
 
 constexpr TimePort::Duration scanLimit = std::chrono::seconds(10);
 
-/// Lives until it has answered: by itself for the request under way, by the signal and the time limit for the wait.
+/// One scan. It owns itself from `request` to `answer`; GLib's callback of the request holds it as well, since it may
+/// come later than the answer.
 class NetworkScan : public std::enable_shared_from_this<NetworkScan>
 {
 public:

@@ -6,9 +6,10 @@
 
 #include <NetworkManager.h>
 
-/// One request to look around: asks the device to scan, waits until its last-scan time is newer (at most 10 s),
-/// answers, and is gone. Where the host refuses to scan again so soon, the answer is what it knows. Network thread
-/// only; for .cpp files of this folder.
-/// Cancelling ends it at once, with what is known.
+/// Asks the device to look around and calls `done` once, on the network thread: when the time of the device's last scan
+/// is newer than now, or with the networks known by then when 10 s have passed, when the host refuses to scan again so
+/// soon, or when `cancellable` is cancelled. `thread` and `time` live until then.
+///
+/// To be called on the network thread, by .cpp files of this folder.
 void startNetworkScan(NMDeviceWifi *device, NetworkThread &thread, TimePort &time, GCancellable *cancellable,
                       HostWiFiPort::NetworksCallback done);

@@ -10,7 +10,7 @@
 namespace
 {
 
-/// A person who is asked for a password may be away for coffee; libnm's own 25 s would give up on them.
+/// NetworkManager may ask a person first, who may be away from the computer; D-Bus would give up after 25 s.
 constexpr int secretLimitMilliseconds = 30 * 60 * 1000;
 
 struct SecretRequest {
@@ -39,7 +39,7 @@ NMRemoteConnection *profileFor(NMClient *client, NMDeviceWifi *device, const QSt
     return nullptr;
 }
 
-/// The gate for the bus's error names.
+/// What NetworkManager's error means to the program. Every error of the bus passes here.
 SecretStatus statusOf(const GError *error)
 {
     const GlibPointer<gchar> name(g_dbus_error_get_remote_error(error));

@@ -4,7 +4,9 @@
 
 #include <NetworkManager.h>
 
-/// Asks NetworkManager for the stored password of the network of this name: the profile in use on the device first,
-/// then any other. The pre-shared key, else the WEP key in use. Network thread only; for .cpp files of this folder.
+/// Asks NetworkManager for the password that it has stored for the network `ssid`, in the profile that the device uses
+/// now, else in the first other profile of that network. The password is the pre-shared key, else the WEP key in use.
+///
+/// To be called on the network thread, by .cpp files of this folder.
 void requestNetworkSecret(NMClient *client, NMDeviceWifi *device, GCancellable *cancellable, const QString &ssid,
                           HostWiFiPort::SecretCallback done);

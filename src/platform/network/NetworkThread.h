@@ -11,7 +11,7 @@ public:
     using Job = std::function<void()>;
 
     NetworkThread();
-    /// Ends the thread behind the running job; jobs that are still queued are dropped.
+    /// Lets the running job end, drops those that are still queued, and ends the thread.
     ~NetworkThread();
 
     /// Queues a job. Any thread.

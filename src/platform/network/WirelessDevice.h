@@ -6,7 +6,7 @@
 
 #include <QString>
 
-/// Questions to libnm's objects. Network thread only; for .cpp files of this folder.
+// Questions to libnm's objects, to be asked on the network thread by .cpp files of this folder.
 
 /// The device that counts: the one of the primary connection, else the first that NetworkManager manages and that is
 /// joined, else the first managed one, else the first. Null without one.

@@ -29,7 +29,7 @@ public:
     ~PendingTimer() override
     {
         std::unique_lock lock(m_state->mutex);
-        // The node leaves with its captures, which are destroyed after the lock.
+        // The action is destroyed after the lock is gone: what it captured may call back into this object.
         const auto revoked = m_state->pending.extract(m_key);
         if (m_state->runner != std::this_thread::get_id())
             m_state->ended.wait(lock, [this] { return m_state->running != m_key; });
@@ -77,7 +77,7 @@ bool DueActions::runNext(Instant now)
     lock.unlock();
 
     action();
-    // What the action captured is gone before a waiting timer learns of the end.
+    // Whoever waits in a timer's destructor may destroy next what the action captured by reference.
     action = nullptr;
 
     lock.lock();

@@ -4,9 +4,9 @@
 
 #include <optional>
 
-/// The pending actions of a time port in the order they fall due (those of one instant in the order they were added),
-/// with the revocation rule of `TimePort::Timer`. All operations may be called on any thread; actions run on the thread
-/// that calls `runNext`, one at a time and under no lock.
+/// The pending actions of a time port, in the order in which they fall due; those of one instant in the order in which
+/// they were added. What `TimePort::Timer` says of destroying a timer holds. All operations may be called on any
+/// thread; actions run on the thread that calls `runNext`, one at a time and under no lock.
 class DueActions
 {
 public:
