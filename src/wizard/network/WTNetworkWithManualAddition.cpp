@@ -8,6 +8,7 @@
 #include "NetworkForm.h"
 #include "NetworkRules.h"
 #include "ScreenFrame.h"
+#include "WTApp.h"
 #include "WTButton.h"
 #include "WTCustomTextFieldFromatter.h"
 #include "WTDefaultStyleBtn.h"
@@ -27,6 +28,7 @@ constexpr int formWidth = 560;
 WTNetworkWithManualAddition::WTNetworkWithManualAddition(SpoolerPort &spooler, QWidget *parent)
     : WTView(parent)
     , m_model(spooler)
+    , m_frame(new ScreenFrame(this, WizardStep::Network))
     , m_form(new NetworkForm(localized(u"与路由器上显示的名称完全一致，区分大小写。"_s), u"showPwdBtn"_s,
                              NetworkForm::Strength::Shown))
     , m_pwdFormatter(new WTCustomTextFieldFromatter(this))
@@ -47,13 +49,11 @@ void WTNetworkWithManualAddition::layOut()
     m_printWiFiHomePage->setTitle(localized(u"打印无线网络信息页"_s));
     m_form->setMaximumWidth(formWidth);
 
-    auto *frame = new ScreenFrame(this, WizardStep::Network);
-    frame->setHeading(localized(u"输入无线网络"_s));
-    frame->setInstruction(localized(u"此电脑的无线网络已关闭，无法列出附近的网络。请输入打印机要连接的网络。"_s));
-    frame->content()->addWidget(m_form);
-    frame->setBackButton(m_previousBtn);
-    frame->setMainButton(m_nextBtn);
-    frame->addToBar(m_printWiFiHomePage);
+    m_frame->setHeading(localized(u"输入无线网络"_s));
+    m_frame->content()->addWidget(m_form);
+    m_frame->setBackButton(m_previousBtn);
+    m_frame->setMainButton(m_nextBtn);
+    m_frame->addToBar(m_printWiFiHomePage);
 }
 
 void WTNetworkWithManualAddition::awakeFromNib()
@@ -80,6 +80,10 @@ void WTNetworkWithManualAddition::ff_config()
 void WTNetworkWithManualAddition::viewDidApear()
 {
     WTView::viewDidApear();
+    m_frame->setInstruction(
+        WTApp::shared().currentInterface
+            ? localized(u"此电脑的无线网络已关闭，无法列出附近的网络。请输入打印机要连接的网络。"_s)
+            : localized(u"此电脑没有 Wi-Fi 适配器，无法列出附近的网络。请输入打印机要连接的网络。"_s));
     updateBtnNextStepState();
     wt_resetShowPwdBtn();
 }

@@ -4,14 +4,15 @@
 #include "WTView.h"
 
 class NetworkForm;
+class ScreenFrame;
 class WTButton;
 class WTCustomTextFieldFromatter;
 class WTDefaultStyleBtn;
 class WTInstallingView;
 class WTTextfield;
 
-/// Name and password of a network, typed by hand: for a computer whose own Wi-Fi is off and so cannot list networks.
-/// Also lets the printer print its page of wireless-network information.
+/// Name and password of a network, typed by hand: for a computer that cannot list networks, its Wi-Fi being off or
+/// absent. Also lets the printer print its page of wireless-network information.
 class WTNetworkWithManualAddition : public WTView
 {
     Q_OBJECT
@@ -54,6 +55,7 @@ private:
     WTNetworkWithManualAdditionModel m_model;
     WTPrinterPtr m_printer;
     WTInstallingView *m_installingView = nullptr;
+    ScreenFrame *m_frame;
     NetworkForm *m_form;
     WTCustomTextFieldFromatter *m_pwdFormatter;
     WTDefaultStyleBtn *m_nextBtn;

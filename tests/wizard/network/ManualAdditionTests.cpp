@@ -30,6 +30,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
+    void saysWhyThereIsNoList();
     void typing_data();
     void typing();
     void pastedPassword_data();
@@ -91,6 +92,16 @@ void ManualAdditionTests::open(const PrinterScript &script, const ModelIdentity 
     m_bed->window().show();
     m_bed->window().activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&m_bed->window()));
+}
+
+void ManualAdditionTests::saysWhyThereIsNoList()
+{
+    WTApp::shared().currentInterface.reset();
+    open();
+    QVERIFY(m_screen->accessibleDescription().startsWith(u"此电脑没有 Wi-Fi 适配器"_s));
+    WTApp::shared().currentInterface = HostWiFiState{};
+    m_screen->viewDidApear();
+    QVERIFY(m_screen->accessibleDescription().startsWith(u"此电脑的无线网络已关闭"_s));
 }
 
 void ManualAdditionTests::typing_data()
