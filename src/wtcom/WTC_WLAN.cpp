@@ -15,6 +15,7 @@ WTC_WLAN recordOf(const VisibleNetwork &network)
     record.SSID = network.ssid;
     record.security = network.security;
     record.quality = network.quality;
+    record.only5GHz = network.only5GHz;
     return record;
 }
 

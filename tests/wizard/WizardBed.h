@@ -8,11 +8,12 @@
 
 #include <QTemporaryDir>
 
-/// A desktop whose add-printer panel leaves a file behind.
+/// A desktop whose panels leave a file behind.
 class TracingDesktop : public FakeDesktop
 {
 public:
     QString addPrinterCommandLine() override;
+    QString privacySettingsCommandLine() override { return addPrinterCommandLine(); }
     bool panelWasOpened() const;
 
 private:

@@ -8,11 +8,31 @@ void NetworkChoice::chooseRow(int row)
 {
     m_editedSSID = false;
     m_row = row;
+    m_touched = true;
+}
+
+void NetworkChoice::nameTyped()
+{
+    m_editedSSID = true;
+    m_touched = true;
+}
+
+void NetworkChoice::passwordTyped()
+{
+    m_passwordTyped = true;
+    m_touched = true;
+}
+
+void NetworkChoice::beginSearch()
+{
+    m_row = 0;
+    m_editedSSID = false;
+    m_touched = false;
 }
 
 void NetworkChoice::reset()
 {
-    m_row = 0;
+    beginSearch();
     m_selectedWiFi.reset();
 }
 
@@ -38,7 +58,7 @@ std::optional<NetworkEntry> NetworkChoice::filledFields(const Networks &networks
         return std::nullopt;
     }
     const WTWiFiPtr choice = selectedWiFi(networks, fields);
-    logInfo("wifi ssid:%@", choice->SSID);
+    logInfo("wifi ssid:%@", choice->shownSSID());
     m_passwordTyped = false;
     return NetworkEntry{choice->SSID.value_or(QString()),
                         m_row == 0 ? choice->password.value_or(QString()) : QString()};
@@ -46,7 +66,17 @@ std::optional<NetworkEntry> NetworkChoice::filledFields(const Networks &networks
 
 void NetworkChoice::followNetwork(const Networks &before, const Networks &after)
 {
-    if (m_row == 0 || std::size_t(m_row) >= before.size())
+    const bool chosen = m_row != 0 || m_touched;
+    if (!chosen || std::size_t(m_row) >= before.size())
         return;
-    m_row = int(std::find(after.begin(), after.end(), before[std::size_t(m_row)]) - after.begin());
+    const WTWiFi &network = *before[std::size_t(m_row)];
+    const auto place = std::find_if(after.begin(), after.end(), [&network](const WTWiFiPtr &listed) {
+        return listed->SSID == network.SSID && listed->security == network.security;
+    });
+    if (place == after.end()) {
+        m_row = 0;
+        m_editedSSID = true;
+        return;
+    }
+    m_row = int(place - after.begin());
 }

@@ -12,14 +12,16 @@ public:
     using Networks = std::vector<WTWiFiPtr>;
 
     int row() const { return m_row; }
-    /// A name was typed since a row was chosen or the list was fetched.
+    /// A name was typed, and since then no row was chosen and no search begun.
     bool editedSSID() const { return m_editedSSID; }
+    /// The person chose or typed something since the last search began: its answer must leave that alone.
+    bool isTouched() const { return m_touched; }
 
-    void setRow(int row) { m_row = row; }
     void chooseRow(int row);
-    void nameTyped() { m_editedSSID = true; }
-    void passwordTyped() { m_passwordTyped = true; }
-    void forgetTypedName() { m_editedSSID = false; }
+    void nameTyped();
+    void passwordTyped();
+    /// The person wants the networks looked for: the first row is the choice until they choose or type.
+    void beginSearch();
     /// Row 0 again, and a new object for `selectedWiFi`.
     void reset();
 
@@ -31,9 +33,10 @@ public:
     /// networks. An empty name stands for what the field holds already.
     std::optional<NetworkEntry> filledFields(const Networks &networks, const NetworkEntry &fields);
 
-    /// The rows were sorted anew: a chosen row stays with its network, the first row stays the first.
+    /// The rows are others now: a row that the person chose stays with its network, the first row stays the first. When
+    /// the network is gone, its name in the field counts as typed.
     void followNetwork(const Networks &before, const Networks &after);
-    /// A stored password that comes now may go into the field: the person has neither chosen nor typed anything.
+    /// A stored password that comes now may go into the field: the first row is the choice, and nothing was typed.
     bool takesLatePassword() const { return m_row == 0 && !m_editedSSID && !m_passwordTyped; }
 
 private:
@@ -41,4 +44,5 @@ private:
     int m_row = 0;
     bool m_editedSSID = false;
     bool m_passwordTyped = false; ///< Since the fields were filled last.
+    bool m_touched = false;
 };

@@ -6,8 +6,10 @@ NetworkEntry::Next NetworkEntry::next(bool printerIsBusy) const
 {
     if (printerIsBusy)
         return Next::PrinterBusy;
-    if (name.isEmpty())
+    if (NetworkRules::isNoName(name))
         return Next::EmptyName;
+    if (!NetworkRules::isNameUsable(name))
+        return Next::UnusableName;
     return NetworkRules::isPasswordTooLong(NetworkRules::cutPassword(password)) ? Next::PasswordTooLong : Next::Go;
 }
 

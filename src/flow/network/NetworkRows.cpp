@@ -14,11 +14,12 @@ constexpr qint64 enhancedOpenSecurity = 13;
 
 } // namespace
 
-void NetworkRows::setNetworks(const std::vector<WTWiFiPtr> &networks, const QString &joined)
+void NetworkRows::setNetworks(const std::vector<WTWiFiPtr> &networks, const QString &joined, qint64 joinedSecurity)
 {
     beginResetModel();
     m_networks = networks;
     m_joined = joined;
+    m_joinedSecurity = joinedSecurity;
     endResetModel();
 }
 
@@ -44,7 +45,7 @@ QVariant NetworkRows::data(const QModelIndex &index, int role) const
     switch (role) {
     case Qt::DisplayRole:
     case NameRole:
-        return network.SSID.value_or(QString());
+        return network.shownSSID().value_or(QString());
     case Qt::AccessibleTextRole:
         return description(network);
     case QualityRole:
@@ -56,7 +57,7 @@ QVariant NetworkRows::data(const QModelIndex &index, int role) const
     case ChosenRole:
         return index.row() == m_chosenRow;
     case ThisComputersRole:
-        return !m_joined.isEmpty() && network.SSID == m_joined;
+        return isThisComputers(network);
     default:
         return {};
     }
@@ -64,9 +65,9 @@ QVariant NetworkRows::data(const QModelIndex &index, int role) const
 
 QString NetworkRows::description(const WTWiFi &network) const
 {
-    QStringList parts{network.SSID.value_or(QString()), formatText("%ld%%", network.quality),
+    QStringList parts{network.shownSSID().value_or(QString()), formatText(localized(u"%ld%%"_s), {network.quality}),
                       network.authModeLabel().value_or(QString())};
-    if (!m_joined.isEmpty() && network.SSID == m_joined)
+    if (isThisComputers(network))
         parts += localized(u"此电脑"_s);
     return parts.join(u", "_s);
 }

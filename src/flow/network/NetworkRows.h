@@ -22,8 +22,9 @@ public:
 
     using QAbstractListModel::QAbstractListModel;
 
-    /// Replaces all rows. `joined` is the name of the network that the computer is joined to.
-    void setNetworks(const std::vector<WTWiFiPtr> &networks, const QString &joined);
+    /// Replaces all rows. The computer is joined to the network of this name and security, the latter in the platform's
+    /// numbering.
+    void setNetworks(const std::vector<WTWiFiPtr> &networks, const QString &joined, qint64 joinedSecurity);
     void setChosenRow(int row);
 
     int rowCount(const QModelIndex &parent = {}) const override;
@@ -31,8 +32,10 @@ public:
 
 private:
     QString description(const WTWiFi &network) const;
+    bool isThisComputers(const WTWiFi &network) const { return network.isJoined(m_joined, m_joinedSecurity); }
 
     std::vector<WTWiFiPtr> m_networks;
     QString m_joined;
+    qint64 m_joinedSecurity = 0;
     int m_chosenRow = -1;
 };

@@ -3,6 +3,7 @@
 #include "Localized.h"
 #include "TextFormat.h"
 #include "cutText.h"
+#include "untrustedText.h"
 
 #include <QRegularExpression>
 
@@ -41,13 +42,20 @@ QString NetworkRules::passwordAfterEdit(const QString &typed, const QString &las
     return isVailePassword(password) ? password : lastValid;
 }
 
+bool NetworkRules::isNoName(const QString &name)
+{
+    return name.trimmed().isEmpty();
+}
+
 bool NetworkRules::isNameUsable(const QString &name)
 {
-    return !name.isEmpty() && !isNameTooLong(name);
+    return !isNoName(name) && !isNameTooLong(name) && isSendableNetworkName(name);
 }
 
 QString NetworkRules::nameError(const QString &name)
 {
+    if (!isSendableNetworkName(name))
+        return localized(u"名称含有控制字符，无法发送给打印机。"_s);
     return isNameTooLong(name) ? localized(u"名称太长：最多 32 个字节。"_s) : QString();
 }
 

@@ -22,6 +22,8 @@ bool isVailePassword(const QString &password);
 /// What the password field is to hold once an edit has made it `typed`: that, cut; or `lastValid` again.
 QString passwordAfterEdit(const QString &typed, const QString &lastValid);
 
+/// No name, or nothing but blanks.
+bool isNoName(const QString &name);
 /// Whether a printer can be told to join a network of this name.
 bool isNameUsable(const QString &name);
 /// One sentence in the interface language that says why not; empty for a usable name and for none at all.

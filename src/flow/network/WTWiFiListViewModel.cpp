@@ -3,6 +3,7 @@
 #include "HostWiFiPort.h"
 #include "Log.h"
 #include "MainThread.h"
+#include "NetworkHint.h"
 #include "NetworkRules.h"
 #include "OnMainThreadAfter.h"
 #include "PrintQueueBusyCheck.h"
@@ -10,6 +11,7 @@
 #include "WTApp.h"
 #include "WTLocationPermissionChecker.h"
 #include "cutText.h"
+#include "untrustedText.h"
 
 #include <QEventLoop>
 #include <QPointer>
@@ -27,6 +29,7 @@ WTWiFiPtr networkOf(const WTC_WLAN &item)
     network->SSID = item.SSID;
     network->security = item.security;
     network->quality = item.quality;
+    network->only5GHz = item.only5GHz;
     return network;
 }
 
@@ -40,12 +43,18 @@ WTWiFiListViewModel::WTWiFiListViewModel(const NetworkPorts &ports, QObject *par
 
 // -- networks ---------------------------------------------------------------------------------------------------------
 
+void WTWiFiListViewModel::beginSearch()
+{
+    ++m_search;
+    m_choice.beginSearch();
+}
+
 void WTWiFiListViewModel::fetchWIFIList(Callback callBack)
 {
-    WTC_WLAN::getWiFiList([model = QPointer(this), callBack = std::move(callBack)](
+    WTC_WLAN::getWiFiList([model = QPointer(this), fetch = ++m_fetch, callBack = std::move(callBack)](
                               const std::vector<WTC_WLAN> &items, const std::optional<WTError> &error) {
-        onMainThread([model, callBack, items, error] {
-            if (!model)
+        onMainThread([model, fetch, callBack, items, error] {
+            if (!model || model->m_fetch != fetch)
                 return;
             if (!error) {
                 model->reloadDataSource(items, callBack);
@@ -59,11 +68,12 @@ void WTWiFiListViewModel::fetchWIFIList(Callback callBack)
 
 void WTWiFiListViewModel::reloadDataSource(const std::vector<WTC_WLAN> &items, const Callback &callBack)
 {
-    m_list.clear();
+    const auto before = std::exchange(m_list, {});
     m_list.reserve(items.size());
     for (const WTC_WLAN &item : items)
         m_list.push_back(networkOf(item));
     putJoinedNetworkFirst();
+    m_choice.followNetwork(before, m_list);
     callBack();
 }
 
@@ -75,9 +85,12 @@ void WTWiFiListViewModel::putJoinedNetworkFirst()
         logInfo("selected ssid is empty");
         return;
     }
+    const auto isJoined = [&](const WTWiFiPtr &network) { return network->isJoined(joined, app.selectedAuthMode); };
     const auto others = std::stable_partition(m_list.begin(), m_list.end(),
                                               [&](const WTWiFiPtr &network) { return network->SSID == joined; });
-    for (auto network = m_list.begin(); network != others; ++network)
+    // Another network may bear the joined one's name; it gets neither the first place nor the password.
+    const auto namesakes = std::stable_partition(m_list.begin(), others, isJoined);
+    for (auto network = m_list.begin(); network != namesakes; ++network)
         (*network)->password = app.selectedPassword;
 }
 
@@ -97,10 +110,12 @@ bool WTWiFiListViewModel::needsPermission()
     return WTApp::shared().capabilities().scanNeedsPermission;
 }
 
-void WTWiFiListViewModel::waitForPermission(Occasion occasion, const StatusCallback &answered)
+bool WTWiFiListViewModel::waitForPermission(Occasion occasion, const StatusCallback &answered)
 {
+    bool hasAnswer = false, isOver = false;
     WTLocationPermissionChecker checker(m_ports.hostWiFi);
-    checker.checkLocationPermission([this, occasion, answered](qint32 status) {
+    checker.checkLocationPermission([this, occasion, answered, &hasAnswer](qint32 status) {
+        hasAnswer = true;
         if (status == static_cast<qint32>(ScanPermission::Allowed)) {
             WTApp &app = WTApp::shared();
             if (occasion == Occasion::Refresh)
@@ -112,8 +127,17 @@ void WTWiFiListViewModel::waitForPermission(Occasion occasion, const StatusCallb
     });
     // The program's own event loop is below this one, and ends after it; until then the window and its screens live.
     QEventLoop wait;
-    const auto end = onMainThreadAfter(m_ports.time, permissionWait, [&wait] { wait.quit(); });
+    const auto end = onMainThreadAfter(m_ports.time, permissionWait, [&] {
+        isOver = true;
+        wait.quit();
+    });
+    const quint64 search = m_search;
     wait.exec();
+    // The end of the program ends the wait, too; that is not the host's silence.
+    if (hasAnswer || !isOver || m_search != search)
+        return true;
+    logWarning("no answer within %d seconds whether networks may be looked for", int(permissionWait.count() / 1000));
+    return false;
 }
 
 void WTWiFiListViewModel::readHostState(Occasion occasion)
@@ -124,8 +148,8 @@ void WTWiFiListViewModel::readHostState(Occasion occasion)
         app.fetchWIFIPWD();
         return;
     }
-    logInfo("Check SSID:%@", app.selectedSSID);
-    logInfo("Current SSID:%@", m_currentSSID);
+    logInfo("Check SSID:%@", visibleText(app.selectedSSID));
+    logInfo("Current SSID:%@", visibleText(m_currentSSID));
     logInfo("WiFiConnected:%@", app.isMacWiFiConnected ? "✅" : "❌");
     if (mustFetchPassword(app.isMacWiFiConnected, app.selectedSSID, m_currentSSID)) {
         logInfo("🏷 need refetch pwd");
@@ -147,6 +171,11 @@ bool WTWiFiListViewModel::isWorkingWithPrintType(const QString &printType) const
 bool WTWiFiListViewModel::isScanAvaiable()
 {
     return ScannerLock::isHeld(ScannerLock::configuredPaths());
+}
+
+bool WTWiFiListViewModel::isPrinterBusy(const QString &printType) const
+{
+    return isWorkingWithPrintType(printType) || isScanAvaiable();
 }
 
 // -- what may be typed ------------------------------------------------------------------------------------------------
@@ -173,11 +202,25 @@ bool WTWiFiListViewModel::isLegalPwd(const QString &password, qint64 authMode)
     return isLegal;
 }
 
+const WTWiFi *WTWiFiListViewModel::listedNetwork(const QString &name) const
+{
+    const auto row = std::size_t(m_choice.row());
+    if (!m_choice.editedSSID() && row < m_list.size() && m_list[row]->SSID == name)
+        return m_list[row].get();
+    const auto listed =
+        std::find_if(m_list.begin(), m_list.end(), [&](const WTWiFiPtr &network) { return network->SSID == name; });
+    return listed == m_list.end() ? nullptr : listed->get();
+}
+
 bool WTWiFiListViewModel::canGoNext(const NetworkEntry &fields) const
 {
     if (!NetworkRules::isNameUsable(fields.name))
         return false;
-    const auto listed = std::find_if(m_list.begin(), m_list.end(),
-                                     [&](const WTWiFiPtr &network) { return network->SSID == fields.name; });
-    return isLegalPwd(fields.password, listed == m_list.end() ? 0 : (*listed)->security);
+    const WTWiFi *listed = listedNetwork(fields.name);
+    return isLegalPwd(fields.password, listed ? listed->security : 0);
+}
+
+QString WTWiFiListViewModel::hint(const NetworkEntry &fields) const
+{
+    return hintText(networkHint(fields, listedNetwork(fields.name)));
 }

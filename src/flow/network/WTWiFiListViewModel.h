@@ -23,7 +23,10 @@ public:
     // -- networks -----------------------------------------------------------------------------------------------
     const std::vector<WTWiFiPtr> &list_WIFI() const { return m_list; }
 
-    /// Asks for the visible networks and calls back when the list is the new one, or, after a failure, the old one.
+    /// The person wants the networks looked for. Before `waitForPermission` or `readHostState`.
+    void beginSearch();
+    /// Asks for the visible networks and calls back when the list is the new one, or, after a failure, the old one. The
+    /// answer to an earlier call is dropped.
     void fetchWIFIList(Callback callBack);
 
     /// Makes `items` the list: as received, but the network the computer is joined to comes first, with its password.
@@ -42,7 +45,8 @@ public:
     /// The host must be asked before the networks are looked for.
     static bool needsPermission();
     /// Asks for that permission and gives the host 5 seconds of events to answer, each time to `answered`.
-    void waitForPermission(Occasion occasion, const StatusCallback &answered);
+    /// @return false when the five seconds ended without an answer, and no later search is waiting for one.
+    bool waitForPermission(Occasion occasion, const StatusCallback &answered);
     /// Where no permission is needed: reads the host's state and asks for the joined network's password.
     void readHostState(Occasion occasion);
     /// The password at hand belongs to another network than the computer is joined to now.
@@ -53,6 +57,8 @@ public:
     bool isWorkingWithPrintType(const QString &printType) const;
     /// Whether a scan job holds the printer.
     static bool isScanAvaiable();
+    /// One of the two.
+    bool isPrinterBusy(const QString &printType) const;
 
     // -- what may be typed --------------------------------------------------------------------------------------
     static bool isVailePassword(const QString &password);
@@ -63,14 +69,20 @@ public:
     static bool isLegalPwd(const QString &password, qint64 authMode);
     /// A name of 1 to 32 bytes of UTF-8, and a password that is legal for the first listed network of that name.
     bool canGoNext(const NetworkEntry &fields) const;
+    /// What to say of the fields before anything is sent.
+    QString hint(const NetworkEntry &fields) const;
 
     QObject *view = nullptr; ///< The screen; not used for logic.
 
 private:
     void putJoinedNetworkFirst();
+    /// The chosen network if it has that name, else the first one that has; null without one.
+    const WTWiFi *listedNetwork(const QString &name) const;
 
     NetworkPorts m_ports;
     std::vector<WTWiFiPtr> m_list;
     NetworkChoice m_choice;
     std::optional<QString> m_currentSSID;
+    quint64 m_search = 0; ///< The latest search of the person.
+    quint64 m_fetch = 0;  ///< The latest request for the list.
 };

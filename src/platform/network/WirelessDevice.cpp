@@ -110,20 +110,25 @@ HostWiFiState wirelessState(NMClient *client, NMDeviceWifi *device)
 
 std::vector<VisibleNetwork> visibleNetworks(NMDeviceWifi *device)
 {
-    std::map<std::pair<QString, qint64>, qint64> best;
+    struct Seen {
+        qint64 quality = 0;
+        bool only5GHz = true;
+    };
+    std::map<std::pair<QString, qint64>, Seen> best;
     const GPtrArray *accessPoints = nm_device_wifi_get_access_points(device);
     for (guint index = 0; accessPoints && index < accessPoints->len; ++index) {
         NMAccessPoint *accessPoint = NM_ACCESS_POINT(accessPoints->pdata[index]);
         const QString name = readableName(nm_access_point_get_ssid(accessPoint));
         if (name.isEmpty())
             continue;
-        qint64 &quality = best[{name, securityOf(accessPoint).library}];
-        quality = std::max(quality, qint64{nm_access_point_get_strength(accessPoint)});
+        Seen &seen = best[{name, securityOf(accessPoint).library}];
+        seen.quality = std::max(seen.quality, qint64{nm_access_point_get_strength(accessPoint)});
+        seen.only5GHz = seen.only5GHz && bandOfFrequency(nm_access_point_get_frequency(accessPoint)) == 2;
     }
     std::vector<VisibleNetwork> networks;
     networks.reserve(best.size());
-    for (const auto &[key, quality] : best)
-        networks.push_back({key.first, key.second, quality});
+    for (const auto &[key, seen] : best)
+        networks.push_back({key.first, key.second, seen.quality, seen.only5GHz});
     // The map is in the order of names already.
     std::stable_sort(networks.begin(), networks.end(),
                      [](const auto &one, const auto &two) { return one.quality > two.quality; });

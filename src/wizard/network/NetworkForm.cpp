@@ -9,6 +9,7 @@
 #include "Palette.h"
 #include "PasswordStrengthView.h"
 #include "WTButton.h"
+#include "untrustedText.h"
 
 #include <QVBoxLayout>
 
@@ -27,7 +28,7 @@ NetworkForm::NetworkForm(const QString &nameHelp, const QString &showPwdBtnName,
     m_passwordTextField->setObjectName(u"passwordTextField"_s);
     m_showPwdBtn->setObjectName(showPwdBtnName);
     m_ssidView->setHelp(nameHelp);
-    m_passwordView->setHelp(localized(u"没有密码的网络请留空。"_s));
+    showHint({});
     m_showPwdBtn->setTitle(localized(u"显示密码"_s));
     ButtonSchemes::applyCheckBox(*m_showPwdBtn);
     resetFrames();
@@ -69,12 +70,14 @@ void NetworkForm::awakeFromNib()
 
 NetworkEntry NetworkForm::entry() const
 {
-    return {m_ssidTextField->text(), m_passwordTextField->text()};
+    return {m_shownName.value_or(m_ssidTextField->text()), m_passwordTextField->text()};
 }
 
 void NetworkForm::showName(const QString &name)
 {
-    m_ssidTextField->showText(name);
+    m_shownName = name;
+    m_ssidTextField->showText(visibleText(name));
+    m_ssidTextField->home(false);
 }
 
 void NetworkForm::showPasswordText(const QString &password)
@@ -86,8 +89,18 @@ void NetworkForm::showPasswordText(const QString &password)
 
 void NetworkForm::showErrors()
 {
-    m_ssidView->setError(NetworkRules::nameError(m_ssidTextField->text()));
+    m_ssidView->setError(NetworkRules::nameError(entry().name));
     showPasswordError();
+}
+
+void NetworkForm::showHint(const QString &hint)
+{
+    m_passwordView->setHelp(hint.isEmpty() ? localized(u"没有密码的网络请留空。"_s) : hint);
+}
+
+bool NetworkForm::hasKeyboard() const
+{
+    return m_ssidTextField->hasFocus() || m_passwordTextField->hasFocus();
 }
 
 void NetworkForm::showPasswordError()
@@ -130,6 +143,7 @@ void NetworkForm::controlDidBecomeFirstResponder(WTTextfield *field)
 void NetworkForm::controlTextDidChange(WTTextfield *field)
 {
     if (field == m_ssidTextField) {
+        m_shownName.reset();
         field->putBack(NetworkRules::cutName(field->text()));
         Q_EMIT nameEdited();
         return;
@@ -141,7 +155,8 @@ void NetworkForm::controlTextDidChange(WTTextfield *field)
 
 void NetworkForm::controlTextDidEndEditing(WTTextfield *)
 {
-    m_ssidTextField->putBack(NetworkRules::cutName(m_ssidTextField->text()));
+    if (!m_shownName)
+        m_ssidTextField->putBack(NetworkRules::cutName(m_ssidTextField->text()));
     m_passwordTextField->putBack(NetworkRules::cutPassword(m_passwordTextField->text()));
     Q_EMIT editingEnded();
 }

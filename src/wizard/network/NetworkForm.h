@@ -3,6 +3,7 @@
 #include "NetworkEntry.h"
 
 #include <QWidget>
+#include <optional>
 
 class FieldFrame;
 class KSPasswordField;
@@ -18,7 +19,7 @@ class NetworkForm : public QWidget
 public:
     enum class Strength { Hidden, Shown };
 
-    /// @param nameHelp below the name, while nothing is wrong with it.
+    /// @param nameHelp stands below the name while nothing is wrong with it.
     /// @param strength whether the password is rated; the rating has a warning of its own for caps lock.
     NetworkForm(const QString &nameHelp, const QString &showPwdBtnName, Strength strength, QWidget *parent = nullptr);
 
@@ -30,10 +31,16 @@ public:
     /// The password that the field held when it was entered or filled last, or that was accepted since.
     QString lastPwd() const { return m_lastPwd; }
 
+    /// Shows the name from its beginning, hidden characters as their numbers; `entry` holds it as it is until the
+    /// person edits it.
     void showName(const QString &name);
     void showPasswordText(const QString &password);
-    /// What is wrong with name and password, in their error lines.
+    /// Says what is wrong with name and password in their error lines.
     void showErrors();
+    /// A quiet line below the password; empty brings the usual help back.
+    void showHint(const QString &hint);
+    /// Whether the person is in one of the fields.
+    bool hasKeyboard() const;
     /// No frame looks as if its field had the keyboard.
     void resetFrames();
     /// The switch is off and the password hidden.
@@ -63,4 +70,5 @@ private:
     WTButton *m_showPwdBtn;
     bool m_saysCapsLock;
     QString m_lastPwd;
+    std::optional<QString> m_shownName; ///< What `showName` was given, until the person edits the field.
 };

@@ -3,8 +3,10 @@
 #include "Palette.h"
 #include "WTTableCellView.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QPalette>
+#include <QResizeEvent>
 #include <QScopedValueRollback>
 #include <utility>
 
@@ -57,10 +59,27 @@ void WTListView::mousePressEvent(QMouseEvent *event)
 void WTListView::keyPressEvent(QKeyEvent *event)
 {
     m_said = false;
-    if (event->key() == Qt::Key_Space)
+    const bool types = m_sinceTyped.isValid() && m_sinceTyped.elapsed() < QApplication::keyboardInputInterval();
+    if (event->key() == Qt::Key_Space && types)
+        keyboardSearch(event->text());
+    else if (event->key() == Qt::Key_Space)
         chooseOnce(currentIndex());
     else
         QListView::keyPressEvent(event);
+}
+
+void WTListView::keyboardSearch(const QString &typed)
+{
+    m_sinceTyped.start();
+    QListView::keyboardSearch(typed);
+}
+
+void WTListView::resizeEvent(QResizeEvent *event)
+{
+    const bool wasInSight = QRect(QPoint(), event->oldSize()).intersects(visualRect(currentIndex()));
+    QListView::resizeEvent(event);
+    if (wasInSight)
+        scrollTo(currentIndex());
 }
 
 void WTListView::setFrameColor(const QColor &color)

@@ -6,6 +6,7 @@
 #include "Localized.h"
 #include "Log.h"
 #include "NetworkForm.h"
+#include "NetworkHint.h"
 #include "NetworkRules.h"
 #include "ScreenFrame.h"
 #include "WTApp.h"
@@ -90,8 +91,10 @@ void WTNetworkWithManualAddition::viewDidApear()
 
 void WTNetworkWithManualAddition::updateBtnNextStepState()
 {
-    m_nextBtn->setDisable(!NetworkRules::isNameUsable(m_form->entry().name));
+    const NetworkEntry entry = m_form->entry();
+    m_nextBtn->setDisable(!NetworkRules::isNameUsable(entry.name));
     m_form->showErrors();
+    m_form->showHint(hintText(networkHint(entry, nullptr)));
 }
 
 void WTNetworkWithManualAddition::nextView()
@@ -105,6 +108,9 @@ void WTNetworkWithManualAddition::nextView()
         break;
     case NetworkEntry::Next::EmptyName:
         logWarning("empty ssid");
+        break;
+    case NetworkEntry::Next::UnusableName:
+        logWarning("network name refused");
         break;
     case NetworkEntry::Next::PasswordTooLong:
         EntryAlerts::refuseLongPassword(window());

@@ -62,7 +62,8 @@ void WTTableCellView::paint(QPainter *painter, const QStyleOptionViewItem &optio
     const qint64 quality = index.data(NetworkRows::QualityRole).toLongLong();
     painter->setFont(TextStyle::font(TextStyle::Size::Small));
     painter->setPen(quiet);
-    painter->drawText(takeRight(percentWidth), Qt::AlignRight | Qt::AlignVCenter, formatText("%ld%%", quality));
+    painter->drawText(takeRight(percentWidth), Qt::AlignRight | Qt::AlignVCenter,
+                      formatText(localized(u"%ld%%"_s), {quality}));
     paintSignal(*painter, centred(takeRight(18)), quality, Palette::heading);
     const QRect lock = centred(takeRight(lockSize));
     if (index.data(NetworkRows::LockedRole).toBool())

@@ -4,16 +4,13 @@
 #include "ButtonSchemes.h"
 #include "DesktopPort.h"
 #include "EntryAlerts.h"
-#include "LiveLabel.h"
 #include "Localized.h"
 #include "Log.h"
 #include "NetworkForm.h"
+#include "NetworkListPanel.h"
 #include "NetworkRows.h"
-#include "Palette.h"
 #include "PermissionAnswer.h"
 #include "ScreenFrame.h"
-#include "SlimScrollBar.h"
-#include "TextStyle.h"
 #include "WTApp.h"
 #include "WTButton.h"
 #include "WTCommand.h"
@@ -22,6 +19,7 @@
 #include "WTListView.h"
 #include "WTWindow.h"
 #include "showAlert.h"
+#include "untrustedText.h"
 
 #include <utility>
 
@@ -40,9 +38,9 @@ WTWiFiListView::WTWiFiListView(const NetworkPorts &ports, QWidget *parent)
     : WTView(parent)
     , m_viewModel(new WTWiFiListViewModel(ports, this))
     , m_rows(new NetworkRows(this))
-    , m_wifiListView(new WTListView)
+    , m_panel(new NetworkListPanel(m_rows))
+    , m_wifiListView(m_panel->list())
     , m_updateButton(new WTButton)
-    , m_activeView(new LiveLabel(localized(u"正在查找无线网络…"_s), TextStyle::Size::Small, Palette::label))
     , m_form(new NetworkForm(localized(u"请从列表中选择，或在此输入名称。"_s), u"btn_showPwd"_s,
                              NetworkForm::Strength::Hidden))
     , m_nextBtn(new WTDefaultStyleBtn)
@@ -65,7 +63,7 @@ void WTWiFiListView::layOut()
 
     auto *columns = new QHBoxLayout;
     columns->setSpacing(columnGap);
-    columns->addLayout(makeListColumn(), listStretch);
+    columns->addWidget(m_panel, listStretch);
     columns->addWidget(m_form, formStretch);
 
     auto *frame = new ScreenFrame(this, WizardStep::Network);
@@ -75,25 +73,6 @@ void WTWiFiListView::layOut()
     frame->setBackButton(m_previous);
     frame->setMainButton(m_nextBtn);
     frame->addToBar(m_updateButton);
-}
-
-QLayout *WTWiFiListView::makeListColumn()
-{
-    m_wifiListView->setModel(m_rows);
-    m_wifiListView->setVerticalScrollBar(new SlimScrollBar);
-    m_wifiListView->setObjectName(u"wifiListView"_s);
-    m_wifiListView->setAccessibleName(localized(u"附近的无线网络"_s));
-    m_activeView->setWordWrap(false);
-    m_activeView->hide();
-
-    auto *header = new QHBoxLayout;
-    header->addWidget(TextStyle::makeLabel(localized(u"附近的无线网络"_s), TextStyle::Size::Body, Palette::heading), 1);
-    header->addWidget(m_activeView);
-    auto *column = new QVBoxLayout;
-    column->setSpacing(8);
-    column->addLayout(header);
-    column->addWidget(m_wifiListView, 1);
-    return column;
 }
 
 void WTWiFiListView::awakeFromNib()
@@ -106,7 +85,8 @@ void WTWiFiListView::awakeFromNib()
         logMaximumLength();
         updateBtnNextStepState();
     });
-    connect(m_form, &NetworkForm::editingEnded, this, [this] { logInfo("ssid:%@", m_form->entry().name); });
+    connect(m_form, &NetworkForm::editingEnded, this,
+            [this] { logInfo("ssid:%@", visibleText(m_form->entry().name)); });
     connect(m_wifiListView, &WTListView::rowChosen, this, &WTWiFiListView::tableView);
     connect(m_updateButton, &WTButton::clicked, this, &WTWiFiListView::updateWifiList);
     connect(m_nextBtn, &WTDefaultStyleBtn::clicked, this, &WTWiFiListView::next);
@@ -130,12 +110,12 @@ void WTWiFiListView::ff_discoverPrinterAndUpdataWIFIList()
     if (selectRow() != 0) {
         m_wifiListView->showChosenRow(selectRow());
         logInfo("did selected row:%ld", selectRow());
-        logInfo("did selected WIFI SSID:%@", selectedWiFi()->SSID);
+        logInfo("did selected WIFI SSID:%@", selectedWiFi()->shownSSID());
         updateFieldsAndNext();
         return;
     }
     reloadTable();
-    logInfo("currentSSID:%@", currentSSID());
+    logInfo("currentSSID:%@", visibleText(currentSSID()));
     lookForNetworks(WTWiFiListViewModel::Occasion::Entry);
 }
 
@@ -146,18 +126,29 @@ void WTWiFiListView::updateWifiList()
         logError("🈲 Disable Click");
         return;
     }
-    m_viewModel->choice().setRow(0);
     lookForNetworks(WTWiFiListViewModel::Occasion::Refresh);
 }
 
 void WTWiFiListView::lookForNetworks(WTWiFiListViewModel::Occasion occasion)
 {
-    if (WTWiFiListViewModel::needsPermission()) {
-        m_viewModel->waitForPermission(occasion, [this](qint32 status) { changeLocation(status); });
+    m_viewModel->beginSearch();
+    if (!WTWiFiListViewModel::needsPermission()) {
+        m_viewModel->readHostState(occasion);
+        fetchWIFIList();
         return;
     }
-    m_viewModel->readHostState(occasion);
-    fetchWIFIList();
+    m_panel->showNote({});
+    m_panel->showProgress(localized(u"正在等待系统许可…"_s));
+    if (!m_viewModel->waitForPermission(occasion, [this](qint32 status) { changeLocation(status); }))
+        sayThatNobodyAnswered();
+}
+
+void WTWiFiListView::sayThatNobodyAnswered()
+{
+    m_panel->showProgress({});
+    m_panel->showNote(localized(u"系统尚未回答是否允许查找网络。请点击“刷新”再试一次，或直接输入名称。"_s));
+    if (isVisible() && !m_form->hasKeyboard())
+        m_updateButton->setFocus();
 }
 
 void WTWiFiListView::changeLocation(qint32 status)
@@ -190,20 +181,28 @@ void WTWiFiListView::changeLocation(qint32 status)
 void WTWiFiListView::fetchWIFIList()
 {
     logInfo("🏷");
-    m_viewModel->choice().forgetTypedName();
     startLoading();
-    m_viewModel->fetchWIFIList([this] {
-        reloadTable();
-        updateFieldsAndNext();
-        stopLoading();
-    });
+    m_viewModel->fetchWIFIList([this] { listArrived(); });
+}
+
+void WTWiFiListView::listArrived()
+{
+    reloadTable();
+    // What the person typed or chose while the search ran stays.
+    if (!m_viewModel->choice().isTouched())
+        updateTextfieldSSIDAndPWD();
+    updateBtnNextStepState();
+    stopLoading();
+    if (m_viewModel->list_WIFI().empty())
+        m_panel->showNote(localized(u"没有找到网络。请点击“刷新”再找一次，或直接输入名称。"_s));
 }
 
 void WTWiFiListView::startLoading()
 {
     logInfo("start loading");
     m_enableRefresh = false;
-    m_activeView->show();
+    m_panel->showNote({});
+    m_panel->showProgress(localized(u"正在查找无线网络…"_s));
     m_returnsKeyboard = m_updateButton->hasFocus();
     if (m_returnsKeyboard)
         m_wifiListView->setFocus();
@@ -215,7 +214,7 @@ void WTWiFiListView::startLoading()
 void WTWiFiListView::stopLoading()
 {
     logInfo("stop loading");
-    m_activeView->hide();
+    m_panel->showProgress({});
     m_updateButton->setTitle(localized(u"刷新"_s));
     m_updateButton->setEnabled(true);
     if (std::exchange(m_returnsKeyboard, false) && m_wifiListView->hasFocus())
@@ -225,7 +224,8 @@ void WTWiFiListView::stopLoading()
 
 void WTWiFiListView::reloadTable()
 {
-    m_rows->setNetworks(m_viewModel->list_WIFI(), WTApp::shared().selectedSSID.value_or(QString()));
+    const WTApp &app = WTApp::shared();
+    m_rows->setNetworks(m_viewModel->list_WIFI(), app.selectedSSID.value_or(QString()), app.selectedAuthMode);
     m_rows->setChosenRow(selectRow());
     m_wifiListView->showChosenRow(selectRow());
 }
@@ -265,8 +265,10 @@ void WTWiFiListView::updateTextfieldSSIDAndPWD()
 
 void WTWiFiListView::updateBtnNextStepState()
 {
-    m_nextBtn->setDisable(!m_viewModel->canGoNext(m_form->entry()));
+    const NetworkEntry entry = m_form->entry();
+    m_nextBtn->setDisable(!m_viewModel->canGoNext(entry));
     m_form->showErrors();
+    m_form->showHint(m_viewModel->hint(entry));
 }
 
 void WTWiFiListView::updateFieldsAndNext()
@@ -277,7 +279,7 @@ void WTWiFiListView::updateFieldsAndNext()
 
 void WTWiFiListView::nameEdited()
 {
-    logInfo("ssid:%@", m_form->entry().name);
+    logInfo("ssid:%@", visibleText(m_form->entry().name));
     m_viewModel->choice().nameTyped();
     logMaximumLength();
     updateBtnNextStepState();
@@ -323,7 +325,7 @@ void WTWiFiListView::next()
 {
     logInfo("next step");
     const NetworkEntry entry = m_form->entry();
-    switch (entry.next(isWorkingWithPrintType(m_printer->printerType()) || isScanAvaiable())) {
+    switch (entry.next(m_viewModel->isPrinterBusy(m_printer->printerType()))) {
     case NetworkEntry::Next::PrinterBusy:
         showIsworkingAlert();
         logWarning("printer is busy now");
@@ -331,11 +333,14 @@ void WTWiFiListView::next()
     case NetworkEntry::Next::EmptyName:
         logError("ssid is empty");
         break;
+    case NetworkEntry::Next::UnusableName:
+        logWarning("network name refused");
+        break;
     case NetworkEntry::Next::PasswordTooLong:
         EntryAlerts::refuseLongPassword(window());
         break;
     case NetworkEntry::Next::Go:
-        logInfo("ssid👉🏻%@", entry.name);
+        logInfo("ssid👉🏻%@", visibleText(entry.name));
         m_installingView->setPrinter(m_printer);
         m_installingView->setWifi(entry.network());
         m_installingView->setProgress(0);

@@ -4,10 +4,9 @@
 #include "WTView.h"
 #include "WTWiFiListViewModel.h"
 
-class LiveLabel;
 class NetworkForm;
+class NetworkListPanel;
 class NetworkRows;
-class QLayout;
 class WTButton;
 class WTDefaultStyleBtn;
 class WTInstallingView;
@@ -61,8 +60,9 @@ public:
 
 private:
     void layOut();
-    QLayout *makeListColumn();
     void lookForNetworks(WTWiFiListViewModel::Occasion occasion);
+    void sayThatNobodyAnswered();
+    void listArrived();
     void startLoading();
     void stopLoading();
     void reloadTable();
@@ -81,9 +81,9 @@ private:
     bool m_returnsKeyboard = false;
 
     NetworkRows *m_rows;
+    NetworkListPanel *m_panel;
     WTListView *m_wifiListView;
     WTButton *m_updateButton;
-    LiveLabel *m_activeView;
     NetworkForm *m_form;
     WTDefaultStyleBtn *m_nextBtn;
     WTButton *m_previous;

@@ -1,12 +1,15 @@
 #include "FakeHost.h"
-#include "InfoList.h"
+#include "FakeSpooler.h"
 #include "PermissionAnswer.h"
+#include "ResourceFolder.h"
 #include "Rows.h"
-#include "SpoolerPort.h"
 #include "VirtualTime.h"
 #include "WTApp.h"
 #include "WTNetworkWithManualAdditionModel.h"
 #include "WTWiFiListViewModel.h"
+
+#include <QTemporaryFile>
+#include <sys/file.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -15,12 +18,7 @@ using Step = PermissionAnswer::Step;
 namespace
 {
 
-/// The queue of a printer that is called QZ-100, while it prints.
-class PrintingSpooler : public SpoolerPort
-{
-public:
-    std::vector<PrintDestination> destinations() override { return {{"QZ100_USB", "4"}}; }
-};
+constexpr qint64 wpa2OfThePlatform = 4;
 
 WTC_WLAN network(const QString &name, qint64 security = 7)
 {
@@ -43,6 +41,9 @@ private Q_SLOTS:
     void order();
     void choiceFillsTheFields();
     void behindTheEndTheChoiceStays();
+    void chosenRowStaysWithItsNetwork_data();
+    void chosenRowStaysWithItsNetwork();
+    void earlierAnswersAreDropped();
     void permission_data();
     void permission();
     void mustFetchPassword_data();
@@ -50,26 +51,29 @@ private Q_SLOTS:
     void latePassword_data();
     void latePassword();
     void eachScreenHasItsBusyRule();
+    void aScanMakesThePrinterBusy();
 
 private:
     /// A model of Home, Cafe and Office, and a computer that is joined to `joined`.
     std::unique_ptr<WTWiFiListViewModel> makeModel(const QString &joined, const QString &password = {});
 
+    ResourceFolder m_resources;
     FakeHostWiFi m_host;
     FakeDesktop m_desktop;
     VirtualTime m_time;
-    PrintingSpooler m_spooler;
+    FakeSpooler m_spooler;
 };
 
 void ListModelTests::initTestCase()
 {
-    InfoList::setResourceFolder(QStringLiteral(WT_RESOURCE_FOLDER));
+    WTC_WLAN::usePort(m_host);
     WTApp::usePorts(m_host, m_desktop, {});
 }
 
 std::unique_ptr<WTWiFiListViewModel> ListModelTests::makeModel(const QString &joined, const QString &password)
 {
     WTApp::shared().selectedSSID = joined;
+    WTApp::shared().selectedAuthMode = wpa2OfThePlatform;
     WTApp::shared().selectedPassword = password;
     auto model = std::make_unique<WTWiFiListViewModel>(NetworkPorts{m_host, m_time, m_spooler});
     model->reloadDataSource({network(u"Home"_s), network(u"Cafe"_s, 1), network(u"Office"_s, 5)}, [] {});
@@ -80,7 +84,7 @@ void ListModelTests::order_data()
 {
     const Rows<QString, QString> row{"joined", "names"};
     row("joined network first", u"Office"_s, u"Office* Home Cafe Home"_s);
-    row("both of one name", u"Home"_s, u"Home* Home* Cafe Office"_s);
+    row("an open one of its name behind it", u"Home"_s, u"Home* Home Cafe Office"_s);
     row("not joined", {}, u"Home Cafe Office Home"_s);
     row("out of sight", u"Elsewhere"_s, u"Home Cafe Office Home"_s);
 }
@@ -89,7 +93,7 @@ void ListModelTests::order()
 {
     QFETCH(QString, joined);
     const auto model = makeModel(joined, u"secret"_s);
-    model->reloadDataSource({network(u"Home"_s), network(u"Cafe"_s), network(u"Office"_s), network(u"Home"_s, 1)},
+    model->reloadDataSource({network(u"Home"_s, 1), network(u"Cafe"_s), network(u"Office"_s), network(u"Home"_s)},
                             [] {});
     QStringList names;
     for (const WTWiFiPtr &listed : model->list_WIFI())
@@ -123,6 +127,48 @@ void ListModelTests::behindTheEndTheChoiceStays()
     choice.chooseRow(3);
     QCOMPARE(choice.selectedWiFi(model->list_WIFI(), {}), first);
     QCOMPARE(first->SSID, u"Home"_s);
+}
+
+void ListModelTests::chosenRowStaysWithItsNetwork_data()
+{
+    using Networks = std::vector<WTC_WLAN>;
+    const Rows<int, Networks, int, bool> row{"chosen", "found", "row", "typed"};
+    const WTC_WLAN home = network(u"Home"_s), cafe = network(u"Cafe"_s, 1), office = network(u"Office"_s, 5);
+    row("moves up", 2, {office, home}, 0, false);
+    row("moves down from the first row", 0, {cafe, office, home}, 2, false);
+    row("an open one took its name", 2, {home, network(u"Office"_s, 1)}, 0, true);
+    row("is gone", 1, {home}, 0, true);
+}
+
+void ListModelTests::chosenRowStaysWithItsNetwork()
+{
+    QFETCH(int, chosen);
+    QFETCH(std::vector<WTC_WLAN>, found);
+    const auto model = makeModel({});
+    model->choice().chooseRow(2);
+    model->choice().nameTyped();
+    model->beginSearch();
+    QCOMPARE(model->choice().row(), 0);
+    QVERIFY(!model->choice().isTouched() && !model->choice().editedSSID());
+    model->choice().chooseRow(chosen);
+    model->reloadDataSource(found, [] {});
+    QTEST(model->choice().row(), "row");
+    QTEST(model->choice().editedSSID(), "typed");
+    QVERIFY(model->choice().isTouched());
+}
+
+void ListModelTests::earlierAnswersAreDropped()
+{
+    const auto model = makeModel({});
+    QStringList answered;
+    m_host.holdsScans = true;
+    model->fetchWIFIList([&] { answered += u"first"_s; });
+    model->fetchWIFIList([&] { answered += u"second"_s; });
+    m_host.answerScans();
+    QTRY_VERIFY(!answered.isEmpty());
+    QCoreApplication::processEvents();
+    QCOMPARE(answered, QStringList{u"second"_s});
+    m_host.holdsScans = false;
 }
 
 void ListModelTests::permission_data()
@@ -168,10 +214,9 @@ void ListModelTests::latePassword_data()
     row(
         "nothing touched", [](NetworkChoice &) {}, office, true, 0);
     row(
-        "password typed", [](NetworkChoice &choice) { choice.passwordTyped(); }, office, false, 0);
+        "password typed", [](NetworkChoice &choice) { choice.passwordTyped(); }, office, false, 1);
     row(
-        "name typed", [](NetworkChoice &choice) { choice.nameTyped(); }, office, false, 0);
-    // Office moves to the front, and the chosen Cafe one row down.
+        "name typed", [](NetworkChoice &choice) { choice.nameTyped(); }, office, false, 1);
     row(
         "another row chosen", [](NetworkChoice &choice) { choice.chooseRow(1); }, office, false, 2);
     row(
@@ -193,8 +238,24 @@ void ListModelTests::latePassword()
 void ListModelTests::eachScreenHasItsBusyRule()
 {
     // Only the manual entry screen looks for the name without its hyphen.
+    m_spooler.queues = {{"QZ100_USB", "4"}};
     QVERIFY(!makeModel({})->isWorkingWithPrintType(u"QZ-100"_s));
     QVERIFY(WTNetworkWithManualAdditionModel(m_spooler).isWorkingWithPrintType(u"QZ-100"_s));
+}
+
+void ListModelTests::aScanMakesThePrinterBusy()
+{
+    m_spooler.queues.clear();
+    QTemporaryFile lock;
+    QVERIFY(lock.open());
+    m_resources.writeCatalogue(R"({"printer_info": [{"scaner_locker": ")" + lock.fileName().toUtf8() + R"("}]})");
+    const auto model = makeModel({});
+    QVERIFY(!model->isPrinterBusy(u"QZ100"_s));
+    QCOMPARE(flock(lock.handle(), LOCK_SH), 0);
+    QVERIFY(model->isPrinterBusy(u"QZ100"_s));
+    flock(lock.handle(), LOCK_UN);
+    m_spooler.queues = {{"QZ100_USB", "4"}};
+    QVERIFY(model->isPrinterBusy(u"QZ100"_s));
 }
 
 QTEST_GUILESS_MAIN(ListModelTests)

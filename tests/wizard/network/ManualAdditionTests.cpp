@@ -124,6 +124,7 @@ void ManualAdditionTests::typing()
     QFETCH(QString, name);
     QFETCH(QString, password);
     open();
+    QVERIFY(!nextButton()->isEnabled());
     nameField()->setFocus();
     for (const QChar letter : name)
         QTest::sendKeyEvent(QTest::Click, nameField(), Qt::Key_unknown, QString(letter), Qt::NoModifier);
@@ -219,6 +220,7 @@ void ManualAdditionTests::enterStartsTheRun()
 
 void ManualAdditionTests::staysAndSaysWhy_data()
 {
+    QTest::addColumn<bool>("printsPage");
     QTest::addColumn<QByteArray>("queueState");
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("password");
@@ -228,14 +230,18 @@ void ManualAdditionTests::staysAndSaysWhy_data()
     const auto busy = u"打印端口被占用，无法打印无线网络信息页。"_s;
     const auto tooLong = u"密码太长，打印机最多接受 31 个字节（普通字母或数字各占一个）。请为网络设置较短的密码。"_s;
     const QString longPassword = u"-long-password-"_s.repeated(3);
-    QTest::newRow("printing") << QByteArray("4") << u"Home"_s << u"secret"_s << u"printer is busy now"_s << busy;
-    QTest::newRow("no name") << QByteArray("3") << QString() << longPassword << u"empty ssid"_s << QString();
+    QTest::newRow("page while printing") << true << QByteArray("4") << u"Home"_s << u"secret"_s
+                                         << u"printer is busy now"_s << busy;
+    QTest::newRow("printing") << false << QByteArray("4") << u"Home"_s << u"secret"_s << u"printer is busy now"_s
+                              << busy;
+    QTest::newRow("no name") << false << QByteArray("3") << QString() << longPassword << u"empty ssid"_s << QString();
     QTest::newRow("password of 45 bytes")
-        << QByteArray("3") << u"Home"_s << longPassword << u"password over 31 bytes refused"_s << tooLong;
+        << false << QByteArray("3") << u"Home"_s << longPassword << u"password over 31 bytes refused"_s << tooLong;
 }
 
 void ManualAdditionTests::staysAndSaysWhy()
 {
+    QFETCH(bool, printsPage);
     QFETCH(QByteArray, queueState);
     QFETCH(QString, name);
     QFETCH(QString, password);
@@ -246,9 +252,12 @@ void ManualAdditionTests::staysAndSaysWhy()
     m_bed->spooler().queues = {{"Quillmark_QZ100", queueState}};
     nameField()->setText(name);
     passwordField()->setText(password);
-    m_screen->nextView();
+    if (printsPage)
+        m_screen->printWiFiList();
+    else
+        m_screen->nextView();
     QCOMPARE(m_bed->screen(), m_screen);
-    QVERIFY(m_log->lines().contains(u"info: next step"_s));
+    QVERIFY(m_log->lines().contains(printsPage ? u"info: print WiFi list"_s : u"info: next step"_s));
     QVERIFY(m_log->lines().contains(u"warning: "_s + warning));
     QVERIFY(m_log->lines().filter(password).isEmpty());
     QCOMPARE(alert() != nullptr, !informativeText.isEmpty());
@@ -260,7 +269,7 @@ void ManualAdditionTests::staysAndSaysWhy()
     QTest::keyClick(alert(), Qt::Key_Return);
     QVERIFY(m_bed->waitFor([this] { return !alert(); }));
     QCOMPARE(m_bed->screen(), m_screen);
-    QCOMPARE(m_bed->sends(Configuration), 0);
+    QCOMPARE(m_bed->bus().record().commands(), std::vector<quint16>{});
 }
 
 void ManualAdditionTests::printsInformationPage_data()

@@ -4,6 +4,7 @@
 #include "WTApp.h"
 
 #include <QAbstractButton>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
@@ -21,7 +22,9 @@ class WTWiFiListViewTest : public QObject
 private Q_SLOTS:
     void permissionOnEntry_data();
     void permissionOnEntry();
-    void noAnswerEndsAfterFiveSeconds();
+    void silenceIsSaidAndRefreshAsksAgain();
+    void settingsOpenFromTheAlert();
+    void whatIsTypedDuringASearchStays();
     void onlyRefreshReadsTheHostState();
     void refreshWhileLoadingIsRefused();
     void refreshKeepsTheKeyboard();
@@ -66,21 +69,71 @@ void WTWiFiListViewTest::permissionOnEntry()
     if (alerts) {
         bed.alert()->buttons().constLast()->click();
         QTRY_COMPARE(bed.shown(), QByteArray("WTStartView"));
+        QVERIFY(!bed.desktop.panelWasOpened());
     }
 }
 
-void WTWiFiListViewTest::noAnswerEndsAfterFiveSeconds()
+void WTWiFiListViewTest::silenceIsSaidAndRefreshAsksAgain()
 {
+    const auto words = [](ListBed &bed, const char *name) {
+        const auto *label = qobject_cast<QLabel *>(bed.widget(name));
+        return label->isVisible() ? label->text() : QString();
+    };
+    const auto silence = u"系统尚未回答是否允许查找网络。请点击“刷新”再试一次，或直接输入名称。"_s;
     ListBed bed;
     bed.hostWiFi.tellsPermission = false;
     LogCollector log;
-    bed.enter();
-    QCOMPARE(bed.hostWiFi.scans, 0);
-    QVERIFY(!log.lines().contains(u"info: start loading"_s));
-    // The checker is gone: a permission that comes now reaches nobody.
+    bed.enter([&] { QCOMPARE(words(bed, "activeView"), u"正在等待系统许可…"_s); });
+    QCOMPARE(words(bed, "activeView"), QString());
+    QCOMPARE(words(bed, "listNote"), silence);
+    QVERIFY(bed.widget("updateButton")->hasFocus());
+    QCOMPARE(log.lines().filter(u"no answer within 5 seconds"_s).size(), 1);
+
+    // The checker is gone: a permission that comes now reaches nobody until Refresh asks again.
     bed.hostWiFi.changePermission(ScanPermission::Allowed);
     QCoreApplication::processEvents();
     QCOMPARE(bed.hostWiFi.scans, 0);
+    // One who types keeps the keyboard.
+    bed.type(bed.name(), u"Mine"_s);
+    bed.clickAndWait("updateButton", [&] { bed.name().setFocus(); });
+    QCOMPARE(words(bed, "listNote"), silence);
+    QVERIFY(bed.name().hasFocus());
+    bed.hostWiFi.tellsPermission = true;
+    bed.clickAndWait("updateButton");
+    QCOMPARE(bed.hostWiFi.scans, 1);
+    QCOMPARE(bed.shownNames().size(), 3);
+    QCOMPARE(words(bed, "listNote"), QString());
+
+    bed.hostWiFi.networks = std::vector<VisibleNetwork>{};
+    bed.clickAndWait("updateButton");
+    QCOMPARE(words(bed, "listNote"), u"没有找到网络。请点击“刷新”再找一次，或直接输入名称。"_s);
+}
+
+void WTWiFiListViewTest::settingsOpenFromTheAlert()
+{
+    ListBed bed(ScanPermission::Denied);
+    bed.enter();
+    bed.alert()->buttons().constFirst()->click();
+    QTRY_VERIFY(bed.desktop.panelWasOpened());
+    QCOMPARE(bed.shown(), QByteArray("WTStartView"));
+}
+
+void WTWiFiListViewTest::whatIsTypedDuringASearchStays()
+{
+    ListBed bed;
+    bed.enter();
+    bed.choose(2);
+    bed.hostWiFi.holdsScans = true;
+    bed.clickAndWait("updateButton", [&] {
+        QCOMPARE(bed.list().selectRow(), 0);
+        bed.type(bed.name(), u"Mine"_s);
+        bed.type(bed.password(), u"my password"_s);
+    });
+    bed.hostWiFi.answerScans();
+    QTRY_VERIFY(bed.list().enableRefresh());
+    QCOMPARE(bed.name().text(), u"Mine"_s);
+    QCOMPARE(bed.password().text(), u"my password"_s);
+    QVERIFY(bed.next().isEnabled());
 }
 
 void WTWiFiListViewTest::onlyRefreshReadsTheHostState()

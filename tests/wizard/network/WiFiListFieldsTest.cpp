@@ -27,6 +27,8 @@ private Q_SLOTS:
     void typing();
     void capsLockIsSaidBelowThePassword();
     void nextNeedsALegalName();
+    void hiddenCharactersShowAndStopNext();
+    void typingFindsANameWithBlanks();
     void choiceSurvivesForwardAndNotBack();
     void refusals_data();
     void refusals();
@@ -115,15 +117,45 @@ void WiFiListFieldsTest::nextNeedsALegalName()
     QVERIFY(!bed.next().isEnabled());
 }
 
+void WiFiListFieldsTest::hiddenCharactersShowAndStopNext()
+{
+    ListBed bed;
+    const QString hostile = u"Ca\nfe"_s;
+    bed.hostWiFi.networks = std::vector{ListBed::office, VisibleNetwork{hostile, 1, 60}};
+    bed.enter();
+    bed.choose(1);
+    QCOMPARE(bed.name().text(), u"Ca\\u000Afe"_s);
+    QCOMPARE(bed.list().selectedWiFi()->SSID, hostile);
+    QVERIFY(!bed.next().isEnabled());
+    QCOMPARE(bed.name().accessibleDescription(), u"名称含有控制字符，无法发送给打印机。"_s);
+    bed.type(bed.name(), u"Cafe"_s);
+    QVERIFY(bed.next().isEnabled());
+}
+
+void WiFiListFieldsTest::typingFindsANameWithBlanks()
+{
+    ListBed bed;
+    bed.hostWiFi.networks =
+        std::vector{ListBed::office, VisibleNetwork{u"My one"_s, 7, 60}, VisibleNetwork{u"My two"_s, 7, 50}};
+    bed.enter();
+    bed.rows().setFocus();
+    QTest::keyClicks(&bed.rows(), u"my t"_s);
+    QCOMPARE(bed.name().text(), u"My two"_s);
+    QCOMPARE(bed.password().accessibleDescription(), u"此网络需要密码，您还没有输入。"_s);
+}
+
 void WiFiListFieldsTest::choiceSurvivesForwardAndNotBack()
 {
     ListBed bed;
     bed.enter();
     bed.choose(2);
+    bed.click("btn_showPwd");
+    QCOMPARE(bed.password().echoMode(), QLineEdit::Normal);
     bed.list().backPreviousView(); // Not the back button: the choice stays.
     bed.hostWiFi.scans = 0;
     bed.click("netxtBtn");
     QCOMPARE(bed.list().selectRow(), 2);
+    QCOMPARE(bed.password().echoMode(), QLineEdit::Password);
     QCOMPARE(bed.name().text(), u"Cafe"_s);
     QCOMPARE(bed.hostWiFi.scans, 0);
 
