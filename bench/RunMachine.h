@@ -27,6 +27,8 @@ public:
         return answer;
     }
 
+    bool printerAnswers(const QString &, std::chrono::milliseconds) override { return true; }
+
     Samples questions;
 
 private:

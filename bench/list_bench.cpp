@@ -51,8 +51,8 @@ std::vector<VisibleNetwork> networks(int count)
 class ListScreen
 {
 public:
-    explicit ListScreen(const NetworkPorts &ports)
-        : m_screen(new WTWiFiListView(ports))
+    ListScreen(const NetworkPorts &ports, DesktopPort &desktop)
+        : m_screen(new WTWiFiListView(ports, desktop))
     {
         m_window.addScreen(m_screen);
         m_screen->awakeFromNib();
@@ -133,7 +133,7 @@ int main(int argc, char *argv[])
     WTApp::usePorts(hostWiFi, desktop, {});
     WTApp::shared().setAppLanguage(u"en"_s);
 
-    ListScreen list({hostWiFi, time, spooler});
+    ListScreen list({hostWiFi, time, spooler}, desktop);
     std::printf("Milliseconds from the arrival of the networks to painted rows, and for one step of scrolling; %zu and "
                 "%zu times each.\n\n"
                 "| networks | painted, median | longest | scrolled, median | longest |\n|---|---|---|---|---|\n",

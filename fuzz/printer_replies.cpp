@@ -45,7 +45,7 @@ Received exchange(SlicedWire &wire, quint16 command)
     AclRequest request;
     request.URI = deviceFromUsb(SlicedWire::printer()).URI;
     request.headSize = kACLHeadSize;
-    request.timeout = PrinterExchange::usualTimeout;
+    request.timeout = PrinterExchange::timeoutOf(PrinterCommand::address);
     request.headCallback = [&](const std::optional<QByteArray> &header, quint32 *dataLength, bool *stop) {
         ++received.heads;
         require(received.datas == 0, "the head callback comes first");

@@ -25,7 +25,7 @@ FOREIGN = {
     r"libusb": ["platform/usb"],
     r"cups/": ["platform/printing"],
     r"NetworkManager\.h|nm-|glib|gio/": ["platform/network"],
-    r"systemd/": ["log"],
+    r"systemd/": ["log", "platform/desktop"],
     r"QWidget|QMainWindow|QMessageBox|QPushButton|QLineEdit|QtWidgets": ["wizard", "main"],
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
@@ -60,7 +60,7 @@ def main():
             for pattern, rooms in FOREIGN.items():
                 if re.match(pattern, name) and room not in rooms:
                     faults.append(f"{place}: {name} belongs in {', '.join(rooms)} only")
-            if name.startswith("systemd/"):
+            if name == "systemd/sd-journal.h":
                 journal_users.add(str(path.relative_to(ROOT)))
     if len(journal_users) > 1:
         faults.append(f"the journal header is included in more than one file: {sorted(journal_users)}")

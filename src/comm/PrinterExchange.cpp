@@ -1,11 +1,36 @@
 #include "PrinterExchange.h"
 
 #include "Log.h"
+#include "PrinterCommand.h"
 
-void PrinterExchange::send(quint16 cmd, const QString &uri, const QByteArray &frame, std::chrono::milliseconds timeout,
+namespace
+{
+
+constexpr std::chrono::seconds usualTimeout{60};
+/// A tenth of the other commands' time: rousing a printer must not hold up a run.
+constexpr std::chrono::seconds wakeUpTimeout{6};
+/// The printer joins the network before it answers.
+constexpr std::chrono::seconds joinTimeout{180};
+
+} // namespace
+
+std::chrono::seconds PrinterExchange::timeoutOf(quint16 cmd)
+{
+    switch (cmd) {
+    case PrinterCommand::wakeUp:
+        return wakeUpTimeout;
+    case PrinterCommand::wifiConfiguration:
+        return joinTimeout;
+    default:
+        return usualTimeout;
+    }
+}
+
+void PrinterExchange::send(quint16 cmd, const QString &uri, const QByteArray &frame,
                            WTCUSBPrinter::HeadCallback headCallback, WTCUSBPrinter::DataCallback dataCallback)
 {
     logInfo("send ACL:0x%X, uri:%@, data:%@", cmd, uri, frame);
+    const std::chrono::milliseconds timeout = timeoutOf(cmd);
     WTCUSBPrinter::IOKit_sendACLWithURI(uri, frame, kACLHeadSize, static_cast<int>(timeout.count()),
                                         std::move(headCallback), std::move(dataCallback));
 }

@@ -13,7 +13,8 @@
 namespace PrinterExchange
 {
 
-inline constexpr std::chrono::seconds usualTimeout{60};
+/// How long a command may take, from its frame to the end of its reply.
+std::chrono::seconds timeoutOf(quint16 cmd);
 
 /// What the head callback of one send leaves for the callbacks after it.
 struct ReplyHead {
@@ -22,9 +23,9 @@ struct ReplyHead {
 };
 using KeptHead = std::shared_ptr<ReplyHead>;
 
-/// Logs the frame and sends it.
-void send(quint16 cmd, const QString &uri, const QByteArray &frame, std::chrono::milliseconds timeout,
-          WTCUSBPrinter::HeadCallback headCallback, WTCUSBPrinter::DataCallback dataCallback);
+/// Logs the frame and sends it; the command has the time that `timeoutOf` gives it.
+void send(quint16 cmd, const QString &uri, const QByteArray &frame, WTCUSBPrinter::HeadCallback headCallback,
+          WTCUSBPrinter::DataCallback dataCallback);
 
 /// The header, when it is whole and echoes `cmd`. A header of another length or, after a warning, for another command
 /// sets `stop`; an absent one does nothing.

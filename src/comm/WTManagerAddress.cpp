@@ -84,8 +84,7 @@ void answer(const QByteArray &data, const WTManager::AddressCallback &callBack)
 void WTManager::getIPAddressFromPrinter(const QString &uri, quint32, AddressCallback callBack)
 {
     const auto head = std::make_shared<PrinterExchange::ReplyHead>();
-    PrinterExchange::send(cmd, uri, WTCommand::PJLWithCMD(cmd, std::nullopt), PrinterExchange::usualTimeout,
-                          askForAnnouncedData(head),
+    PrinterExchange::send(cmd, uri, WTCommand::PJLWithCMD(cmd, std::nullopt), askForAnnouncedData(head),
                           [head, callBack = std::move(callBack)](const std::optional<QByteArray> &data,
                                                                  const std::optional<WTError> &error) {
                               onMainThread([head, data, error, callBack] {

@@ -16,8 +16,6 @@ using namespace std::chrono_literals;
 namespace
 {
 
-/// The printer joins the network before it answers.
-constexpr auto joinTimeout = 180s;
 /// What the printer needs to switch to its new network before it can be asked for its address.
 constexpr auto switchPause = 5s;
 
@@ -75,7 +73,7 @@ void WTManager::wifiConfigForPrinter(const QString &uri, quint32, const QString 
 
     constexpr quint16 cmd = PrinterCommand::wifiConfiguration;
     const auto head = std::make_shared<PrinterExchange::ReplyHead>();
-    PrinterExchange::send(cmd, uri, WTCommand::PJLWithCMD(cmd, payload), joinTimeout, keepHeaderOnly(head),
+    PrinterExchange::send(cmd, uri, WTCommand::PJLWithCMD(cmd, payload), keepHeaderOnly(head),
                           [head, callBack = std::move(callBack)](const std::optional<QByteArray> &data,
                                                                  const std::optional<WTError> &error) {
                               const ResultAnswer answer = judge(*head, data.has_value(), error);

@@ -9,14 +9,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace
-{
-
-/// A tenth of the other commands' time: rousing a printer must not hold up a run.
-constexpr std::chrono::seconds wakeUpTimeout{6};
-
-} // namespace
-
 void WTManager::wt_cmd(quint16 cmd, const std::optional<QByteArray> &header, const StatusCallback &callBack)
 {
     logInfo("send_cmd:0x%04X header data:%@", cmd, describeReplyHeader(header));
@@ -52,7 +44,7 @@ void WTManager::wt_wakeUpPrinter(const QString &uri, quint32 locationID, WakeUpC
 
     constexpr quint16 cmd = PrinterCommand::wakeUp;
     PrinterExchange::send(
-        cmd, uri, WTCommand::PJLWithCMD(cmd), wakeUpTimeout,
+        cmd, uri, WTCommand::PJLWithCMD(cmd),
         PrinterExchange::usualHeadCallback(cmd, std::make_shared<PrinterExchange::ReplyHead>()),
         [uri, complete = std::move(complete)](const std::optional<QByteArray> &data, const std::optional<WTError> &) {
             logInfo("ACL:0x%X, uri:%@, 最终返回 👉 data:%@", PrinterCommand::wakeUp, uri, describeReplyData(data));
@@ -69,8 +61,7 @@ void WTManager::checkWiFiCapabilityFromPrinter(const QString &uri, quint32 locat
     constexpr quint16 cmd = PrinterCommand::wifiCapability;
     const auto head = std::make_shared<PrinterExchange::ReplyHead>();
     PrinterExchange::send(
-        cmd, uri, WTCommand::PJLWithCMD(cmd, QByteArray{}), PrinterExchange::usualTimeout,
-        PrinterExchange::usualHeadCallback(cmd, head),
+        cmd, uri, WTCommand::PJLWithCMD(cmd, QByteArray{}), PrinterExchange::usualHeadCallback(cmd, head),
         [head, callBack = std::move(callBack)](const std::optional<QByteArray> &, const std::optional<WTError> &error) {
             onMainThread([head, error, callBack] {
                 if (error)

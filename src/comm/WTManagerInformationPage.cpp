@@ -41,8 +41,7 @@ void WTManager::printingWiFiInfoFromPrinter(const QString &uri, quint32, const Q
     constexpr quint16 cmd = PrinterCommand::informationPage;
     const QByteArray frame = informationPageFrame(shared().oldAclPrinter(model));
     const auto head = std::make_shared<PrinterExchange::ReplyHead>();
-    PrinterExchange::send(cmd, uri, WTCommand::PJLWithACLData(frame), PrinterExchange::usualTimeout,
-                          PrinterExchange::usualHeadCallback(cmd, head),
+    PrinterExchange::send(cmd, uri, WTCommand::PJLWithACLData(frame), PrinterExchange::usualHeadCallback(cmd, head),
                           [uri, head, callBack = std::move(callBack)](const std::optional<QByteArray> &data,
                                                                       const std::optional<WTError> &error) {
                               logOutcome(uri, data, error);

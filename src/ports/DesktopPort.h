@@ -1,5 +1,7 @@
 #pragma once
 
+#include "DeviceAccess.h"
+
 #include <QString>
 
 /// The desktop the program runs on: its panels and its description of the host.
@@ -21,4 +23,7 @@ public:
 
     /// Name and version of the operating system, as people say them.
     virtual QString operatingSystemVersion() = 0;
+
+    /// Whether this person may use the printers that are plugged into the computer, as far as the system tells.
+    virtual DeviceAccess deviceAccess() = 0;
 };

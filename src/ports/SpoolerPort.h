@@ -3,6 +3,8 @@
 #include "WTError.h"
 
 #include <QByteArray>
+#include <QString>
+#include <chrono>
 #include <optional>
 #include <vector>
 
@@ -13,7 +15,7 @@ struct PrintDestination {
     std::optional<QByteArray> printerState;
 };
 
-/// The host's print spooler.
+/// The host's print spooler, and its way to printers on the network.
 class SpoolerPort
 {
 public:
@@ -25,4 +27,8 @@ public:
 
     /// Why this host cannot ask any spooler; absent where it can.
     virtual std::optional<WTError> problem() { return std::nullopt; }
+
+    /// Whether a printer answers at this IP address on the port of the printing protocol (RFC 8010, 631). Blocks, but
+    /// not much longer than `atMost`.
+    virtual bool printerAnswers(const QString &address, std::chrono::milliseconds atMost) = 0;
 };

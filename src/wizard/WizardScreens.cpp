@@ -43,10 +43,10 @@ WizardScreens::WizardScreens(const ScreenPorts &ports, const ProcessEnd &process
 
     auto *unconnect = makeScreen<WTUnconnectView>(*m_window);
     const NetworkPorts networkPorts{ports.hostWiFi, ports.time, ports.spooler};
-    auto *wifiList = makeScreen<WTWiFiListView>(*m_window, networkPorts);
-    auto *manualAdd = makeScreen<WTNetworkWithManualAddition>(*m_window, ports.spooler);
+    auto *wifiList = makeScreen<WTWiFiListView>(*m_window, networkPorts, ports.desktop);
+    auto *manualAdd = makeScreen<WTNetworkWithManualAddition>(*m_window, ports.spooler, ports.desktop);
     auto *installing = makeScreen<WTInstallingView>(*m_window, ports);
-    auto *complete = makeScreen<WTCompleteView>(*m_window, ports.desktop);
+    auto *complete = makeScreen<WTCompleteView>(*m_window, ports.desktop, ports.spooler);
     auto *failed = makeScreen<WTFailedView>(*m_window);
     auto *configFailed = makeScreen<WTConfigFailedView>(*m_window);
     auto *wpsMethod = makeScreen<WTSetWPSMethodView>(*m_window);

@@ -71,6 +71,7 @@ class FakeDesktop : public DesktopPort
 {
 public:
     QString report;
+    DeviceAccess access;
     int reportCount = 0; ///< How often the report was asked for.
 
     QString addPrinterCommandLine() override { return QStringLiteral(":"); }
@@ -81,4 +82,5 @@ public:
         return report;
     }
     QString operatingSystemVersion() override { return QStringLiteral("Test System 1"); }
+    DeviceAccess deviceAccess() override { return access; }
 };

@@ -7,6 +7,8 @@ class FakeSpooler : public SpoolerPort
 {
 public:
     std::vector<PrintDestination> queues;
+    bool answers = true; ///< Every printer's address does.
 
     std::vector<PrintDestination> destinations() override { return queues; }
+    bool printerAnswers(const QString &, std::chrono::milliseconds) override { return answers; }
 };

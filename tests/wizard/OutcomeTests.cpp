@@ -1,6 +1,7 @@
 #include "LogCollector.h"
 #include "WTButton.h"
 #include "WTCompleteView.h"
+#include "WTConfigFailedView.h"
 #include "WTConfigStateInfoView.h"
 #include "WTFailedView.h"
 #include "WTHoverView.h"
@@ -9,6 +10,8 @@
 #include "WizardBed.h"
 
 #include <QAccessible>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QTest>
 #include <QTimer>
@@ -59,6 +62,9 @@ private Q_SLOTS:
     void completionOpensThePanelOnlyWhenTicked_data();
     void completionOpensThePanelOnlyWhenTicked();
     void failureScreenSaysWhatHappened();
+    void wayBackSaysWhy();
+    void completionShowsTheAddress_data();
+    void completionShowsTheAddress();
 };
 
 void OutcomeTests::wpsOutcome_data()
@@ -177,6 +183,52 @@ void OutcomeTests::failureScreenSaysWhatHappened()
     QCOMPARE(message->text(), u"配网失败"_s);
     QTimer::singleShot(0, &bed.window(), [&bed] { bed.click("complateBtn"); });
     QCOMPARE(QCoreApplication::exec(), 0);
+}
+
+void OutcomeTests::wayBackSaysWhy()
+{
+    WizardBed bed;
+    auto *failed = bed.screen<WTConfigFailedView>();
+    failed->setCause({.cause = u"It is held."_s, .advice = u"Close it."_s, .details = u"WTCOM 31"_s});
+    bed.window().setContentView(failed);
+    const auto text = [&](const char *name) { return qobject_cast<QLabel *>(bed.widget(name))->text(); };
+    QCOMPARE(text("cause"), u"It is held."_s);
+    QVERIFY(failed->findChildren<QLabel *>().contains(qobject_cast<QLabel *>(bed.widget("cause"))));
+    QVERIFY(!bed.widget("detailsLine")->isVisible());
+    QTest::mouseClick(bed.widget("details"), Qt::LeftButton);
+    QVERIFY(bed.widget("detailsLine")->isVisible());
+    bed.click("copyDetails");
+    QCOMPARE(QGuiApplication::clipboard()->text(), u"WTCOM 31"_s);
+
+    failed->setCause({});
+    QVERIFY(!bed.widget("cause")->isVisible() && !bed.widget("details")->isVisible());
+}
+
+void OutcomeTests::completionShowsTheAddress_data()
+{
+    QTest::addColumn<bool>("answers");
+    QTest::addColumn<QString>("said");
+    QTest::newRow("reached") << true << u"此电脑可以连上打印机。"_s;
+    QTest::newRow("kept apart") << false << u"访客网络"_s;
+}
+
+void OutcomeTests::completionShowsTheAddress()
+{
+    QFETCH(QString, said);
+    WizardBed bed;
+    QFETCH(bool, answers);
+    bed.spooler.answers = answers;
+    auto *complete = bed.screen<WTCompleteView>();
+    complete->setAddress(u"192.168.1.77"_s);
+    bed.window().setContentView(complete);
+    QCOMPARE(qobject_cast<QLabel *>(bed.widget("printerAddress"))->text(), u"192.168.1.77"_s);
+    const auto *reach = qobject_cast<QLabel *>(bed.widget("reach"));
+    QTRY_VERIFY(reach->text().contains(said));
+    bed.click("copyAddress");
+    QCOMPARE(QGuiApplication::clipboard()->text(), u"192.168.1.77"_s);
+
+    complete->setAddress({});
+    QVERIFY(!bed.widget("printerAddress")->isVisible());
 }
 
 QTEST_MAIN(OutcomeTests)

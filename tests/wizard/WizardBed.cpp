@@ -7,6 +7,7 @@
 #include "WTCServer.h"
 #include "WTC_WLAN.h"
 #include "WTManager.h"
+#include "askInBackground.h"
 #include "WTView.h"
 
 #include <QFile>
@@ -56,8 +57,8 @@ WizardBed::~WizardBed()
 {
     m_screens.reset();
     WTManager::shared().wt_stopDiscoverPrinter();
-    // The port must not be destroyed while a send still uses it.
-    waitFor([] { return SendWorkers::shared().isIdle(); });
+    // The port must not be destroyed while a send or a question still uses it.
+    waitFor([] { return SendWorkers::shared().isIdle() && isBackgroundIdle(); });
 }
 
 QByteArray WizardBed::shown()

@@ -11,5 +11,6 @@ struct DemoHost {
     std::vector<VisibleNetwork> networks;
     QString storedPassword; ///< Of the network that the computer is joined to.
     ScanPermission permission = ScanPermission::Unknown;
-    bool isPrinting = false; ///< The printer's queue is processing a job.
+    bool isPrinting = false;    ///< The printer's queue is processing a job.
+    bool reachesPrinter = true; ///< The printer answers at its new address.
 };

@@ -13,7 +13,7 @@ const QString noCommand = u":"_s;
 DemoMachine::DemoMachine(const PrinterScript &script, const DemoHost &host, const ModelIdentity &model, int speed)
     : m_time(speed)
     , m_usb(m_time, PrinterModel(model, script))
-    , m_spooler(host.isPrinting)
+    , m_spooler(host.isPrinting, host.reachesPrinter)
     , m_hostWiFi(m_time, host)
 {
 }

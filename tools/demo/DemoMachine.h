@@ -23,14 +23,17 @@ private:
     class OneQueueSpooler : public SpoolerPort
     {
     public:
-        explicit OneQueueSpooler(bool isPrinting)
+        OneQueueSpooler(bool isPrinting, bool reachesPrinter)
             : m_isPrinting(isPrinting)
+            , m_reachesPrinter(reachesPrinter)
         {
         }
         std::vector<PrintDestination> destinations() override;
+        bool printerAnswers(const QString &, std::chrono::milliseconds) override { return m_reachesPrinter; }
 
     private:
         const bool m_isPrinting;
+        const bool m_reachesPrinter;
     };
 
     class QuietDesktop : public DesktopPort
@@ -40,6 +43,7 @@ private:
         QString privacySettingsCommandLine() override;
         QString hostReport() override;
         QString operatingSystemVersion() override;
+        DeviceAccess deviceAccess() override { return {}; }
     };
 
     FasterTime m_time;

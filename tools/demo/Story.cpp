@@ -11,6 +11,8 @@ namespace
 
 const QString networkName = u"Quill House"_s;
 const QString password = u"seven grey geese"_s;
+constexpr quint16 wakeUpCommand = 0xFF21;
+constexpr quint16 capabilityCommand = 0xFF81;
 constexpr quint16 configurationCommand = 0xFF80;
 
 Act click(const QString &widget)
@@ -182,6 +184,35 @@ PrinterScript lostPrinter()
     return script;
 }
 
+PrinterScript printerWith(BusEvent::Action event)
+{
+    PrinterScript script = goodPrinter();
+    script.events = {{.action = event, .after = {}, .delay = 0s}};
+    return script;
+}
+
+/// A run that fails before the printer is told anything; the technical line is unfolded on the last screen.
+Story hopelessStory(const QString &name, const QString &summary, const PrinterScript &printer)
+{
+    Story story = typedStory(name, summary, printer,
+                             {ending(u"WTFailedView"_s, {click(u"details"_s), click(u"complateBtn"_s)})});
+    story.visits.erase(story.visits.begin() + 2); // The run may be over at once.
+    story.networkName.reset();
+    story.password.reset();
+    return story;
+}
+
+/// A printer that is on the bus and says nothing. Only a model that the catalogue does not know is asked first.
+Story asleepStory()
+{
+    PrinterScript printer = goodPrinter();
+    printer.faults = {{.command = wakeUpCommand, .silent = true}, {.command = capabilityCommand, .silent = true}};
+    Story story = hopelessStory(u"asleep"_s, u"The printer is asleep and answers nothing"_s, printer);
+    story.model.model = u"QZ200"_s;
+    story.visits.back().patience = 100s;
+    return story;
+}
+
 std::vector<Story> usbStories()
 {
     const std::vector<Act> finish{click(u"complateBtn"_s)};
@@ -226,6 +257,11 @@ std::vector<Story> usbStories()
         wifiOffStory(),
         typedStory(u"unplugged"_s, u"Someone pulls the cable while the printer joins"_s, unpluggedPrinter(),
                    {ending(u"WTFailedView"_s, finish)}),
+        hopelessStory(u"held"_s, u"Another program holds the printer; the screens say so"_s,
+                      printerWith(BusEvent::Action::Hold)),
+        hopelessStory(u"not-permitted-usb"_s, u"The computer does not let this user use the printer"_s,
+                      printerWith(BusEvent::Action::Deny)),
+        asleepStory(),
         typedStory(u"no-address"_s, u"The printer joins, but its network gives it no address"_s, lostPrinter(),
                    {ending(u"WTFailedView"_s, finish)}),
     };

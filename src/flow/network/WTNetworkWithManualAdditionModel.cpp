@@ -15,12 +15,12 @@ bool WTNetworkWithManualAdditionModel::isWorkingWithPrintType(const QString &pri
 }
 
 void WTNetworkWithManualAdditionModel::printInformationPage(const WTPrinterPtr &printer,
-                                                            const std::function<void()> &sent)
+                                                            const std::function<void(const ResultAnswer &)> &sent)
 {
     const auto print = [printer, sent] {
-        WTManager::printingWiFiInfoFromPrinter(printer->usbObj->URI(), printer->usbObj->locationID,
-                                               printer->printerType(),
-                                               [sent](const ResultAnswer &) { onMainThread(sent); });
+        WTManager::printingWiFiInfoFromPrinter(
+            printer->usbObj->URI(), printer->usbObj->locationID, printer->printerType(),
+            [sent](const ResultAnswer &answer) { onMainThread([sent, answer] { sent(answer); }); });
     };
     WTManager::wt_wakeUpPrinter(printer->usbObj->URI(), printer->usbObj->locationID,
                                 [print](bool, const std::optional<QString> &) { onMainThread(print); });

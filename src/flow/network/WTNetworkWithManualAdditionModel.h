@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PrinterAnswer.h"
 #include "WTPrinter.h"
 
 #include <functional>
@@ -15,9 +16,10 @@ public:
     /// Whether the printer's print queue is busy. Waits for the spooler.
     bool isWorkingWithPrintType(const QString &printType) const;
 
-    /// Wakes the printer and has it print its information page. `sent` runs on the main thread at the end, whatever the
-    /// printer answered.
-    static void printInformationPage(const WTPrinterPtr &printer, const std::function<void()> &sent);
+    /// Wakes the printer and has it print its information page. `sent` gets the printer's answer, on the main
+    /// thread.
+    static void printInformationPage(const WTPrinterPtr &printer,
+                                     const std::function<void(const ResultAnswer &)> &sent);
 
 private:
     SpoolerPort &m_spooler;

@@ -2,6 +2,7 @@
 
 #include "AlternateSignalStack.h"
 #include "DesktopPanels.h"
+#include "detectDeviceAccess.h"
 
 #include <QProcess>
 #include <QSysInfo>
@@ -59,4 +60,9 @@ QString LinuxDesktop::hostReport()
 QString LinuxDesktop::operatingSystemVersion()
 {
     return QSysInfo::prettyProductName();
+}
+
+DeviceAccess LinuxDesktop::deviceAccess()
+{
+    return detectDeviceAccess();
 }

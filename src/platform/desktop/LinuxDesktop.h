@@ -17,6 +17,7 @@ public:
     QString privacySettingsCommandLine() override;
     QString hostReport() override;
     QString operatingSystemVersion() override;
+    DeviceAccess deviceAccess() override;
 
 private:
     std::shared_future<QString> m_report;

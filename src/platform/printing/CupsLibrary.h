@@ -11,6 +11,8 @@ struct CupsLibrary {
     decltype(&::cupsGetDests2) getDests2;
     decltype(&::cupsFreeDests) freeDests;
     decltype(&::cupsGetOption) getOption;
+    decltype(&::httpConnect2) connect;
+    decltype(&::httpClose) close;
 
     /// An error on a host without libcups. Any thread.
     [[nodiscard]] static const WTResult<CupsLibrary> &load();

@@ -3,6 +3,7 @@
 #include "AlternateSignalStack.h"
 #include "CupsLibrary.h"
 
+#include <cerrno>
 #include <span>
 
 namespace
@@ -64,4 +65,23 @@ std::optional<WTError> CupsSpooler::problem()
 {
     const WTResult<CupsLibrary> &cups = CupsLibrary::load();
     return cups ? std::nullopt : std::optional(cups.error());
+}
+
+bool CupsSpooler::printerAnswers(const QString &address, std::chrono::milliseconds atMost)
+{
+    const WTResult<CupsLibrary> &cups = CupsLibrary::load();
+    // The "any" addresses mean this computer here, and no address at all in a printer's reply.
+    if (!cups || address == u"0.0.0.0" || address == u"::")
+        return false;
+    int cancel = 0;
+    constexpr int blocking = 1;
+    errno = 0;
+    http_t *const connection =
+        cups.value().connect(address.toLatin1().constData(), IPP_PORT, nullptr, AF_UNSPEC, HTTP_ENCRYPTION_IF_REQUESTED,
+                             blocking, static_cast<int>(atMost.count()), &cancel);
+    // A refusal comes from the printer, too: it is there, but does not speak this protocol.
+    if (!connection)
+        return errno == ECONNREFUSED;
+    cups.value().close(connection);
+    return true;
 }

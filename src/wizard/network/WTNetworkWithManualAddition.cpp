@@ -1,6 +1,8 @@
 #include "WTNetworkWithManualAddition.h"
 
 #include "ButtonSchemes.h"
+#include "CauseText.h"
+#include "DesktopPort.h"
 #include "EntryAlerts.h"
 #include "KSPasswordField.h"
 #include "Localized.h"
@@ -8,6 +10,8 @@
 #include "NetworkForm.h"
 #include "NetworkHint.h"
 #include "NetworkRules.h"
+#include "PrinterCommand.h"
+#include "PrinterNoteLabel.h"
 #include "ScreenFrame.h"
 #include "WTApp.h"
 #include "WTButton.h"
@@ -26,10 +30,12 @@ constexpr int formWidth = 560;
 
 } // namespace
 
-WTNetworkWithManualAddition::WTNetworkWithManualAddition(SpoolerPort &spooler, QWidget *parent)
+WTNetworkWithManualAddition::WTNetworkWithManualAddition(SpoolerPort &spooler, DesktopPort &desktop, QWidget *parent)
     : WTView(parent)
     , m_model(spooler)
+    , m_desktop(desktop)
     , m_frame(new ScreenFrame(this, WizardStep::Network))
+    , m_printerNote(new PrinterNoteLabel(desktop))
     , m_form(new NetworkForm(localized(u"与路由器上显示的名称完全一致，区分大小写。"_s), u"showPwdBtn"_s,
                              NetworkForm::Strength::Shown))
     , m_pwdFormatter(new WTCustomTextFieldFromatter(this))
@@ -51,10 +57,18 @@ void WTNetworkWithManualAddition::layOut()
     m_form->setMaximumWidth(formWidth);
 
     m_frame->setHeading(localized(u"输入无线网络"_s));
+    m_frame->content()->addWidget(m_printerNote);
+    m_frame->content()->addSpacing(8);
     m_frame->content()->addWidget(m_form);
     m_frame->setBackButton(m_previousBtn);
     m_frame->setMainButton(m_nextBtn);
     m_frame->addToBar(m_printWiFiHomePage);
+}
+
+void WTNetworkWithManualAddition::setPrinter(const WTPrinterPtr &printer)
+{
+    m_printer = printer;
+    m_printerNote->setPrinter(printer);
 }
 
 void WTNetworkWithManualAddition::awakeFromNib()
@@ -132,10 +146,20 @@ void WTNetworkWithManualAddition::printWiFiList()
         logWarning("printer is busy now");
         return;
     }
-    m_model.printInformationPage(m_printer, [window = QPointer(window())] {
-        if (window)
-            EntryAlerts::showNote(window, localized(u"已将无线网络信息页发送给打印机"_s));
+    m_model.printInformationPage(m_printer, [screen = QPointer(this)](const ResultAnswer &answer) {
+        if (screen)
+            screen->showPageSent(answer);
     });
+}
+
+void WTNetworkWithManualAddition::showPageSent(const ResultAnswer &answer)
+{
+    const QString sent = localized(u"已将无线网络信息页发送给打印机"_s);
+    const CauseText told = answer.cause
+                               ? causeText(*answer.cause, PrinterCommand::informationPage, m_desktop.deviceAccess())
+                               : CauseText{};
+    EntryAlerts::showNote(window(),
+                          told.cause.isEmpty() ? sent : QStringList{sent, told.cause, told.advice}.join(u"\n\n"));
 }
 
 void WTNetworkWithManualAddition::showIsworkingAlert()

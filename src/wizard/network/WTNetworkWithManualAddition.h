@@ -3,7 +3,9 @@
 #include "WTNetworkWithManualAdditionModel.h"
 #include "WTView.h"
 
+class DesktopPort;
 class NetworkForm;
+class PrinterNoteLabel;
 class ScreenFrame;
 class WTButton;
 class WTCustomTextFieldFromatter;
@@ -18,10 +20,10 @@ class WTNetworkWithManualAddition : public WTView
     Q_OBJECT
 
 public:
-    explicit WTNetworkWithManualAddition(SpoolerPort &spooler, QWidget *parent = nullptr);
+    WTNetworkWithManualAddition(SpoolerPort &spooler, DesktopPort &desktop, QWidget *parent = nullptr);
 
     /// Set by the screen that pushes this one.
-    void setPrinter(const WTPrinterPtr &printer) { m_printer = printer; }
+    void setPrinter(const WTPrinterPtr &printer);
     WTPrinterPtr printer() const { return m_printer; }
     void setInstallingView(WTInstallingView *view) { m_installingView = view; }
 
@@ -51,11 +53,14 @@ public:
 
 private:
     void layOut();
+    void showPageSent(const ResultAnswer &answer);
 
     WTNetworkWithManualAdditionModel m_model;
+    DesktopPort &m_desktop;
     WTPrinterPtr m_printer;
     WTInstallingView *m_installingView = nullptr;
     ScreenFrame *m_frame;
+    PrinterNoteLabel *m_printerNote;
     NetworkForm *m_form;
     WTCustomTextFieldFromatter *m_pwdFormatter;
     WTDefaultStyleBtn *m_nextBtn;

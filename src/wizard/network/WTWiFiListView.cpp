@@ -10,6 +10,7 @@
 #include "NetworkListPanel.h"
 #include "NetworkRows.h"
 #include "PermissionAnswer.h"
+#include "PrinterNoteLabel.h"
 #include "ScreenFrame.h"
 #include "WTApp.h"
 #include "WTButton.h"
@@ -34,9 +35,11 @@ constexpr int columnGap = 32;
 
 } // namespace
 
-WTWiFiListView::WTWiFiListView(const NetworkPorts &ports, QWidget *parent)
+WTWiFiListView::WTWiFiListView(const NetworkPorts &ports, DesktopPort &desktop, QWidget *parent)
     : WTView(parent)
+    , m_desktop(desktop)
     , m_viewModel(new WTWiFiListViewModel(ports, this))
+    , m_printerNote(new PrinterNoteLabel(desktop))
     , m_rows(new NetworkRows(this))
     , m_panel(new NetworkListPanel(m_rows))
     , m_wifiListView(m_panel->list())
@@ -69,10 +72,18 @@ void WTWiFiListView::layOut()
     auto *frame = new ScreenFrame(this, WizardStep::Network);
     frame->setHeading(localized(u"选择无线网络"_s));
     frame->setInstruction(localized(u"请选择打印机要连接的网络，并输入它的密码。"_s));
+    frame->content()->addWidget(m_printerNote);
+    frame->content()->addSpacing(8);
     frame->content()->addLayout(columns, 1);
     frame->setBackButton(m_previous);
     frame->setMainButton(m_nextBtn);
     frame->addToBar(m_updateButton);
+}
+
+void WTWiFiListView::setPrinter(const WTPrinterPtr &printer)
+{
+    m_printer = printer;
+    m_printerNote->setPrinter(printer);
 }
 
 void WTWiFiListView::awakeFromNib()
@@ -302,7 +313,7 @@ void WTWiFiListView::showLocationAlert()
     showAlert(window(), alert, [this](int response) {
         m_asksForLocation = false;
         if (response == alertFirstButtonReturn)
-            WTCommand::executeShellScript(WTApp::shared().desktop().privacySettingsCommandLine());
+            WTCommand::executeShellScript(m_desktop.privacySettingsCommandLine());
         back();
     });
 }

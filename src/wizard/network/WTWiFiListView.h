@@ -4,9 +4,11 @@
 #include "WTView.h"
 #include "WTWiFiListViewModel.h"
 
+class DesktopPort;
 class NetworkForm;
 class NetworkListPanel;
 class NetworkRows;
+class PrinterNoteLabel;
 class WTButton;
 class WTDefaultStyleBtn;
 class WTInstallingView;
@@ -20,9 +22,9 @@ class WTWiFiListView : public WTView
     Q_OBJECT
 
 public:
-    explicit WTWiFiListView(const NetworkPorts &ports, QWidget *parent = nullptr);
+    WTWiFiListView(const NetworkPorts &ports, DesktopPort &desktop, QWidget *parent = nullptr);
 
-    void setPrinter(const WTPrinterPtr &printer) { m_printer = printer; }
+    void setPrinter(const WTPrinterPtr &printer);
     WTPrinterPtr printer() const { return m_printer; }
     void setInstallingView(WTInstallingView *view) { m_installingView = view; }
 
@@ -72,6 +74,7 @@ private:
     void nameEdited();
     void logMaximumLength();
 
+    DesktopPort &m_desktop;
     WTPrinterPtr m_printer;
     WTInstallingView *m_installingView = nullptr;
     WTWiFiListViewModel *m_viewModel;
@@ -80,6 +83,7 @@ private:
     /// The refresh button gets the keyboard back: it lost it to the list when it was disabled.
     bool m_returnsKeyboard = false;
 
+    PrinterNoteLabel *m_printerNote;
     NetworkRows *m_rows;
     NetworkListPanel *m_panel;
     WTListView *m_wifiListView;

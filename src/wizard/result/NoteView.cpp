@@ -10,17 +10,17 @@ using namespace Qt::Literals::StringLiterals;
 
 NoteView::NoteView(WizardStep step, const Texts &texts, QWidget *parent)
     : WTView(parent)
+    , m_panel(new ResultPanel(texts.pictureName))
     , m_previous(new WTButton)
 {
     m_previous->setObjectName(u"previous"_s);
     m_previous->setTitle(localized(u"上一步"_s));
 
-    auto *panel = new ResultPanel(texts.pictureName);
-    panel->setMessage(texts.message);
-    panel->setAdvice(texts.advice);
+    m_panel->setMessage(texts.message);
+    m_panel->setAdvice(texts.advice);
     auto *frame = new ScreenFrame(this, step);
     frame->setHeading(texts.heading);
-    frame->content()->addWidget(panel);
+    frame->content()->addWidget(m_panel);
     frame->content()->addStretch(1);
     frame->setBackButton(m_previous);
     frame->setFirstFocus(m_previous);

@@ -3,6 +3,7 @@
 #include "StepMarks.h"
 #include "WTView.h"
 
+class ResultPanel;
 class WTButton;
 
 /// What the two result screens share that lead nowhere but back: what happened, and what one can do about it.
@@ -23,8 +24,10 @@ protected:
 
     NoteView(WizardStep step, const Texts &texts, QWidget *parent);
 
+    ResultPanel *panel() const { return m_panel; }
     WTButton *previousButton() const { return m_previous; }
 
 private:
+    ResultPanel *m_panel;
     WTButton *m_previous;
 };

@@ -1,5 +1,6 @@
 #include "ResultPanel.h"
 
+#include "DetailsView.h"
 #include "LiveLabel.h"
 #include "Localized.h"
 #include "Palette.h"
@@ -20,6 +21,7 @@ namespace
 
 constexpr QSize markSize{96, 96};
 constexpr int markGap = 32;
+constexpr int causeGap = 8;
 constexpr int widestText = 560;
 
 /// A label with one link that people reach by Tab. The toolkit gives the keyboard to the label at the first Tab and
@@ -49,7 +51,9 @@ QString folderLink(const QString &logPath)
 ResultPanel::ResultPanel(const QString &markName, QWidget *parent)
     : QWidget(parent)
     , m_message(new LiveLabel({}, TextStyle::Size::Large, Palette::heading))
+    , m_cause(new LiveLabel({}, TextStyle::Size::Body, Palette::heading))
     , m_advice(TextStyle::makeLabel({}, TextStyle::Size::Body, Palette::label))
+    , m_details(new DetailsView)
     , m_log(new LinkLabel)
     , m_texts(new QVBoxLayout)
 {
@@ -57,6 +61,10 @@ ResultPanel::ResultPanel(const QString &markName, QWidget *parent)
     m_message->setFont(TextStyle::font(TextStyle::Size::Large, QFont::DemiBold));
     auto *adviceTitle = TextStyle::makeLabel(localized(u"您可以这样做"_s), TextStyle::Size::Body, Palette::heading);
     adviceTitle->setFont(TextStyle::font(TextStyle::Size::Body, QFont::DemiBold));
+    m_cause->setObjectName(u"cause"_s);
+    m_cause->setContentsMargins(0, causeGap, 0, 0);
+    setCause({});
+    setDetails({});
     m_log->setObjectName(u"logFolder"_s);
     TextStyle::apply(*m_log, TextStyle::Size::Small, Palette::label);
     m_log->setTextFormat(Qt::RichText);
@@ -69,11 +77,13 @@ ResultPanel::ResultPanel(const QString &markName, QWidget *parent)
     m_texts->setSpacing(0);
     column->setLayout(m_texts);
     m_texts->addWidget(m_message);
+    m_texts->addWidget(m_cause);
     m_texts->addSpacing(24);
     m_texts->addWidget(adviceTitle);
     m_texts->addSpacing(8);
     m_texts->addWidget(m_advice);
     m_texts->addSpacing(24);
+    m_texts->addWidget(m_details);
     m_texts->addWidget(m_log);
 
     auto *layout = new QHBoxLayout(this);
@@ -99,9 +109,20 @@ void ResultPanel::setAdvice(const QString &text)
     m_advice->setText(text);
 }
 
-void ResultPanel::addCheckBox(QWidget *checkBox)
+void ResultPanel::setCause(const QString &text)
 {
-    m_texts->insertWidget(m_texts->indexOf(m_log), checkBox);
+    m_cause->setText(text);
+    m_cause->setVisible(!text.isEmpty());
+}
+
+void ResultPanel::setDetails(const QString &line)
+{
+    m_details->setLine(line);
+}
+
+void ResultPanel::addBelow(QWidget *part)
+{
+    m_texts->insertWidget(m_texts->indexOf(m_details), part);
 }
 
 void ResultPanel::showEvent(QShowEvent *)

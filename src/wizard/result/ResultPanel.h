@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class DetailsView;
 class LiveLabel;
 class QLabel;
 class QVBoxLayout;
@@ -18,8 +19,12 @@ public:
     void setMessage(const QString &text);
     QString message() const;
     void setAdvice(const QString &text);
-    /// Puts a check box of the screen below the advice.
-    void addCheckBox(QWidget *checkBox);
+    /// Why it happened, below the message; spoken as well. An empty text leaves no gap.
+    void setCause(const QString &text);
+    /// One technical line that the person may unfold; none for an empty one.
+    void setDetails(const QString &line);
+    /// Puts a part of the screen's own below the advice.
+    void addBelow(QWidget *part);
     /// Whether the link to the log's folder is shown; it is by default, if there is a log.
     void setShowsLogFolder(bool shows) { m_showsLogFolder = shows; }
 
@@ -28,7 +33,9 @@ protected:
 
 private:
     LiveLabel *m_message;
+    LiveLabel *m_cause;
     QLabel *m_advice;
+    DetailsView *m_details;
     QLabel *m_log;
     QVBoxLayout *m_texts;
     bool m_showsLogFolder = true;

@@ -1,5 +1,6 @@
 #include "WTCompleteView.h"
 
+#include "AddressPanel.h"
 #include "ButtonSchemes.h"
 #include "DesktopPort.h"
 #include "Localized.h"
@@ -12,10 +13,11 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-WTCompleteView::WTCompleteView(DesktopPort &desktop, QWidget *parent)
+WTCompleteView::WTCompleteView(DesktopPort &desktop, SpoolerPort &spooler, QWidget *parent)
     : WTView(parent)
     , m_desktop(desktop)
     , m_title(new ResultPanel(u"success"_s))
+    , m_address(new AddressPanel(spooler))
     , m_addPrinter(new WTButton)
     , m_complateBtn(new WTButton)
 {
@@ -29,7 +31,8 @@ WTCompleteView::WTCompleteView(DesktopPort &desktop, QWidget *parent)
 
     m_title->setAdvice(localized(
         u"现在可以拔掉USB数据线了。要在这台电脑上打印，请把打印机添加到系统：勾选下面的选项，然后点击“完成并退出”。"_s));
-    m_title->addCheckBox(m_addPrinter);
+    m_title->addBelow(m_address);
+    m_title->addBelow(m_addPrinter);
     m_title->setShowsLogFolder(false);
     auto *frame = new ScreenFrame(this, WizardStep::Done);
     frame->setHeading(localized(u"打印机已连上无线网络"_s));
@@ -45,6 +48,11 @@ void WTCompleteView::awakeFromNib()
     m_title->setMessage(localized(u"恭喜，您完成了无线网络配置！"_s));
     ButtonSchemes::applyRed(*m_complateBtn);
     ButtonSchemes::applyCheckBox(*m_addPrinter);
+}
+
+void WTCompleteView::setAddress(const QString &address)
+{
+    m_address->setAddress(address);
 }
 
 void WTCompleteView::addPrinterNow()

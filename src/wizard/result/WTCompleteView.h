@@ -2,8 +2,10 @@
 
 #include "WTView.h"
 
+class AddressPanel;
 class DesktopPort;
 class ResultPanel;
+class SpoolerPort;
 class WTButton;
 
 /// The printer is on the network. Offers to open the desktop's add-printer panel, then ends the application.
@@ -12,9 +14,12 @@ class WTCompleteView : public WTView
     Q_OBJECT
 
 public:
-    explicit WTCompleteView(DesktopPort &desktop, QWidget *parent = nullptr);
+    WTCompleteView(DesktopPort &desktop, SpoolerPort &spooler, QWidget *parent = nullptr);
 
     void awakeFromNib() override;
+
+    /// The address that the printer obtained; empty where it is not known. Set before this screen is pushed.
+    void setAddress(const QString &address);
 
     bool isSelectFlag() const { return m_isSelectFlag; }
 
@@ -24,6 +29,7 @@ public:
 private:
     DesktopPort &m_desktop;
     ResultPanel *m_title;
+    AddressPanel *m_address;
     WTButton *m_addPrinter;
     WTButton *m_complateBtn;
     bool m_isSelectFlag = false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CauseText.h"
 #include "NoteView.h"
 
 /// The printer did not take the configuration. The way back leads past the run to the screen before it.
@@ -9,6 +10,9 @@ class WTConfigFailedView : public NoteView
 
 public:
     explicit WTConfigFailedView(QWidget *parent = nullptr);
+
+    /// Set before this screen is pushed; without a cause the screen gives its general advice.
+    void setCause(const CauseText &cause);
 
     void backAction();
 };

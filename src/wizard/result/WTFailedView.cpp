@@ -45,7 +45,9 @@ void WTFailedView::ff_judgeError()
     const FailureText failure = failureText(m_showInterfaceError, m_showWiFiCapabilityError,
                                             static_cast<CapabilityReason>(m_wifiCapabilityError));
     m_errorMessage->setMessage(localized(failure.text));
-    m_errorMessage->setAdvice(localized(failure.advice));
+    m_errorMessage->setCause(m_cause.cause);
+    m_errorMessage->setAdvice(m_cause.advice.isEmpty() ? localized(failure.advice) : m_cause.advice);
+    m_errorMessage->setDetails(m_cause.details);
 }
 
 void WTFailedView::backAction()

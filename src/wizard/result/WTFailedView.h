@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CauseText.h"
 #include "WTView.h"
 
 class ResultPanel;
@@ -24,7 +25,10 @@ public:
     void setWifiCapabilityError(quint64 code) { m_wifiCapabilityError = code; }
     quint64 wifiCapabilityError() const { return m_wifiCapabilityError; }
 
-    /// Shows the text that the three values above choose.
+    /// Set before this screen is pushed, each time.
+    void setCause(const CauseText &cause) { m_cause = cause; }
+
+    /// Shows the text that the three values above choose, and the cause.
     void ff_judgeError();
     void backAction();
 
@@ -34,4 +38,5 @@ private:
     bool m_showInterfaceError = false;
     bool m_showWiFiCapabilityError = false;
     quint64 m_wifiCapabilityError = 0;
+    CauseText m_cause;
 };

@@ -1,5 +1,7 @@
 #include "WTInstallingView.h"
 
+#include "CauseText.h"
+#include "DesktopPort.h"
 #include "LiveLabel.h"
 #include "Localized.h"
 #include "Palette.h"
@@ -27,6 +29,7 @@ constexpr QSize pictureSize{248, 112};
 
 WTInstallingView::WTInstallingView(const ScreenPorts &ports, QWidget *parent)
     : WTView(parent)
+    , m_desktop(ports.desktop)
     , m_run(new WTConfigurationRun(ports.time, ports.host.canPollAddress, this))
     , m_progressView(new WTProgressView)
     , m_progressLabel(new LiveLabel({}, TextStyle::Size::Body, Palette::label))
@@ -191,8 +194,12 @@ void WTInstallingView::showOutcome(const RunOutcome &outcome)
         m_failedView->setShowWiFiCapabilityError(*outcome.showWiFiCapabilityError);
     if (outcome.wifiCapabilityError)
         m_failedView->setWifiCapabilityError(static_cast<quint64>(*outcome.wifiCapabilityError));
+    const CauseText cause = outcome.cause ? causeText(*outcome.cause, m_desktop.deviceAccess()) : CauseText{};
+    m_failedView->setCause(cause);
+    m_configFailedView->setCause(cause);
     switch (outcome.screen) {
     case RunOutcome::Screen::Complete:
+        m_completeView->setAddress(m_run->printer()->ip);
         pushView(m_completeView);
         break;
     case RunOutcome::Screen::Failed:

@@ -8,6 +8,7 @@
 
 #include <optional>
 
+class DesktopPort;
 class LiveLabel;
 class QLabel;
 class WTCompleteView;
@@ -67,6 +68,7 @@ private:
     void showUnanswered();
     void showOutcome(const RunOutcome &outcome);
 
+    DesktopPort &m_desktop;
     WTConfigurationRun *m_run;
     WTProgressView *m_progressView;
     LiveLabel *m_progressLabel;

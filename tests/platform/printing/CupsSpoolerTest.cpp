@@ -12,6 +12,7 @@
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace
 {
@@ -66,6 +67,7 @@ private Q_SLOTS:
     void tellsAPrintingPrinterFromAnIdleOne();
     void answersNothingAtOnceWhereNobodyListens_data() { addConnectionRows(); }
     void answersNothingAtOnceWhereNobodyListens();
+    void tellsWhetherAPrinterIsThere();
     void aSpoolerThatNeverAnswersCountsAsIdle();
 
 private:
@@ -139,6 +141,15 @@ void CupsSpoolerTest::aSpoolerThatNeverAnswersCountsAsIdle()
     QVERIFY2(milliseconds >= 2000 && milliseconds < 10000, qPrintable(QString::number(milliseconds)));
     QCOMPARE(log.lines().constLast(),
              u"warning: The print spooler has not answered for 2 s; the printer counts as idle."_s);
+}
+
+/// This computer refuses connections to its other loopback addresses, as a printer without the protocol does.
+void CupsSpoolerTest::tellsWhetherAPrinterIsThere()
+{
+    CupsSpooler spooler{{}};
+    QVERIFY(spooler.printerAnswers(u"127.0.0.77"_s, 1s));
+    QVERIFY(!spooler.printerAnswers(u"0.0.0.0"_s, 1s));
+    QVERIFY(!spooler.printerAnswers(u"no address"_s, 1s));
 }
 
 QTEST_GUILESS_MAIN(CupsSpoolerTest)

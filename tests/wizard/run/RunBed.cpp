@@ -3,6 +3,7 @@
 #include "SendWorkers.h"
 #include "WTCServer.h"
 #include "WTManager.h"
+#include "askInBackground.h"
 
 RunBed::RunBed(VirtualTime &time, const PrinterScript &script)
     : RunBed(
@@ -34,10 +35,10 @@ RunBed::RunBed(TimePort &time, Wait wait, const PrinterScript &script, const Mod
 
 RunBed::~RunBed()
 {
-    // The port must not be destroyed while a send still uses it. Unplugging the printer ends all sends.
+    // The port must not be destroyed while a send or a question still uses it. Unplugging the printer ends all sends.
     if (m_bus.isPlugged())
         m_bus.unplug();
-    m_wait(m_bus, [] { return SendWorkers::shared().isIdle(); });
+    m_wait(m_bus, [] { return SendWorkers::shared().isIdle() && isBackgroundIdle(); });
 }
 
 bool RunBed::waitFor(const std::function<bool()> &done)

@@ -1,0 +1,23 @@
+#include "PrinterNote.h"
+
+#include "CauseText.h"
+#include "Localized.h"
+#include "PrinterCommand.h"
+#include "TextFormat.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+PrinterNote printerNote(const QString &printer, const QString &serialNumber, qsizetype count,
+                        const std::optional<WTError> &obstacle, const DeviceAccess &access)
+{
+    if (obstacle) {
+        const CauseText told = causeText(*obstacle, PrinterCommand::wakeUp, access);
+        if (!told.cause.isEmpty())
+            return {.text = printer + u": "_s + told.cause + u' ' + told.advice, .isWarning = true};
+    }
+    if (count < 2)
+        return {.text = printer};
+    const QString name = serialNumber.isEmpty() ? printer : printer + u", "_s + serialNumber;
+    return {.text = formatText(localized(u"已连接 %d 台打印机，将配置“%@”。要配置另一台，请先拔下这一台。"_s),
+                               {count, name})};
+}
