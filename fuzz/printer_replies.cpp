@@ -41,7 +41,7 @@ Received exchange(SlicedWire &wire, quint16 command)
     LibraryLog log;
     DeviceTurns turns;
     Received received;
-    const auto judge = PrinterExchange::usualHeadCallback(command, nullptr);
+    const auto judge = PrinterExchange::usualHeadCallback(command, std::make_shared<PrinterExchange::ReplyHead>());
     AclRequest request;
     request.URI = deviceFromUsb(SlicedWire::printer()).URI;
     request.headSize = kACLHeadSize;

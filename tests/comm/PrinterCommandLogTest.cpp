@@ -122,7 +122,7 @@ void PrinterCommandLogTest::sendsNoConfigurationThatDoesNotFit()
     QCOMPARE(m_bench.bed.record().count(0xFF80), framesBefore);
     const QStringList lines = log.lines();
     QCOMPARE(lines.size(), 2);
-    QCOMPARE(lines.first(), u"error: dirty data👉🏻ssid: \n"_s);
+    QCOMPARE(lines.first(), u"error: dirty data👉🏻ssid: \\u000A"_s);
     QVERIFY(lines.last().startsWith("error: "_L1));
     QVERIFY(!tellsSecret(lines));
 }

@@ -57,6 +57,8 @@ void press(WizardBed &bed, const Stroke &stroke)
         const auto end = bed.time().now() + 5s;
         QTimer::singleShot(0, &bed.window(), [&bed, end] { bed.waitFor([&] { return bed.time().now() >= end; }); });
     }
+    // No finger lifts for less time between two strokes; a shorter pause is a held key.
+    QTest::qSleep(10);
     QTest::keyClick(bed.window().windowHandle(), stroke.key);
 }
 

@@ -13,6 +13,7 @@ struct CupsLibrary {
     decltype(&::cupsGetOption) getOption;
     decltype(&::httpConnect2) connect;
     decltype(&::httpClose) close;
+    decltype(&::ippPort) port;
 
     /// An error on a host without libcups. Any thread.
     [[nodiscard]] static const WTResult<CupsLibrary> &load();

@@ -3,7 +3,6 @@
 #include "AlternateSignalStack.h"
 #include "CupsLibrary.h"
 
-#include <cerrno>
 #include <span>
 
 namespace
@@ -75,13 +74,9 @@ bool CupsSpooler::printerAnswers(const QString &address, std::chrono::millisecon
         return false;
     int cancel = 0;
     constexpr int blocking = 1;
-    errno = 0;
     http_t *const connection =
-        cups.value().connect(address.toLatin1().constData(), IPP_PORT, nullptr, AF_UNSPEC, HTTP_ENCRYPTION_IF_REQUESTED,
-                             blocking, static_cast<int>(atMost.count()), &cancel);
-    // A refusal comes from the printer, too: it is there, but does not speak this protocol.
-    if (!connection)
-        return errno == ECONNREFUSED;
+        cups.value().connect(address.toLatin1().constData(), cups.value().port(), nullptr, AF_UNSPEC,
+                             HTTP_ENCRYPTION_IF_REQUESTED, blocking, static_cast<int>(atMost.count()), &cancel);
     cups.value().close(connection);
-    return true;
+    return connection != nullptr;
 }

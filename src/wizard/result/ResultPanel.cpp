@@ -53,7 +53,6 @@ ResultPanel::ResultPanel(const QString &markName, QWidget *parent)
     , m_message(new LiveLabel({}, TextStyle::Size::Large, Palette::heading))
     , m_cause(new LiveLabel({}, TextStyle::Size::Body, Palette::heading))
     , m_advice(TextStyle::makeLabel({}, TextStyle::Size::Body, Palette::label))
-    , m_details(new DetailsView)
     , m_log(new LinkLabel)
     , m_texts(new QVBoxLayout)
 {
@@ -64,7 +63,6 @@ ResultPanel::ResultPanel(const QString &markName, QWidget *parent)
     m_cause->setObjectName(u"cause"_s);
     m_cause->setContentsMargins(0, causeGap, 0, 0);
     setCause({});
-    setDetails({});
     m_log->setObjectName(u"logFolder"_s);
     TextStyle::apply(*m_log, TextStyle::Size::Small, Palette::label);
     m_log->setTextFormat(Qt::RichText);
@@ -83,7 +81,6 @@ ResultPanel::ResultPanel(const QString &markName, QWidget *parent)
     m_texts->addSpacing(8);
     m_texts->addWidget(m_advice);
     m_texts->addSpacing(24);
-    m_texts->addWidget(m_details);
     m_texts->addWidget(m_log);
 
     auto *layout = new QHBoxLayout(this);
@@ -117,12 +114,16 @@ void ResultPanel::setCause(const QString &text)
 
 void ResultPanel::setDetails(const QString &line)
 {
+    if (!m_details) {
+        m_details = new DetailsView;
+        m_texts->insertWidget(m_texts->indexOf(m_log), m_details);
+    }
     m_details->setLine(line);
 }
 
 void ResultPanel::addBelow(QWidget *part)
 {
-    m_texts->insertWidget(m_texts->indexOf(m_details), part);
+    m_texts->insertWidget(m_texts->indexOf(m_log), part);
 }
 
 void ResultPanel::showEvent(QShowEvent *)

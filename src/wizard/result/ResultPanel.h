@@ -35,7 +35,7 @@ private:
     LiveLabel *m_message;
     LiveLabel *m_cause;
     QLabel *m_advice;
-    DetailsView *m_details;
+    DetailsView *m_details = nullptr; ///< Made when there are some.
     QLabel *m_log;
     QVBoxLayout *m_texts;
     bool m_showsLogFolder = true;

@@ -214,7 +214,7 @@ void FaultMatrixTests::walk(const FaultCase &faultCase, Entry entry)
     const auto pause = bed.time().after(2s, [&isOver] { isOver = true; });
     QVERIFY(bed.waitFor([&isOver] { return isOver; }));
     if (faultCase.place == FaultPlace::InformationPage)
-        QCOMPARE(person.askForInformationPage(), u"已将无线网络信息页发送给打印机"_s);
+        QVERIFY(person.askForInformationPage().startsWith(u"已将无线网络信息页发送给打印机"_s));
     for (int refusal = 0; refusal < faultCase.refusals; ++refusal) {
         QVERIFY(person.run());
         QCOMPARE(person.seen(), expectedAt(Ending::ConfigFailed));
