@@ -7,8 +7,8 @@
 #include "WTCServer.h"
 #include "WTC_WLAN.h"
 #include "WTManager.h"
-#include "askInBackground.h"
 #include "WTView.h"
+#include "askInBackground.h"
 
 #include <QFile>
 #include <QTest>

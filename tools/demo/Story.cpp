@@ -194,8 +194,8 @@ PrinterScript printerWith(BusEvent::Action event)
 /// A run that fails before the printer is told anything; the technical line is unfolded on the last screen.
 Story hopelessStory(const QString &name, const QString &summary, const PrinterScript &printer)
 {
-    Story story = typedStory(name, summary, printer,
-                             {ending(u"WTFailedView"_s, {click(u"details"_s), click(u"complateBtn"_s)})});
+    Story story =
+        typedStory(name, summary, printer, {ending(u"WTFailedView"_s, {click(u"details"_s), click(u"complateBtn"_s)})});
     story.visits.erase(story.visits.begin() + 2); // The run may be over at once.
     story.networkName.reset();
     story.password.reset();

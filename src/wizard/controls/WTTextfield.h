@@ -15,8 +15,8 @@ public:
     /// readers call it when the user tells them what to write.
     void showText(const QString &text);
     /// `showText` in answer to a change by the user, which it takes back in part or in whole. When `text` is what stood
-    /// there before, cursor and selection are as they were before, so that a refused key changes nothing; else the cursor
-    /// stays where it is. Does nothing when the field shows `text` already, so that the undo history is kept.
+    /// there before, cursor and selection are as they were before, so that a refused key changes nothing; else the
+    /// cursor stays where it is. Does nothing when the field shows `text` already, so that the undo history is kept.
     void putBack(const QString &text);
 
 Q_SIGNALS:
