@@ -1,9 +1,14 @@
 #include "ScreenContents.h"
 
+#include "CauseText.h"
 #include "Localized.h"
+#include "PrinterCommand.h"
+#include "PrinterExchange.h"
 #include "RunStep.h"
 #include "WTApp.h"
+#include "WTCUSBPrinter.h"
 #include "WTCompleteView.h"
+#include "WTConfigFailedView.h"
 #include "WTConfigStateInfoView.h"
 #include "WTFailedView.h"
 #include "WTInstallingView.h"
@@ -59,6 +64,19 @@ void startRun(WTInstallingView *run)
     run->setWifi(wifi);
 }
 
+CauseText heldByAProgram()
+{
+    const UsbCause cause{UsbErrorCode::Busy, u"/dev/bus/usb/001/004"_s, u"ipp-usb"_s, 812, {}};
+    const QString message = u"usb://Quillmark/QZ100?serial=QM0001: held by another program (ipp-usb, pid 812)"_s;
+    return causeText(RunCause{RunStep::Sending, {wtcErrorDomain, 31, message, cause}}, {});
+}
+
+CauseText refusedByThePrinter()
+{
+    const WTError refusal = PrinterExchange::refusal(PrinterCommand::wifiConfiguration, 2);
+    return causeText(RunCause{RunStep::Sending, refusal}, {});
+}
+
 QWidget *showFormErrors(WizardBed &bed)
 {
     auto *manual = bed.screen<WTNetworkWithManualAddition>();
@@ -104,10 +122,14 @@ void fillScreen(WizardBed &bed, WTView *screen)
         manual->setPrinter(firstPrinter());
     else if (auto *run = qobject_cast<WTInstallingView *>(screen))
         startRun(run);
-    else if (auto *failed = qobject_cast<WTFailedView *>(screen)) {
-        failed->setShowWiFiCapabilityError(true);
-        failed->setWifiCapabilityError(2);
-    }
+    else if (auto *list = qobject_cast<WTWiFiListView *>(screen))
+        list->setPrinter(firstPrinter());
+    else if (auto *complete = qobject_cast<WTCompleteView *>(screen))
+        complete->setAddress(u"192.168.1.77"_s);
+    else if (auto *failed = qobject_cast<WTFailedView *>(screen))
+        failed->setCause(heldByAProgram());
+    else if (auto *configFailed = qobject_cast<WTConfigFailedView *>(screen))
+        configFailed->setCause(refusedByThePrinter());
 
     bed.window().setContentView(screen);
 
