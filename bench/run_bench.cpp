@@ -8,7 +8,7 @@
 #include "StallWatch.h"
 #include "WTCUSBPrinter.h"
 #include "WTCommand.h"
-#include "WifiConfigurationPayload.h"
+#include "WiFiConfigurationPayload.h"
 #include "WizardVisit.h"
 #include "startLogging.h"
 
@@ -40,7 +40,7 @@ void exchangeByLibrary(const QString &uri, const QByteArray &frame)
 std::vector<QByteArray> framesOfRun()
 {
     using namespace PrinterCommand;
-    const auto payload = WifiConfigurationPayload::encode(WizardVisit::networkName, WizardVisit::password);
+    const auto payload = WiFiConfigurationPayload::encode(WizardVisit::networkName, WizardVisit::password);
     return {WTCommand::PJLWithCMD(wakeUp), WTCommand::PJLWithCMD(wifiCapability),
             WTCommand::PJLWithCMD(wifiConfiguration, payload), WTCommand::PJLWithCMD(address)};
 }

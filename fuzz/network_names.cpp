@@ -13,7 +13,7 @@
 #include "WTLogFormatter.h"
 #include "WTLogMessage.h"
 #include "WTWiFi.h"
-#include "WifiConfigurationPayload.h"
+#include "WiFiConfigurationPayload.h"
 #include "WirelessDevice.h"
 #include "cutText.h"
 #include "untrustedText.h"
@@ -56,8 +56,8 @@ QString nameFromTheAir(QByteArrayView bytes)
 
 void checkCut(const QString &text)
 {
-    const QString cut = cutText(text, WifiConfigurationPayload::nameLimit);
-    require(cut.size() <= WifiConfigurationPayload::nameLimit && text.startsWith(cut), "a cut text is a beginning");
+    const QString cut = cutText(text, WiFiConfigurationPayload::nameLimit);
+    require(cut.size() <= WiFiConfigurationPayload::nameLimit && text.startsWith(cut), "a cut text is a beginning");
     require(!isWellFormed(text) || isWellFormed(cut), "a cut splits no pair");
 }
 
@@ -86,7 +86,7 @@ void checkFrame(const QByteArray &payload)
 
 void checkPayload(const QString &name, const QString &password)
 {
-    using Payload = WifiConfigurationPayload;
+    using Payload = WiFiConfigurationPayload;
     const auto payload = Payload::encode(name, password);
     const QByteArray secret = password.toUtf8();
     require(payload.has_value() == (secret.size() <= Payload::passwordLimit && isSendableNetworkName(name)),

@@ -28,7 +28,7 @@ bool holds(qint64 integer32)
 ModelCatalogue::Model modelOf(const QJsonObject &entry)
 {
     const qint64 supportWifi = jsonInteger(entry["supportWifi"_L1]);
-    return {.supportsWifi = holds(supportWifi),
+    return {.supportsWiFi = holds(supportWifi),
             .wifiCode = supportWifi,
             .oldAcl = isSafe(entry["isOldACL"_L1]) && holds(jsonInteger(entry["isOldACL"_L1]))};
 }

@@ -28,7 +28,7 @@ class ModelCatalogue
 public:
     /// What an entry says of its model.
     struct Model {
-        bool supportsWifi = false;
+        bool supportsWiFi = false;
         qint64 wifiCode = 0; ///< "supportWifi" as it stands.
         bool oldAcl = false;
     };

@@ -6,7 +6,7 @@
 #include "PrinterExchange.h"
 #include "SerialQueue.h"
 #include "WTCommand.h"
-#include "WifiConfigurationPayload.h"
+#include "WiFiConfigurationPayload.h"
 #include "isSafe.h"
 #include "untrustedText.h"
 
@@ -55,11 +55,11 @@ void WTManager::wifiConfigForPrinter(const QString &uri, quint32, const QString 
         logError("dirty data👉🏻ssid:%@", visibleText(ssid));
         return;
     }
-    const auto payload = WifiConfigurationPayload::encode(ssid, password);
+    const auto payload = WiFiConfigurationPayload::encode(ssid, password);
     if (!payload) {
         if (isSendableNetworkName(ssid))
             logError("The password is longer than the %ld bytes that a printer takes; nothing is sent.",
-                     WifiConfigurationPayload::passwordLimit);
+                     WiFiConfigurationPayload::passwordLimit);
         else
             logError("The network's name holds a control character; nothing is sent.");
         const WTError refused{printerErrorDomain, static_cast<int>(WTPrinterStatus::NoHeader),

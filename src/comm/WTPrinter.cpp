@@ -27,7 +27,7 @@ void WTPrinter::configPrinter()
     if (!catalogue)
         return;
     if (const auto model = catalogue.value().modelNamed(m_printerType)) {
-        wifiPrinter = model->supportsWifi;
+        wifiPrinter = model->supportsWiFi;
         wifiCode = model->wifiCode;
         oldAcl = model->oldAcl;
     }

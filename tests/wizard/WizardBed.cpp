@@ -24,25 +24,25 @@ bool TracingDesktop::panelWasOpened() const
 }
 
 WizardBed::WizardBed(const QList<ModelIdentity> &printers, const QString &language)
-    : WizardBed(std::make_shared<UsbTestBench>(), 0, language)
+    : WizardBed(std::make_shared<UsbTestBed>(), 0, language)
 {
     for (const ModelIdentity &printer : printers)
         plugIn(printer);
 }
 
-WizardBed::WizardBed(std::shared_ptr<UsbTestBench> bench, qsizetype printerCount, const QString &language)
-    : m_bench(std::move(bench))
+WizardBed::WizardBed(std::shared_ptr<UsbTestBed> usb, qsizetype printerCount, const QString &language)
+    : m_usb(std::move(usb))
     , m_printerCount(printerCount)
 {
     InfoList::setResourceFolder(QStringLiteral(WT_RESOURCE_FOLDER));
-    WTCServer::usePorts(m_bench->port, m_bench->time);
+    WTCServer::usePorts(m_usb->port, m_usb->time);
     WTC_WLAN::usePort(hostWiFi);
-    WTManager::usePorts(m_bench->time, spooler);
+    WTManager::usePorts(m_usb->time, spooler);
     WTApp::usePorts(hostWiFi, desktop, {});
     WTApp::shared().setAppLanguage(language);
 
     const LogCollector log;
-    m_screens = std::make_unique<WizardScreens>(ScreenPorts{m_bench->time, spooler, desktop, hostWiFi, {}},
+    m_screens = std::make_unique<WizardScreens>(ScreenPorts{m_usb->time, spooler, desktop, hostWiFi, {}},
                                                 [this] { ++processEnds; });
     m_screens->show();
     window().activateWindow();
@@ -92,5 +92,5 @@ bool WizardBed::findPrinters()
 
 bool WizardBed::waitFor(const std::function<bool()> &done)
 {
-    return m_bench->runUntil(done);
+    return m_usb->runUntil(done);
 }

@@ -2,7 +2,7 @@
 
 #include "FakeHost.h"
 #include "FakeSpooler.h"
-#include "UsbTestBench.h"
+#include "UsbTestBed.h"
 #include "WTWindow.h"
 #include "WizardScreens.h"
 
@@ -31,7 +31,7 @@ public:
     /// @param language what the screens speak.
     explicit WizardBed(const QList<ModelIdentity> &printers = {}, const QString &language = QStringLiteral("zh-Hans"));
     /// On a bus that has its printers plugged already.
-    WizardBed(std::shared_ptr<UsbTestBench> bench, qsizetype printerCount, const QString &language);
+    WizardBed(std::shared_ptr<UsbTestBed> usb, qsizetype printerCount, const QString &language);
     ~WizardBed();
 
     template <typename Screen>
@@ -52,8 +52,8 @@ public:
     bool waitFor(const std::function<bool()> &done);
 
     WTWindow &window() { return m_screens->window(); }
-    UsbfsBed &bus() { return m_bench->bed; }
-    VirtualTime &time() { return m_bench->time; }
+    UsbfsBed &bus() { return m_usb->bus; }
+    VirtualTime &time() { return m_usb->time; }
 
     FakeHostWiFi hostWiFi;
     TracingDesktop desktop;
@@ -61,7 +61,7 @@ public:
     int processEnds = 0; ///< How often a screen ended the process.
 
 private:
-    std::shared_ptr<UsbTestBench> m_bench;
+    std::shared_ptr<UsbTestBed> m_usb;
     qsizetype m_printerCount = 0;
     std::unique_ptr<WizardScreens> m_screens;
 };

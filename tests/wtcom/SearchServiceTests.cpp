@@ -1,4 +1,4 @@
-#include "UsbTestBench.h"
+#include "UsbTestBed.h"
 #include "WTCServer.h"
 
 #include <QTest>
@@ -44,28 +44,28 @@ private Q_SLOTS:
 
 void SearchServiceTests::theDelegateIsToldTheCompleteList()
 {
-    UsbTestBench bench;
+    UsbTestBed bed;
     ModelIdentity second;
     second.model = u"QZ200 Series"_s;
     second.serialNumber = u"QM 2"_s;
     second.vendorID = 0x6A1C;
-    bench.bed.addPrinter();
-    bench.bed.addPrinter(PrinterModel(second));
-    bench.bed.deny(1);
-    WTCServer::usePorts(bench.port, bench.time);
+    bed.bus.addPrinter();
+    bed.bus.addPrinter(PrinterModel(second));
+    bed.bus.deny(1);
+    WTCServer::usePorts(bed.port, bed.time);
     Delegate delegate;
     WTCServer &server = WTCServer::sharedWithDelegate(&delegate, 255, {}, {}, {});
     QCOMPARE(&server, &WTCServer::shared());
     const auto isTold = [&](std::size_t reports, std::size_t devices) {
-        return bench.runUntil(
+        return bed.runUntil(
             [&] { return delegate.reports().size() == reports && delegate.reports().back().size() == devices; });
     };
 
     server.registerUSBSearchServiceWithVIDs({u"0x6A1B"_s, u"0x6A1C"_s});
     QVERIFY(isTold(1, 0));
-    bench.bed.plug(1);
+    bed.bus.plug(1);
     QVERIFY(isTold(2, 1));
-    bench.bed.plug(0);
+    bed.bus.plug(0);
     QVERIFY(isTold(3, 2));
     const DeviceList devices = delegate.reports().back();
     QCOMPARE(devices[0].URI, u"usb://Quillmark/QZ100?serial=QM0001"_s);
@@ -73,11 +73,11 @@ void SearchServiceTests::theDelegateIsToldTheCompleteList()
     QCOMPARE(devices[1].URI, u"usb://Quillmark/QZ200%20Series?serial=QM%202"_s);
     QCOMPARE(devices[1].printerType, u"QZ200 Series"_s);
     QCOMPARE(devices[1].locationID, 0x01200000U);
-    bench.bed.unplug(1);
+    bed.bus.unplug(1);
     QVERIFY(isTold(4, 1));
 
     server.removeUSBSearchService();
-    bench.bed.unplug(0);
+    bed.bus.unplug(0);
     server.registerUSBSearchServiceWithVIDs({u"0x6A1B"_s});
     QVERIFY(isTold(5, 0));
     server.removeUSBSearchService();
@@ -86,8 +86,8 @@ void SearchServiceTests::theDelegateIsToldTheCompleteList()
 
 void SearchServiceTests::vendorsAreGivenAsText()
 {
-    UsbTestBench bench;
-    WTCServer::usePorts(bench.port, bench.time);
+    UsbTestBed bed;
+    WTCServer::usePorts(bed.port, bed.time);
     WTCServer &server = WTCServer::shared();
     server.registerUSBSearchServiceWithVIDs({u"0x6A1B"_s, u"no number"_s, u"0x12345"_s, u"0x6a1c"_s});
     server.removeUSBSearchService();

@@ -2,7 +2,7 @@
 #include "RecordedSend.h"
 #include "Rows.h"
 #include "SendWorkers.h"
-#include "UsbTestBench.h"
+#include "UsbTestBed.h"
 #include "WTCServer.h"
 #include "commandFrame.h"
 
@@ -26,8 +26,8 @@ const QByteArray frame = commandFrame(wakeUp);
 const auto printerURI = u"usb://Quillmark/QZ100?serial=QM0001"_s;
 
 /// The library over an emulated bus with one printer that answers as the faults say.
-struct LibraryBench : UsbTestBench {
-    explicit LibraryBench(Faults faults = {}, const QString &logFile = {})
+struct LibraryBed : UsbTestBed {
+    explicit LibraryBed(Faults faults = {}, const QString &logFile = {})
     {
         for (PrinterFault &fault : faults) {
             if (fault.command == 0)
@@ -35,15 +35,15 @@ struct LibraryBench : UsbTestBench {
         }
         PrinterScript script;
         script.faults = std::move(faults);
-        bed.addPrinter(PrinterModel({}, script));
-        bed.plug();
+        bus.addPrinter(PrinterModel({}, script));
+        bus.plug();
         WTCServer::usePorts(port, time);
         WTCServer::sharedWithDelegate(nullptr, 255, logFile, {}, {});
         WTCServer::shared().registerUSBSearchServiceWithVIDs({u"0x6A1B"_s, u"0x6A1C"_s});
         await([this] { return port.devices(WTCServer::shared().vendorIDs()); });
     }
 
-    ~LibraryBench()
+    ~LibraryBed()
     {
         runUntil([] { return SendWorkers::shared().isIdle(); });
         WTCServer::shared().removeUSBSearchService();
@@ -162,12 +162,12 @@ void SendTests::everySendEndsOnce()
     QFETCH(WTCErrorCode, code);
     QFETCH(UsbErrorCode, cause);
     QFETCH(QString, why);
-    LibraryBench bench({fault});
-    const QString node = bench.bed.nodePath();
-    event(bench.bed);
-    const auto obstacle = bench.await([] { return WTCUSBPrinter::obstacle(printerURI); });
+    LibraryBed bed({fault});
+    const QString node = bed.bus.nodePath();
+    event(bed.bus);
+    const auto obstacle = bed.await([] { return WTCUSBPrinter::obstacle(printerURI); });
 
-    const RecordedSend::Record record = bench.send(reaction);
+    const RecordedSend::Record record = bed.send(reaction);
     QCOMPARE(record.calls, QStringList({u"head"_s, u"data"_s}));
     QVERIFY(!record.onMainThread);
     QCOMPARE(record.header ? record.header->size() : -1, headerSize);
@@ -182,15 +182,15 @@ void SendTests::everySendEndsOnce()
     // What is known beforehand is said beforehand, in the same words.
     const bool knownBefore = record.error && code == Unreachable && cause != UsbErrorCode::Unplugged;
     QCOMPARE(obstacle, knownBefore ? record.error : std::nullopt);
-    QCOMPARE(bench.bed.claims(), 0);
+    QCOMPARE(bed.bus.claims(), 0);
 }
 
 void SendTests::aThrowingDataCallbackHarmsNothing()
 {
-    LibraryBench bench;
-    const auto record = bench.finish(RecordedSend(printerURI, frame, timeout, ReadAnnounced, true));
+    LibraryBed bed;
+    const auto record = bed.finish(RecordedSend(printerURI, frame, timeout, ReadAnnounced, true));
     QCOMPARE(record.calls, QStringList({u"head"_s, u"data"_s}));
-    QVERIFY(!bench.send().error);
+    QVERIFY(!bed.send().error);
 }
 
 void SendTests::theDeadlineCoversTheWholeExchange_data()
@@ -205,22 +205,22 @@ void SendTests::theDeadlineCoversTheWholeExchange_data()
 void SendTests::theDeadlineCoversTheWholeExchange()
 {
     QFETCH(PrinterFault, fault);
-    LibraryBench bench({fault});
-    const auto start = bench.time.now();
-    const auto record = bench.send();
+    LibraryBed bed({fault});
+    const auto start = bed.time.now();
+    const auto record = bed.send();
     QCOMPARE(record.error->code, static_cast<int>(TimedOut));
-    QCOMPARE(bench.time.now() - start, TimePort::Duration(timeout));
+    QCOMPARE(bed.time.now() - start, TimePort::Duration(timeout));
 }
 
 void SendTests::aDeadlineThatPassesWhileOpeningSendsNothing()
 {
-    LibraryBench bench;
-    bench.bed.hold();
-    const auto release = bench.time.after(700ms, [&] { bench.bed.release(); });
-    const auto record = bench.finish(RecordedSend(printerURI, frame, 500));
+    LibraryBed bed;
+    bed.bus.hold();
+    const auto release = bed.time.after(700ms, [&] { bed.bus.release(); });
+    const auto record = bed.finish(RecordedSend(printerURI, frame, 500));
     QVERIFY(record.error);
     QCOMPARE(record.error->message, printerURI + u": timed out after 500 ms"_s);
-    QCOMPARE(bench.bed.record().count(wakeUp), 0);
+    QCOMPARE(bed.bus.record().count(wakeUp), 0);
 }
 
 void SendTests::aLateReplyIsNotTheNextOnes_data()
@@ -247,11 +247,11 @@ void SendTests::aLateReplyIsNotTheNextOnes()
     fault.occurrence = 1;
     constexpr auto next = EmulatedCommand::Capability;
     for (const auto pause : {0s, 400s}) {
-        LibraryBench bench({fault, {.command = next, .data = data(5)}});
-        bench.send(reaction);
-        bench.time.advance(pause);
+        LibraryBed bed({fault, {.command = next, .data = data(5)}});
+        bed.send(reaction);
+        bed.time.advance(pause);
         for (const auto command : {next, next, wakeUp}) {
-            const auto record = bench.finish(RecordedSend(printerURI, commandFrame(command), 400'000));
+            const auto record = bed.finish(RecordedSend(printerURI, commandFrame(command), 400'000));
             QVERIFY2(!record.error, qPrintable(record.error.value_or(WTError()).message));
             QCOMPARE(record.header->sliced(2, 2), QByteArray::fromHex(command == next ? "FF81" : "FF21"));
             QCOMPARE(record.data.value_or(QByteArray()).size(), command == next ? 5 : 0);
@@ -262,98 +262,98 @@ void SendTests::aLateReplyIsNotTheNextOnes()
 // The second question is as good as the first: whichever answer comes, it is the answer.
 void SendTests::aLateReplyToTheSameCommandIsTaken()
 {
-    LibraryBench bench(Faults{{.occurrence = 1, .data = data(4), .delay = 9s}, {.occurrence = 2, .silent = true}});
-    QCOMPARE(bench.send().error->code, static_cast<int>(TimedOut));
-    const auto record = bench.send();
+    LibraryBed bed(Faults{{.occurrence = 1, .data = data(4), .delay = 9s}, {.occurrence = 2, .silent = true}});
+    QCOMPARE(bed.send().error->code, static_cast<int>(TimedOut));
+    const auto record = bed.send();
     QVERIFY(!record.error);
     QCOMPARE(record.data, data(4));
-    bench.settle();
+    bed.settle();
 }
 
 void SendTests::aReplyToNoCommandIsHandedOn()
 {
-    LibraryBench bench(Faults{{.occurrence = 1, .silent = true}, {.occurrence = 2, .echo = 0xFF82, .data = data(0)}});
-    QCOMPARE(bench.send().error->code, static_cast<int>(TimedOut));
-    const auto record = bench.send();
+    LibraryBed bed(Faults{{.occurrence = 1, .silent = true}, {.occurrence = 2, .echo = 0xFF82, .data = data(0)}});
+    QCOMPARE(bed.send().error->code, static_cast<int>(TimedOut));
+    const auto record = bed.send();
     QVERIFY(!record.error);
     QCOMPARE(record.header->sliced(2, 2), QByteArray::fromHex("FF82"));
-    bench.settle();
+    bed.settle();
 }
 
 void SendTests::emptyPacketsDoNotSpin()
 {
-    LibraryBench bench(Faults{{.slices = {0, 0}}});
-    const auto start = bench.time.now();
-    QVERIFY(!bench.send().error);
-    QVERIFY(bench.time.now() > start);
+    LibraryBed bed(Faults{{.slices = {0, 0}}});
+    const auto start = bed.time.now();
+    QVERIFY(!bed.send().error);
+    QVERIFY(bed.time.now() > start);
 }
 
 void SendTests::sendsToOnePrinterTakeTurns()
 {
-    LibraryBench bench(Faults{{.data = data(4), .delay = 2s}});
-    const auto start = bench.time.now();
+    LibraryBed bed(Faults{{.data = data(4), .delay = 2s}});
+    const auto start = bed.time.now();
     const RecordedSend first(printerURI, frame, timeout);
     const RecordedSend second(printerURI, frame, timeout);
     for (const RecordedSend *send : {&first, &second}) {
-        const auto record = bench.finish(*send);
+        const auto record = bed.finish(*send);
         QVERIFY(!record.error);
         QCOMPARE(record.data, data(4));
     }
-    QCOMPARE(bench.time.now() - start, TimePort::Duration(4s));
-    QVERIFY(bench.bed.record().allSound());
+    QCOMPARE(bed.time.now() - start, TimePort::Duration(4s));
+    QVERIFY(bed.bus.record().allSound());
 }
 
 void SendTests::waitingForATurnIsBounded()
 {
-    LibraryBench bench(Faults{{.silent = true}});
+    LibraryBed bed(Faults{{.silent = true}});
     const RecordedSend first(printerURI, frame, 60000);
-    bench.runUntil([&] { return bench.bed.record().count(wakeUp) == 1; });
-    const auto start = bench.time.now();
+    bed.runUntil([&] { return bed.bus.record().count(wakeUp) == 1; });
+    const auto start = bed.time.now();
     const RecordedSend second(printerURI, frame, 1000);
-    QCOMPARE(bench.finish(second).error->message, printerURI + u": timed out after 1000 ms"_s);
-    QCOMPARE(bench.time.now() - start, TimePort::Duration(1s));
+    QCOMPARE(bed.finish(second).error->message, printerURI + u": timed out after 1000 ms"_s);
+    QCOMPARE(bed.time.now() - start, TimePort::Duration(1s));
     QVERIFY(!first.hasEnded());
-    bench.finish(first);
-    bench.settle();
+    bed.finish(first);
+    bed.settle();
 }
 
 void SendTests::ofTwoWithOneURITheFirstIsMeant()
 {
-    LibraryBench bench;
-    bench.bed.addPrinter();
-    bench.bed.plug(1);
-    QVERIFY(!bench.send().error);
-    QCOMPARE(bench.bed.record(0).count(wakeUp), 1);
-    QCOMPARE(bench.bed.record(1).count(wakeUp), 0);
-    bench.bed.unplug(0);
-    QVERIFY(!bench.send().error);
-    QCOMPARE(bench.bed.record(1).count(wakeUp), 1);
+    LibraryBed bed;
+    bed.bus.addPrinter();
+    bed.bus.plug(1);
+    QVERIFY(!bed.send().error);
+    QCOMPARE(bed.bus.record(0).count(wakeUp), 1);
+    QCOMPARE(bed.bus.record(1).count(wakeUp), 0);
+    bed.bus.unplug(0);
+    QVERIFY(!bed.send().error);
+    QCOMPARE(bed.bus.record(1).count(wakeUp), 1);
 }
 
 // The printer might not be opened when it was found, so that it was named by its texts alone.
 void SendTests::aNameGivenBeforeTheDeviceIDWasKnownStays()
 {
-    LibraryBench bench;
-    bench.bed.setKernelDriver(false);
-    bench.bed.deny();
-    bench.bed.replug();
-    const auto list = [&] { return bench.await([&] { return bench.port.devices({ModelIdentity().vendorID}); }); };
+    LibraryBed bed;
+    bed.bus.setKernelDriver(false);
+    bed.bus.deny();
+    bed.bus.replug();
+    const auto list = [&] { return bed.await([&] { return bed.port.devices({ModelIdentity().vendorID}); }); };
     const QString name = deviceFromUsb(list().at(0)).URI;
     QVERIFY(name != printerURI);
-    bench.bed.permit();
+    bed.bus.permit();
     QCOMPARE(deviceFromUsb(list().at(0)).URI, printerURI);
-    const auto record = bench.finish(RecordedSend(name, frame, timeout));
+    const auto record = bed.finish(RecordedSend(name, frame, timeout));
     QVERIFY2(!record.error, qPrintable(record.error.value_or(WTError()).message));
 }
 
 void SendTests::theDriverIsBackWhenTheDataCallbackRuns()
 {
-    LibraryBench bench;
+    LibraryBed bed;
     std::promise<QString> driver;
     auto seen = driver.get_future();
     WTCUSBPrinter::IOKit_sendACLWithURI(printerURI, frame, kACLHeadSize, timeout, {},
-                                        [&](const auto &, const auto &) { driver.set_value(bench.bed.boundDriver()); });
-    QVERIFY(bench.runUntil([&] { return seen.wait_for(0s) == std::future_status::ready; }));
+                                        [&](const auto &, const auto &) { driver.set_value(bed.bus.boundDriver()); });
+    QVERIFY(bed.runUntil([&] { return seen.wait_for(0s) == std::future_status::ready; }));
     QCOMPARE(seen.get(), u"usblp"_s);
 }
 
@@ -364,11 +364,11 @@ void SendTests::theLogTellsCountsAndNoBytes()
     // What is encoded looks like a placeholder.
     const QString absentURI = u"usb://Quillmark/QZ100%2B?serial=QM0001"_s;
     {
-        LibraryBench bench(Faults{{.data = data(40)}}, path);
+        LibraryBed bed(Faults{{.data = data(40)}}, path);
         const QByteArray secret = "correct horse battery";
-        bench.finish(RecordedSend(printerURI, frame + secret, timeout));
-        bench.bed.unplug();
-        bench.finish(RecordedSend(absentURI, frame, timeout));
+        bed.finish(RecordedSend(printerURI, frame + secret, timeout));
+        bed.bus.unplug();
+        bed.finish(RecordedSend(absentURI, frame, timeout));
     }
     WTCServer::sharedWithDelegate(nullptr, 255, {}, {}, {});
     QFile file(path);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "WifiConfigurationPayload.h"
+#include "WiFiConfigurationPayload.h"
 
 #include <QString>
 
@@ -12,7 +12,7 @@ inline constexpr qsizetype maximumNameLength = 32;     ///< UTF-16 units that th
 inline constexpr qsizetype maximumNameBytes = 32;      ///< In UTF-8 (IEEE 802.11-2020, 9.4.2.2).
 inline constexpr qsizetype maximumPasswordLength = 64; ///< UTF-16 units that the password field takes.
 /// In UTF-8: what a printer takes, whatever the network itself allows.
-inline constexpr qsizetype maximumPasswordBytes = WifiConfigurationPayload::passwordLimit;
+inline constexpr qsizetype maximumPasswordBytes = WiFiConfigurationPayload::passwordLimit;
 
 QString cutName(const QString &name);
 QString cutPassword(const QString &password);

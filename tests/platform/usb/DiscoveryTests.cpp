@@ -1,5 +1,5 @@
 #include "Rows.h"
-#include "UsbTestBench.h"
+#include "UsbTestBed.h"
 
 #include <mutex>
 
@@ -93,22 +93,22 @@ void DiscoveryTests::facts()
     QFETCH(UsbShape, shape);
     QFETCH(bool, deviceIDIsKnown);
 
-    UsbTestBench bench;
+    UsbTestBed bed;
     ModelIdentity identity;
     identity.hasDeviceID = hasDeviceID;
-    bench.bed.addPrinter(PrinterModel(identity), shape);
-    bench.bed.setKernelDriver(hasKernelDriver);
+    bed.bus.addPrinter(PrinterModel(identity), shape);
+    bed.bus.setKernelDriver(hasKernelDriver);
     if (access == Access::Denied)
-        bench.bed.deny();
+        bed.bus.deny();
     if (access == Access::Held)
-        bench.bed.hold();
-    bench.bed.plug();
+        bed.bus.hold();
+    bed.bus.plug();
 
-    const auto list = [&] { return bench.await([&] { return bench.port.devices(ourVendors); }); };
+    const auto list = [&] { return bed.await([&] { return bed.port.devices(ourVendors); }); };
     UsbDeviceList devices = list();
     std::unique_ptr<UsbConnection> connection;
     if (access == Access::InUse) {
-        auto opened = bench.await([&] { return bench.port.open(devices.at(0)); });
+        auto opened = bed.await([&] { return bed.port.open(devices.at(0)); });
         QVERIFY2(opened, whyNot(opened));
         connection = std::move(opened.value());
         devices = list();
@@ -128,37 +128,37 @@ void DiscoveryTests::facts()
 // It has many interfaces and answers on none; what was asked in vain is not asked again, unless it was refused.
 void DiscoveryTests::aMuteDeviceIsAskedOnce()
 {
-    UsbTestBench bench;
+    UsbTestBed bed;
     ModelIdentity mute;
     mute.answersDeviceID = false;
-    bench.bed.addPrinter(PrinterModel(mute), {std::vector<UsbShape::Interface>(7, {UsbShape::AlternateSetting{}})});
-    bench.bed.setKernelDriver(false);
-    bench.bed.deny();
-    bench.bed.plug();
-    const auto list = [&] { return bench.await([&] { return bench.port.devices(ourVendors); }); };
+    bed.bus.addPrinter(PrinterModel(mute), {std::vector<UsbShape::Interface>(7, {UsbShape::AlternateSetting{}})});
+    bed.bus.setKernelDriver(false);
+    bed.bus.deny();
+    bed.bus.plug();
+    const auto list = [&] { return bed.await([&] { return bed.port.devices(ourVendors); }); };
     for (const int questions : {0, 1, 1}) {
         QCOMPARE(list().size(), 1U);
-        QCOMPARE(bench.bed.deviceIDQuestions(), questions);
-        bench.bed.permit();
+        QCOMPARE(bed.bus.deviceIDQuestions(), questions);
+        bed.bus.permit();
     }
-    bench.bed.replug();
+    bed.bus.replug();
     QCOMPARE(list().size(), 1U);
-    QCOMPARE(bench.bed.deviceIDQuestions(), 2);
+    QCOMPARE(bed.bus.deviceIDQuestions(), 2);
 }
 
 void DiscoveryTests::onlyAskedVendorsInOrderOfLocation()
 {
-    UsbTestBench bench;
+    UsbTestBed bed;
     ModelIdentity stranger;
     stranger.vendorID = 0x1234;
     ModelIdentity sister;
     sister.vendorID = 0x6A1C;
-    bench.bed.addPrinter();
-    bench.bed.addPrinter(PrinterModel(stranger));
-    bench.bed.addPrinter(PrinterModel(sister));
+    bed.bus.addPrinter();
+    bed.bus.addPrinter(PrinterModel(stranger));
+    bed.bus.addPrinter(PrinterModel(sister));
     for (const int printer : {2, 1, 0})
-        bench.bed.plug(printer);
-    const auto devices = bench.await([&] { return bench.port.devices(ourVendors); });
+        bed.bus.plug(printer);
+    const auto devices = bed.await([&] { return bed.port.devices(ourVendors); });
     QCOMPARE(devices.size(), 2U);
     QCOMPARE(devices[0].locationID, 0x01100000U);
     QCOMPARE(devices[1].locationID, 0x01300000U);
@@ -167,77 +167,77 @@ void DiscoveryTests::onlyAskedVendorsInOrderOfLocation()
 
 void DiscoveryTests::everyChangeIsReportedOnce()
 {
-    UsbTestBench bench;
-    bench.bed.addPrinter();
-    bench.bed.addPrinter();
+    UsbTestBed bed;
+    bed.bus.addPrinter();
+    bed.bus.addPrinter();
     ReportedLists reports;
     std::vector<std::size_t> expected;
     const auto reported = [&](std::size_t size) {
         expected.push_back(size);
-        return bench.runUntil([&] { return reports.sizes() == expected; });
+        return bed.runUntil([&] { return reports.sizes() == expected; });
     };
 
-    bench.port.watch(ourVendors, reports.listener());
+    bed.port.watch(ourVendors, reports.listener());
     QVERIFY(reported(0));
-    bench.bed.plug(0);
+    bed.bus.plug(0);
     QVERIFY(reported(1));
-    bench.bed.plug(1);
+    bed.bus.plug(1);
     QVERIFY(reported(2));
-    bench.bed.unplug(0);
+    bed.bus.unplug(0);
     QVERIFY(reported(1));
     QCOMPARE(reports.all().back().front().locationID, 0x01200000U);
-    bench.bed.plug(0);
+    bed.bus.plug(0);
     QVERIFY(reported(2));
     QVERIFY(reports.all().back() == reports.all().at(2));
-    bench.bed.unplug(0);
+    bed.bus.unplug(0);
     QVERIFY(reported(1));
-    bench.bed.unplug(1);
+    bed.bus.unplug(1);
     QVERIFY(reported(0));
 }
 
 void DiscoveryTests::nothingIsReportedAfterTheEnd()
 {
-    UsbTestBench bench;
-    bench.bed.addPrinter();
+    UsbTestBed bed;
+    bed.bus.addPrinter();
     ReportedLists reports;
-    bench.port.watch(ourVendors, reports.listener());
-    QVERIFY(bench.runUntil([&] { return !reports.all().empty(); }));
-    bench.port.stopWatching();
-    bench.bed.plug();
+    bed.port.watch(ourVendors, reports.listener());
+    QVERIFY(bed.runUntil([&] { return !reports.all().empty(); }));
+    bed.port.stopWatching();
+    bed.bus.plug();
     ReportedLists witness;
-    bench.port.watch(ourVendors, witness.listener());
-    QVERIFY(bench.runUntil([&] { return witness.sizes() == std::vector<std::size_t>{1}; }));
+    bed.port.watch(ourVendors, witness.listener());
+    QVERIFY(bed.runUntil([&] { return witness.sizes() == std::vector<std::size_t>{1}; }));
     QCOMPARE(reports.sizes(), std::vector<std::size_t>{0});
 }
 
 void DiscoveryTests::aListenerMayEndTheWatch()
 {
-    UsbTestBench bench;
-    bench.bed.addPrinter();
+    UsbTestBed bed;
+    bed.bus.addPrinter();
     std::atomic<int> calls = 0;
-    bench.port.watch(ourVendors, [&](const UsbDeviceList &) {
-        bench.port.stopWatching();
+    bed.port.watch(ourVendors, [&](const UsbDeviceList &) {
+        bed.port.stopWatching();
         ++calls;
     });
-    QVERIFY(bench.runUntil([&] { return calls == 1; }));
-    bench.bed.plug();
-    const auto devices = bench.await([&] { return bench.port.devices(ourVendors); });
+    QVERIFY(bed.runUntil([&] { return calls == 1; }));
+    bed.bus.plug();
+    const auto devices = bed.await([&] { return bed.port.devices(ourVendors); });
     QCOMPARE(devices.size(), 1U);
     QCOMPARE(calls, 1);
 }
 
 void DiscoveryTests::aSecondWatchReplacesTheFirst()
 {
-    UsbTestBench bench;
-    bench.bed.addPrinter();
+    UsbTestBed bed;
+    bed.bus.addPrinter();
     ReportedLists first;
     ReportedLists second;
-    bench.port.watch({0x6A1B}, first.listener());
-    bench.port.watch({0x6A1C}, second.listener());
-    QVERIFY(bench.runUntil([&] { return second.sizes() == std::vector<std::size_t>{0}; }));
+    bed.port.watch({0x6A1B}, first.listener());
+    bed.port.watch({0x6A1C}, second.listener());
+    QVERIFY(bed.runUntil([&] { return second.sizes() == std::vector<std::size_t>{0}; }));
     const auto before = first.sizes();
-    bench.bed.plug();
-    QVERIFY(bench.await([&] { return bench.port.devices({0x6A1B}); }).size() == 1);
+    bed.bus.plug();
+    QVERIFY(bed.await([&] { return bed.port.devices({0x6A1B}); }).size() == 1);
     QCOMPARE(first.sizes(), before);
     QCOMPARE(second.sizes(), std::vector<std::size_t>{0});
 }

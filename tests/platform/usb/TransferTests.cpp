@@ -1,4 +1,4 @@
-#include "PrinterBench.h"
+#include "PrinterBed.h"
 #include "Rows.h"
 
 #include <QRandomGenerator>
@@ -66,22 +66,22 @@ void TransferTests::aReplyInAnySlices()
     QFETCH(std::vector<SlicedReply>, replies);
     UsbShape shape;
     shape.packetSize = quint16(packetSize);
-    PrinterBench bench({}, shape);
+    PrinterBed bed({}, shape);
     for (const auto &[dataSize, slices] : replies) {
         PrinterFault fault;
         fault.data = someData(dataSize);
         fault.slices = slices;
-        bench.answer(fault);
+        bed.answer(fault);
         QByteArray slicing = "slices:";
         for (const qsizetype slice : slices)
             slicing += ' ' + QByteArray::number(slice);
 
-        const auto connection = bench.connect();
-        QVERIFY(!bench.write(*connection));
+        const auto connection = bed.connect();
+        QVERIFY(!bed.write(*connection));
         QByteArray header;
         QByteArray data;
-        const auto headerFailure = bench.read(*connection, 16, header);
-        const auto dataFailure = bench.read(*connection, dataSize, data);
+        const auto headerFailure = bed.read(*connection, 16, header);
+        const auto dataFailure = bed.read(*connection, dataSize, data);
         QVERIFY2(!headerFailure && !dataFailure, slicing);
         QVERIFY2(header.startsWith(QByteArray::fromHex("00ACFF21")), slicing);
         QVERIFY2(data == someData(dataSize), slicing);
@@ -101,11 +101,11 @@ void TransferTests::writesOfAnySize()
     QFETCH(int, frames);
     PrinterFault fault;
     fault.silent = true;
-    PrinterBench bench(fault);
-    const auto connection = bench.connect();
-    QVERIFY(!bench.await([&] { return connection->write(commandFrame(wakeUp).repeated(frames)); }));
-    QCOMPARE(bench.bed.record().count(wakeUp), frames);
-    QVERIFY(bench.bed.record().allSound());
+    PrinterBed bed(fault);
+    const auto connection = bed.connect();
+    QVERIFY(!bed.await([&] { return connection->write(commandFrame(wakeUp).repeated(frames)); }));
+    QCOMPARE(bed.bus.record().count(wakeUp), frames);
+    QVERIFY(bed.bus.record().allSound());
 }
 
 void TransferTests::transferFailures_data()
@@ -141,16 +141,16 @@ void TransferTests::transferFailures()
     QFETCH(int, received);
     QFETCH(QString, message);
     fault.data = someData(100);
-    PrinterBench bench;
-    bench.answer(fault, pulled);
-    const auto connection = bench.connect();
-    const QString expected = message.arg(bench.bed.nodePath());
+    PrinterBed bed;
+    bed.answer(fault, pulled);
+    const auto connection = bed.connect();
+    const QString expected = message.arg(bed.bus.nodePath());
 
-    auto failure = bench.write(*connection);
+    auto failure = bed.write(*connection);
     QCOMPARE(codeOf(failure), written);
     QByteArray reply;
     if (read >= 0) {
-        const auto readFailure = bench.read(*connection, 116, reply);
+        const auto readFailure = bed.read(*connection, 116, reply);
         QCOMPARE(codeOf(readFailure), read);
         if (!failure)
             failure = readFailure;
@@ -165,21 +165,21 @@ void TransferTests::aStallIsCleared()
     PrinterFault stallOut;
     stallOut.occurrence = 1;
     stallOut.stallOut = true;
-    PrinterBench bench(stallOut);
-    const auto connection = bench.connect();
-    QCOMPARE(codeOf(bench.write(*connection)), code(UsbErrorCode::Stalled));
-    QVERIFY(!bench.write(*connection));
+    PrinterBed bed(stallOut);
+    const auto connection = bed.connect();
+    QCOMPARE(codeOf(bed.write(*connection)), code(UsbErrorCode::Stalled));
+    QVERIFY(!bed.write(*connection));
     QByteArray reply;
-    QVERIFY(!bench.read(*connection, 16, reply));
+    QVERIFY(!bed.read(*connection, 16, reply));
 
     PrinterFault stallIn;
     stallIn.occurrence = 3;
     stallIn.stallIn = true;
-    bench.answer(stallIn);
-    QVERIFY(!bench.write(*connection));
-    QCOMPARE(codeOf(bench.read(*connection, 32, reply)), code(UsbErrorCode::Stalled));
-    QVERIFY(!bench.write(*connection));
-    QVERIFY(!bench.read(*connection, 32, reply));
+    bed.answer(stallIn);
+    QVERIFY(!bed.write(*connection));
+    QCOMPARE(codeOf(bed.read(*connection, 32, reply)), code(UsbErrorCode::Stalled));
+    QVERIFY(!bed.write(*connection));
+    QVERIFY(!bed.read(*connection, 32, reply));
 }
 
 void TransferTests::cancelEndsTheTransferAndAllLaterOnes_data()
@@ -207,15 +207,15 @@ void TransferTests::cancelEndsTheTransferAndAllLaterOnes()
     fault.data = someData(100);
     UsbShape shape;
     shape.packetSize = 64;
-    PrinterBench bench(fault, shape);
-    const auto connection = bench.connect();
-    const auto cancel = bench.time.after(1s, [&] { connection->cancel(); });
-    QCOMPARE(codeOf(bench.write(*connection)), written);
+    PrinterBed bed(fault, shape);
+    const auto connection = bed.connect();
+    const auto cancel = bed.time.after(1s, [&] { connection->cancel(); });
+    QCOMPARE(codeOf(bed.write(*connection)), written);
     QByteArray reply;
-    QCOMPARE(codeOf(bench.read(*connection, 116, reply)), code(UsbErrorCode::Cancelled));
+    QCOMPARE(codeOf(bed.read(*connection, 116, reply)), code(UsbErrorCode::Cancelled));
     QCOMPARE(reply.size(), received);
-    QCOMPARE(codeOf(bench.write(*connection)), code(UsbErrorCode::Cancelled));
-    QCOMPARE(codeOf(bench.read(*connection, 116, reply)), code(UsbErrorCode::Cancelled));
+    QCOMPARE(codeOf(bed.write(*connection)), code(UsbErrorCode::Cancelled));
+    QCOMPARE(codeOf(bed.read(*connection, 116, reply)), code(UsbErrorCode::Cancelled));
 }
 
 void TransferTests::drainedInputIsGone()
@@ -224,15 +224,15 @@ void TransferTests::drainedInputIsGone()
     fault.occurrence = 1;
     fault.trailingGarbage = QByteArray(5000, 'x');
     fault.slices = {16, 1000, 0, 7};
-    PrinterBench bench(fault);
-    const auto connection = bench.connect();
-    QVERIFY(!bench.write(*connection));
+    PrinterBed bed(fault);
+    const auto connection = bed.connect();
+    QVERIFY(!bed.write(*connection));
     QByteArray reply;
-    QVERIFY(!bench.read(*connection, 16, reply));
-    QCOMPARE(bench.await([&] { return connection->drainInput(); }), fault.trailingGarbage);
-    QVERIFY(!bench.write(*connection));
+    QVERIFY(!bed.read(*connection, 16, reply));
+    QCOMPARE(bed.await([&] { return connection->drainInput(); }), fault.trailingGarbage);
+    QVERIFY(!bed.write(*connection));
     QByteArray second;
-    QVERIFY(!bench.read(*connection, 16, second));
+    QVERIFY(!bed.read(*connection, 16, second));
     QCOMPARE(second, reply);
 }
 

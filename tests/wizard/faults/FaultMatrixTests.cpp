@@ -53,9 +53,9 @@ const auto networkName = u"Home"_s;
 class Person
 {
 public:
-    Person(std::shared_ptr<UsbTestBench> bench, Entry entry)
+    Person(std::shared_ptr<UsbTestBed> usb, Entry entry)
         : m_entry(entry)
-        , m_bed(std::move(bench), networkName)
+        , m_bed(std::move(usb), networkName)
     {
         m_bed.hostWiFi.now.poweredOn = entry == Entry::List;
     }
@@ -158,7 +158,7 @@ private Q_SLOTS:
 private:
     void walk(const FaultCase &faultCase, Entry entry);
 
-    const std::shared_ptr<UsbTestBench> m_bench = std::make_shared<UsbTestBench>();
+    const std::shared_ptr<UsbTestBed> m_usb = std::make_shared<UsbTestBed>();
     QStringList m_descriptors;
     int m_threads = 0;
     std::vector<std::size_t> m_heap; ///< After each run.
@@ -166,11 +166,11 @@ private:
 
 void FaultMatrixTests::initTestCase()
 {
-    m_bench->bed.addPrinter();
+    m_usb->bus.addPrinter();
     // The first run makes what a process keeps until its end; the figures are taken after it.
     walk({.name = "no fault"}, Entry::List);
     walk({.name = "no fault"}, Entry::Manual);
-    m_bench->bed.unplug();
+    m_usb->bus.unplug();
     m_descriptors = descriptorsWithoutScannerLocks();
     m_threads = ProcessFigures::threads();
 }
@@ -203,9 +203,9 @@ void FaultMatrixTests::run_data()
 
 void FaultMatrixTests::walk(const FaultCase &faultCase, Entry entry)
 {
-    m_bench->bed.replacePrinter(PrinterModel({.model = u"QZ200"_s}));
-    m_bench->bed.plug();
-    Person person(m_bench, entry);
+    m_usb->bus.replacePrinter(PrinterModel({.model = u"QZ200"_s}));
+    m_usb->bus.plug();
+    Person person(m_usb, entry);
     ListBed &bed = person.bed();
     person.reachEntryScreen();
     bed.bus().setScript(faultCase.script);
@@ -237,7 +237,7 @@ void FaultMatrixTests::run()
     QFETCH(FaultCase, faultCase);
     QFETCH(Entry, entry);
     walk(faultCase, entry);
-    m_bench->bed.unplug();
+    m_usb->bus.unplug();
     // The emulated bus closes its end of a connection a little later, and a worker may not have ended yet, now or when
     // the first figures were taken. So the least that was ever seen counts.
     QTRY_VERIFY2(

@@ -27,8 +27,8 @@ ListBed::ListBed(ScanPermission permission, const QString &joined)
     prepare(permission, joined);
 }
 
-ListBed::ListBed(std::shared_ptr<UsbTestBench> bench, const QString &joined)
-    : WizardBed(std::move(bench), 1, u"zh-Hans"_s)
+ListBed::ListBed(std::shared_ptr<UsbTestBed> usb, const QString &joined)
+    : WizardBed(std::move(usb), 1, u"zh-Hans"_s)
 {
     prepare(ScanPermission::Allowed, joined);
 }

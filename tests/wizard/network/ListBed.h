@@ -15,7 +15,7 @@ public:
     explicit ListBed(ScanPermission permission = ScanPermission::Allowed,
                      const QString &joined = QStringLiteral("Office"));
     /// On a bus that has one printer plugged already.
-    ListBed(std::shared_ptr<UsbTestBench> bench, const QString &joined);
+    ListBed(std::shared_ptr<UsbTestBed> usb, const QString &joined);
 
     static const VisibleNetwork home;
     static const VisibleNetwork cafe;

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <optional>
+
+/// The payload that tells a printer which network to join, all text UTF-8:
+///
+///     0              33    34             65                208
+///     +--------------+-----+--------------+-----------------+
+///     | network name | 05  | password     | zero            |
+///     +--------------+-----+--------------+-----------------+
+///
+/// The name is cut to 32 bytes and always ends with a zero byte; a password of 31 bytes fills its field to the end.
+class WiFiConfigurationPayload
+{
+public:
+    static constexpr qsizetype nameLimit = 32;
+    static constexpr qsizetype nameSize = 33;
+    static constexpr char mark = 5;
+    static constexpr qsizetype passwordLimit = 31;
+    static constexpr qsizetype size = 208;
+
+    /// Absent when the password has more than `passwordLimit` bytes, since a cut password would never work, or when the
+    /// name cannot be sent (`isSendableNetworkName`).
+    static std::optional<QByteArray> encode(const QString &ssid, const QString &password);
+};

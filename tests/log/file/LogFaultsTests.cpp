@@ -1,0 +1,376 @@
+#include "FileDescriptor.h"
+#include "LogBed.h"
+#include "LogFileNameDate.h"
+#include "PrivateMount.h"
+#include "SyslogClient.h"
+#include "WTASLLogger.h"
+#include "WTFileLogger.h"
+#include "WTLog.h"
+#include "WTLogFileManagerDefault.h"
+#include "WTOSLogger.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTest>
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+/// A logger without a formatter in the bed's folder, registered while this lives.
+class BedLogger
+{
+public:
+    explicit BedLogger(const LogBed &bed)
+        : m_logger(std::make_shared<WTFileLogger>(std::make_shared<WTLogFileManagerDefault>(bed.folder())))
+    {
+        m_logger->setLogFormatter(nullptr);
+        WTLog::addLogger(m_logger);
+    }
+    ~BedLogger()
+    {
+        WTLog::removeAllLoggers();
+        WTLog::flushLog();
+    }
+    BedLogger(const BedLogger &) = delete;
+    BedLogger &operator=(const BedLogger &) = delete;
+
+    WTFileLogger *operator->() const { return m_logger.get(); }
+
+    void log(const QString &text) const
+    {
+        WTLog::log(false, WTLogLevelAll, WTLogFlagInfo, 0, "", "", 0, {}, "%@", text);
+    }
+
+private:
+    std::shared_ptr<WTFileLogger> m_logger;
+};
+
+/// The descriptor under which this process has the file open; -1: none.
+int descriptorOf(const QString &path)
+{
+    for (const QString &name : QDir(u"/proc/self/fd"_s).entryList(QDir::AllEntries | QDir::System)) {
+        if (QFile::symLinkTarget(u"/proc/self/fd/"_s + name) == path)
+            return name.toInt();
+    }
+    return -1;
+}
+
+void limitFileSize(rlim_t bytes)
+{
+    rlimit limit{};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    limit.rlim_cur = bytes;
+    setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+/// What a flooding writer has written: "thread number" of each line. Fails on a line that is not whole.
+bool readFlood(const LogBed &bed, QStringList &written)
+{
+    static const QRegularExpression pattern(u"\\A\\[\\S+ \\S+ TID: *\\d+\\] 🟢 line (\\d+ (\\d+)) (x*)\\z"_s);
+    for (const QString &line : bed.lines()) {
+        const QRegularExpressionMatch match = pattern.match(line);
+        if (!match.hasMatch() || match.capturedLength(3) != match.captured(2).toInt() % 2000) {
+            qInfo().noquote() << "torn:" << line;
+            return false;
+        }
+        written.append(match.captured(1));
+    }
+    return true;
+}
+
+/// The end of a system log that takes the lines.
+class LogSocket
+{
+public:
+    explicit LogSocket(const char *path)
+        : m_socket(socket(AF_UNIX, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0))
+    {
+        sockaddr_un address{AF_UNIX, {}};
+        qstrncpy(address.sun_path, path, sizeof address.sun_path);
+        if (bind(m_socket.get(), reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0)
+            qFatal("cannot listen at %s", path);
+    }
+
+    QByteArray received() const
+    {
+        QByteArray bytes(1000, Qt::Uninitialized);
+        bytes.truncate(std::max<ssize_t>(recv(m_socket.get(), bytes.data(), bytes.size(), 0), 0));
+        return bytes;
+    }
+
+private:
+    const FileDescriptor m_socket;
+};
+
+void startWriter(QProcess &writer, const QStringList &arguments)
+{
+    writer.start(QCoreApplication::applicationDirPath() + u"/log_writer"_s, arguments);
+}
+
+QStringList linesOf(const QByteArray &output)
+{
+    return QString::fromLatin1(output).split(u'\n', Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+/// Everything that may befall the folder, the file and the process, tried on real ones.
+class LogFaultsTests : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit LogFaultsTests(bool canMount)
+        : m_canMount(canMount)
+    {
+    }
+
+private Q_SLOTS:
+    void initTestCase() { std::signal(SIGXFSZ, SIG_IGN); }
+
+    void fileGoesAway_data()
+    {
+        QTest::addColumn<QByteArray>("fault");
+        QTest::newRow("deleted") << QByteArray("deleted");
+        QTest::newRow("renamed") << QByteArray("renamed");
+        QTest::newRow("folder removed") << QByteArray("folder removed");
+        QTest::newRow("a symbolic link in its place") << QByteArray("link");
+        QTest::newRow("descriptor closed") << QByteArray("descriptor closed");
+    }
+
+    void fileGoesAway()
+    {
+        QFETCH(QByteArray, fault);
+        const LogBed bed;
+        const BedLogger logger(bed);
+        logger.log(u"before"_s);
+        const QString path = logger->currentLogFileInfo().value().filePath();
+        const QString elsewhere = bed.home() + u"/elsewhere"_s;
+        if (fault == "deleted")
+            QVERIFY(QFile::remove(path));
+        else if (fault == "renamed")
+            QVERIFY(QFile::rename(path, elsewhere));
+        else if (fault == "folder removed")
+            QVERIFY(QDir(bed.folder()).removeRecursively());
+        else if (fault == "link")
+            QVERIFY(QFile::rename(path, elsewhere) && QFile::link(elsewhere, path));
+        else
+            QCOMPARE(close(descriptorOf(path)), 0);
+        // The news reaches the logger a moment later, and lines before it follow the file that went.
+        QStringList after;
+        const auto logOnceMore = [&] {
+            after.append(QString::number(after.size()));
+            logger.log(after.last());
+            return bed.lines().contains(after.last());
+        };
+        QTRY_VERIFY(logOnceMore());
+        QVERIFY(logOnceMore());
+        QCOMPARE(QFileInfo(path).isSymLink(), fault == "link");
+        if (fault == "descriptor closed")
+            QCOMPARE(bed.lines(), QStringList(u"before"_s) + after);
+    }
+
+    void diskIsFull_data()
+    {
+        QTest::addColumn<bool>("isMounted");
+        QTest::newRow("small file system") << true;
+        QTest::newRow("file size limit") << false;
+    }
+
+    void diskIsFull()
+    {
+        QFETCH(bool, isMounted);
+        if (isMounted && !m_canMount)
+            QSKIP("this user may not mount; the other row fills up a file instead");
+        const LogBed bed;
+        QVERIFY(QDir().mkpath(bed.folder()));
+        std::optional<PrivateMount> mount;
+        QFile filler(bed.path(u"filler"_s));
+        if (isMounted) {
+            QVERIFY(mount.emplace(bed.folder(), "tmpfs", "size=96k").isThere());
+            QVERIFY(filler.open(QIODevice::WriteOnly) && filler.write(QByteArray(32768, '\0')) == 32768);
+            filler.close();
+        } else {
+            limitFileSize(60000);
+        }
+        const BedLogger logger(bed);
+        const QString line(7000, u'y');
+        QStringList logged;
+        for (int number = 0; number < 12; ++number) {
+            logged.append(line + QString::number(number));
+            logger.log(logged.last());
+        }
+        QVERIFY(bed.console().contains(u"WTFileLogger: Failed to write data: "_s));
+        if (isMounted)
+            QVERIFY(filler.remove());
+        else
+            limitFileSize(RLIM_INFINITY);
+        const qsizetype kept = bed.lines().size();
+        QVERIFY(kept > 4 && kept < 12);
+        QCOMPARE(bed.lines(), logged.first(kept));
+        logger.log(u"there is room again"_s);
+        QCOMPARE(bed.lines().sliced(kept), QStringList(u"there is room again"_s));
+    }
+
+    void folderIsReadOnly()
+    {
+        const LogBed bed;
+        QVERIFY(QDir().mkpath(bed.folder()));
+        const QByteArray folder = QFile::encodeName(bed.folder());
+        QCOMPARE(chmod(folder, 0500), 0);
+        const BedLogger logger(bed);
+        logger.log(u"lost"_s);
+        QCOMPARE(bed.names(), QStringList());
+        QVERIFY(bed.console().contains(u"WTFileLogger: Failed to create new log file: Permission denied"_s));
+        QCOMPARE(chmod(folder, 0700), 0);
+        logger.log(u"kept"_s);
+        QCOMPARE(bed.lines(), QStringList(u"kept"_s));
+    }
+
+    void newestFileMayNotBeWritten()
+    {
+        const LogBed bed;
+        const QString left = bed.leaveFile(u"2999-01-01--00-00-00-UTC.log"_s);
+        QCOMPARE(chmod(QFile::encodeName(left), 0400), 0);
+        const BedLogger logger(bed);
+        logger.log(u"kept"_s);
+        QCOMPARE(bed.lines(), QStringList(u"kept"_s));
+    }
+
+    void fileSystemWithoutAttributes()
+    {
+        if (!m_canMount)
+            QSKIP("this user may not mount, and every other file system here has attributes");
+        const LogBed bed;
+        QVERIFY(QDir().mkpath(bed.folder()));
+        const PrivateMount mount(bed.folder(), "ramfs", "mode=700");
+        QVERIFY(mount.isThere());
+        const BedLogger logger(bed);
+        for (int number = 0; number < 3; ++number) {
+            logger.log(QString::number(number));
+            logger->rollLogFile();
+        }
+        logger.log(u"last"_s);
+        QCOMPARE(bed.names().size(), 4);
+        QStringList lines = bed.lines();
+        lines.sort();
+        QCOMPARE(lines, QStringList({u"0"_s, u"1"_s, u"2"_s, u"last"_s}));
+        QCOMPARE(bed.console().count(u"user.quillmark.log.archived"_s), 1);
+    }
+
+    void reachesTheSystemsLogs_data()
+    {
+        QTest::addColumn<quint64>("flag");
+        QTest::addColumn<QByteArray>("journal");
+        QTest::addColumn<QByteArray>("syslog");
+        QTest::newRow("error") << quint64{WTLogFlagError} << QByteArray("PRIORITY=3\n") << QByteArray("<10>");
+        QTest::newRow("info") << quint64{WTLogFlagInfo} << QByteArray("PRIORITY=6\n") << QByteArray("<12>");
+    }
+
+    void reachesTheSystemsLogs()
+    {
+        QFETCH(quint64, flag);
+        QFETCH(QByteArray, journal);
+        QFETCH(QByteArray, syslog);
+        if (!m_canMount)
+            QSKIP("this user may not mount, and the sockets of the machine's own logs are not his");
+        const PrivateMount run(u"/run"_s, "tmpfs", "mode=755"), devices(u"/dev"_s, "tmpfs", "mode=755");
+        QVERIFY(run.isThere() && devices.isThere() && QDir().mkpath(u"/run/systemd/journal"_s));
+        const LogSocket journalSocket("/run/systemd/journal/socket"), syslogSocket("/dev/log");
+        const auto message = WTLogMessage::initWithMessage(u"text"_s, WTLogLevelAll, flag, 0, {}, {}, 0, std::nullopt);
+        WTOSLogger().logMessage(message);
+        WTASLLogger(std::make_unique<SyslogClient>()).logMessage(message);
+        const QByteArray toJournal = journalSocket.received(), toSyslog = syslogSocket.received();
+        QVERIFY2(toJournal.contains("MESSAGE=text\n") && toJournal.contains(journal), toJournal);
+        QVERIFY2(toSyslog.startsWith(syslog) && toSyslog.contains(" com.apple.console: text"), toSyslog);
+    }
+
+    void tenThousandFiles()
+    {
+        const LogBed bed;
+        const QDateTime start(QDate(2026, 1, 1), QTime(0, 0));
+        for (int number = 0; number < 10000; ++number)
+            bed.leaveFile(LogFileNameDate::text(start.addSecs(number)) + u".log"_s);
+        const BedLogger logger(bed);
+        logger->setDoNotReuseLogFiles(true);
+        logger.log(u"found its way"_s);
+        QTRY_COMPARE(bed.names().size(), 5);
+        QCOMPARE(bed.lines(), QStringList(u"found its way"_s));
+    }
+
+    void severalProcessesShareAFile()
+    {
+        constexpr int threads = 4, lines = 500;
+        const LogBed bed;
+        bed.leaveFile(u"x.log"_s);
+        const QString shared = bed.folder() + u"/log_writer 2999-01-01--00-00-00-UTC.log"_s;
+        QVERIFY(QFile::rename(bed.path(bed.names().first()), shared));
+        QProcess one, another;
+        QStringList told;
+        for (QProcess *writer : {&one, &another})
+            startWriter(*writer, {bed.folder(), QString::number(threads), QString::number(lines)});
+        for (QProcess *writer : {&one, &another}) {
+            QVERIFY(writer->waitForFinished());
+            told += linesOf(writer->readAllStandardOutput());
+        }
+        QStringList written;
+        QVERIFY(readFlood(bed, written));
+        QCOMPARE(bed.names().size(), 1);
+        QCOMPARE(written.size(), 2 * threads * lines);
+        QCOMPARE(QSet<QString>(written.begin(), written.end()), QSet<QString>(told.begin(), told.end()));
+    }
+
+    void killedWhileFourThreadsLog_data()
+    {
+        QTest::addColumn<int>("after");
+        for (const int after : {1, 100, 1000, 3000})
+            QTest::addRow("after %d lines", after) << after;
+    }
+
+    void killedWhileFourThreadsLog()
+    {
+        QFETCH(int, after);
+        const LogBed bed;
+        QProcess writer;
+        startWriter(writer, {bed.folder(), u"4"_s, u"1000000"_s});
+        QByteArray told;
+        while (told.count('\n') < after && writer.waitForReadyRead())
+            told += writer.readAllStandardOutput();
+        writer.kill();
+        QVERIFY(writer.waitForFinished());
+        told += writer.readAllStandardOutput();
+        QCOMPARE(writer.exitStatus(), QProcess::CrashExit);
+        QStringList written;
+        QVERIFY(readFlood(bed, written));
+        QSet<QString> missing;
+        for (const QString &line : linesOf(told.first(told.lastIndexOf('\n') + 1)))
+            missing.insert(line);
+        QVERIFY(missing.size() >= after);
+        missing.subtract(QSet<QString>(written.begin(), written.end()));
+        QCOMPARE(missing, QSet<QString>());
+    }
+
+private:
+    const bool m_canMount;
+};
+
+int main(int argumentCount, char **arguments)
+{
+    const bool canMount = PrivateMount::enter();
+    QCoreApplication application(argumentCount, arguments);
+    LogFaultsTests test(canMount);
+    return QTest::qExec(&test, argumentCount, arguments);
+}
+
+#include "LogFaultsTests.moc"
