@@ -37,7 +37,8 @@ QStringList ScannerLock::configuredPaths()
     const auto catalogue = ModelCatalogue::readConfigured();
     if (!catalogue)
         return paths;
-    for (const QJsonValue &entry : catalogue.value().entries()) {
+    const QJsonArray entries = catalogue.value().entries();
+    for (const QJsonValueConstRef entry : entries) {
         const QString path = entry["scaner_locker"_L1].toString();
         if (isSafe(path))
             paths += path;

@@ -48,7 +48,7 @@ bool isOursAlone(const QString &path)
 /// to lead it elsewhere: the process then gets a new folder, which bears a name that nobody can know ahead.
 QString temporaryLogs()
 {
-    const QString usual = QDir::tempPath() + u"/Logs"_s;
+    QString usual = QDir::tempPath() + u"/Logs"_s;
     mkdir(QFile::encodeName(usual), userOnlyFolder);
     if (isOursAlone(usual))
         return usual;
