@@ -67,6 +67,15 @@ class GuestMachine:
             self._process.wait()
             self._process = None
 
+    def plug(self, name: str, path: Path, port: str) -> None:
+        """Plugs the device that waits at the socket `path` into a port of the USB controller: "1.2" is a port of the hub."""
+        address = {"type": "unix", "data": {"path": os.fspath(path)}}
+        line = {"type": "socket", "data": {"addr": address, "server": False}}
+        self._monitor("chardev-add", {"id": f"{name}-line", "backend": line})
+        self._monitor(
+            "device_add", {"driver": "usb-redir", "id": name, "chardev": f"{name}-line", "bus": "usb.0", "port": port}
+        )
+
     def run(self, command: str, limit: float = 180) -> Result:
         """Runs a shell command as root."""
         with self._connected("commands") as line:
@@ -100,6 +109,7 @@ class GuestMachine:
             *("-device", "virtserialport,chardev=commands,name=command"),
             *("-fsdev", f"local,id=share,path={self._share},security_model=none"),
             *("-device", f"virtio-9p-{DEVICE},fsdev=share,mount_tag=share"),
+            *("-device", "qemu-xhci,id=usb", "-device", "usb-hub,bus=usb.0,port=1"),
             *("-serial", f"file:{self._folder / 'console.log'}"),
             *("-qmp", f"unix:{self._folder / 'monitor'},server=on,wait=off"),
             *more,

@@ -1,20 +1,23 @@
 #!/usr/bin/python3
-"""Installs the package in a guest with a real kernel and real services, and walks the wizard there, with a printer that
-is a USB device like any other and joins the network by a radio of its own.
+"""Installs the package in a guest with a real kernel and real services, and walks the wizard there, with printers that
+are USB devices like any other: alone with a radio of its own, or behind a hub.
 
-usage: system_vm_test.py FOLDER PACKAGE PRINTER-EMULATOR TEXT-TABLE
+usage: system_vm_test.py FOLDER PACKAGE PRINTER-EMULATOR TEXT-TABLE [STORY ...]
 
 FOLDER holds the image (see image/build-image.sh); pictures and logs of every story are left in FOLDER/stories.
 """
 
-import json
+import errno
+import re
 import shutil
+import signal
 import sys
 import tempfile
 import time
 from pathlib import Path
 
 from guest_machine import GuestMachine
+from printers import HubPrinter, UsbipPrinter, wait_for_driver
 
 HERE = Path(__file__).resolve().parent
 SYSTEM = HERE.parent / "system"
@@ -32,48 +35,72 @@ USER = "alice"
 OUTSIDE_HELPERS = ("wizard_window.py",)
 
 JOINS = {"addressTime": 1000}
-UNPLUGS_WHILE_JOINING = {
-    "joinTime": 30000,
-    "events": [{"action": "unplug", "after": {"command": "FF80", "occurrence": 1}, "delay": 2000}],
+# Zero-length packets before, within and behind a reply; the last reply ends with one because it fills its packets.
+EMPTY_PACKETS = {
+    "faults": [
+        {"command": "FF21", "slices": [0, 0, 7, 0, 9, 0]},
+        {"command": "FF80", "slices": [16, 0, 0]},
+        {"command": "FF0F", "slices": [0, 16, 0, 64, 0]},
+    ]
+}
+FAR_LONGER_THAN_A_STORY = 120_000
+CUT_WHILE_JOINING = {
+    "joinTime": FAR_LONGER_THAN_A_STORY,
+    "pulledPlug": "busErrors",
+    "events": [{"action": "unplug", "after": {"command": "FF80"}, "delay": 2000}],
+}
+CUT_WHILE_THE_ADDRESS_IS_ASKED_FOR = {
+    "faults": [{"command": "FF0F", "delay": FAR_LONGER_THAN_A_STORY}],
+    "pulledPlug": "stalls",
+    "events": [{"action": "unplug", "after": {"command": "FF0F"}, "delay": 1000}],
 }
 
 
 class Story:
     """One walk through the wizard in a guest that was restored for it."""
 
-    def __init__(self, guest, share, results, name):
+    def __init__(self, guest, share, folder, results, name):
         self._guest = guest
         self._share = share
-        self._name = name
+        self._folder = folder
         self._results = results / name
+        self._printers = []
         shutil.rmtree(self._results, ignore_errors=True)
         self._results.mkdir(parents=True)
 
-    def attach_printer(self, script, joins):
-        """The printer's own files lie where only root reads them; frames hold the password."""
-        (self._share / "script.json").write_text(json.dumps(script))
-        radio = "--join-command /run/printer/radio" if joins else ""
-        self._guest.check(
-            "mkdir -m 700 /run/printer && "
-            "printf '#!/bin/sh\\n/mnt/share/printer-join.sh | tee /run/address\\n' >/run/printer/radio && "
-            "chmod +x /run/printer/radio && "
-            "systemd-run --quiet --unit=printer --property=StandardError=file:/run/printer/errors "
-            f"/mnt/share/printer-emulator --usbip {radio} --script /mnt/share/script.json "
-            "--frames /run/printer/frames && "
-            "until [ -c /dev/usb/lp0 ]; do systemctl is-active --quiet printer || exit 1; sleep 0.2; done; udevadm settle"
-        )
+    def attach(self):
+        """A printer with a radio, without a hub."""
+        self._printers = [UsbipPrinter(self._guest, self._share, JOINS, joins=True)]
+        wait_for_driver(self._guest, 1)
+        return self._printers[0]
 
-    def walk(self):
+    def plug(self, port, script, *options):
+        """A printer whose answers are the script's, into a port of the hub."""
+        name = f"printer{len(self._printers) + 1}"
+        emulator = self._share / "printer-emulator"
+        printer = HubPrinter(self._guest, emulator, self._folder, name, f"1.{port}", script, options)
+        self._printers.append(printer)
+        wait_for_driver(self._guest, len(self._printers))
+        return printer
+
+    def stop(self):
+        for printer in self._printers:
+            printer.stop()
+
+    def walk(self, name):
+        """Fails when the walk of this name in walk.py does."""
         variables = (
-            f"WT_REACTION_TIME=90 WT_NETWORK='{NETWORK}' WT_PASSWORD_LENGTH={len(PASSWORD)} WT_ADDRESS_FILE=/run/address"
+            f"WT_REACTION_TIME=90 WT_NETWORK='{NETWORK}' WT_PASSWORD_LENGTH={len(PASSWORD)} WT_ADDRESS_FILE=/run/address "
+            f"WT_PRINTERS={len(self._printers)}"
         )
         result = self._guest.run(
             f"/mnt/share/desktop-run {USER} \"{variables} xvfb-run --auto-servernum "
             "--server-args='-screen 0 1024x768x24' dbus-run-session -- "
-            f"python3 /mnt/share/walk.py {self._name} /mnt/share/wifitool.ts\"",
+            f"python3 /mnt/share/walk.py {name} /mnt/share/wifitool.ts\"",
             STORY_LIMIT,
         )
         self.keep("walk", result.output.encode())
+        self.keep("bus", self.bus().encode())
         self._guest.run(f"cp /home/{USER}/*.png /mnt/share/pictures/")
         for picture in (self._share / "pictures").glob("*.png"):
             shutil.move(picture, self._results / picture.name)
@@ -82,8 +109,9 @@ class Story:
     def keep(self, name, content):
         (self._results / f"{name}.log").write_bytes(content)
 
-    def frames(self):
-        return [bytes.fromhex(line) for line in self._guest.check("cat /run/printer/frames").split()]
+    def bus(self):
+        """What was on the USB buses, as usbmon tells it: every transfer with its end, and no more than its first 32 bytes."""
+        return self._guest.check("cat /run/bus")
 
     def check_the_secret_is_kept(self):
         """The journal holds the program's lines; neither it nor any log holds the password."""
@@ -95,7 +123,7 @@ class Story:
         written = {
             "journal": self._guest.check("journalctl --no-pager -o cat"),
             "logs": logs,
-            "printer": self._guest.check("cat /run/printer/errors"),
+            **{f"printer {number}": printer.errors() for number, printer in enumerate(self._printers, 1)},
         }
         shown = secret_search.find(PASSWORD, {name: text.encode() for name, text in written.items()})
         assert not shown, f"the password is in {shown}"
@@ -104,17 +132,28 @@ class Story:
         self._guest.check("test -c /dev/usb/lp0 && ls /sys/bus/usb/drivers/usblp/*:1.0")
 
 
+def expect_frames(printer, *expected):
+    assert printer.frames() == list(expected), [frame[:60].hex() for frame in printer.frames()]
+
+
+def expect_last_read_ended(story, status):
+    """What the host controller itself said."""
+    ends = re.findall(r" C Bi:\d+:\d+:2 (-?\d+) ", story.bus())
+    assert ends and ends[-1] == str(-status), ends[-5:]
+
+
+ALL_FRAMES = frames.wake_up(), frames.configuration(NETWORK, PASSWORD), frames.address_query()
+
+
 def complete(guest, story):
-    story.attach_printer(JOINS, joins=True)
+    printer = story.attach()
     uri = "usb://Quillmark/QZ100?serial=QM0001"
     assert uri in guest.check("lpinfo -v"), "the spooler does not see the printer"
     # Only who sits at the computer gets the printer, by the package's rule, not by a group.
     guest.check(f"! id -nG {USER} | grep -Eqw 'lp|root|sudo'")
     guest.check("! runuser -u nobody -- test -w /dev/$(udevadm info --query=name /sys/class/usbmisc/lp0/device/..)")
-    story.walk()
-    assert story.frames() == [frames.wake_up(), frames.configuration(NETWORK, PASSWORD), frames.address_query()], [
-        frame[:60].hex() for frame in story.frames()
-    ]
+    story.walk("complete")
+    expect_frames(printer, *ALL_FRAMES)
     leases = guest.check("cat /run/access-point/leases")
     address = guest.check("cat /run/address").strip()
     assert f" {address} " in leases, f"{address} is not among the leases:\n{leases}"
@@ -124,29 +163,65 @@ def complete(guest, story):
 
 
 def wrong_password(guest, story):
-    story.attach_printer(JOINS, joins=True)
-    story.walk()
-    configuration = frames.configuration(NETWORK, "not-the-password")
-    assert story.frames() == [frames.wake_up(), configuration], [frame[:60].hex() for frame in story.frames()]
+    printer = story.attach()
+    story.walk("wrong-password")
+    expect_frames(printer, frames.wake_up(), frames.configuration(NETWORK, "not-the-password"))
     guest.check("! ip netns exec printer ip -4 -o addr show wlan2 | grep -q inet")
     story.check_the_kernel_has_the_printer()
     story.check_the_secret_is_kept()
 
 
-def unplugged(guest, story):
-    story.attach_printer(UNPLUGS_WHILE_JOINING, joins=False)
-    story.walk()
+def empty_packets(guest, story):
+    """Behind a hub, in packets of 64 bytes, with zero-length ones in every place."""
+    printer = story.plug(1, EMPTY_PACKETS)
+    assert guest.check("cat /sys/bus/usb/devices/*-1.1/bDeviceClass"), "not behind the hub"
+    story.walk("complete")
+    expect_frames(printer, *ALL_FRAMES)
+    story.check_the_kernel_has_the_printer()
+    story.check_the_secret_is_kept()
+
+
+def two_printers(guest, story):
+    """The first port's printer is configured, although the other one was there before and is of the other vendor."""
+    other = story.plug(2, {})
+    printer = story.plug(1, {}, "--vendor", "6A1C", "--serial", "QM0002")
+    story.walk("complete")
+    expect_frames(printer, *ALL_FRAMES)
+    expect_frames(other)
+    story.check_the_secret_is_kept()
+
+
+def cut_while_joining(guest, story):
+    story.plug(1, CUT_WHILE_JOINING)
+    story.walk("unplugged")
+    expect_last_read_ended(story, errno.EPROTO)
     guest.check("! test -e /dev/usb/lp0")
     story.check_the_secret_is_kept()
 
 
-STORIES = {"complete": complete, "wrong-password": wrong_password, "unplugged": unplugged}
+def cut_while_the_address_is_asked_for(guest, story):
+    story.plug(1, CUT_WHILE_THE_ADDRESS_IS_ASKED_FOR)
+    story.walk("unplugged")
+    expect_last_read_ended(story, errno.EPIPE)
+    guest.check("! test -e /dev/usb/lp0")
+    story.check_the_secret_is_kept()
+
+
+STORIES = {
+    "complete": complete,
+    "wrong-password": wrong_password,
+    "behind-a-hub": empty_packets,
+    "two-printers": two_printers,
+    "cut-while-joining": cut_while_joining,
+    "cut-while-asking-for-the-address": cut_while_the_address_is_asked_for,
+}
 
 
 def make_ready(guest):
     """Package installed, access point up, and the computer on its network with a password that NetworkManager keeps."""
     guest.start(BOOT_LIMIT)
-    guest.check("modprobe vhci-hcd && modprobe usblp")
+    guest.check("modprobe -a vhci-hcd usblp usbmon")
+    guest.check("systemd-run --quiet sh -c 'exec cat /sys/kernel/debug/usb/usbmon/0u >/run/bus'")
     guest.check("dpkg -i /mnt/share/wifitool.deb", 300)
     guest.check(f"printf '%s\\n' '{PASSWORD}' | /mnt/share/networks-up.sh '{NETWORK}'", 300)
     guest.check(
@@ -160,12 +235,15 @@ def make_ready(guest):
 def play(guest, share, results, state, name):
     print(f"         {name} ...", flush=True)
     start = time.monotonic()
-    guest.restore(state)
-    try:
-        STORIES[name](guest, Story(guest, share, results, name))
-    finally:
-        guest.stop()
-        print(f"         {name}: {time.monotonic() - start:.0f} s", flush=True)
+    with tempfile.TemporaryDirectory() as folder:
+        story = Story(guest, share, Path(folder), results, name)
+        try:
+            guest.restore(state)
+            STORIES[name](guest, story)
+        finally:
+            story.stop()
+            guest.stop()
+            print(f"         {name}: {time.monotonic() - start:.0f} s", flush=True)
 
 
 def fill(share, package, emulator, table):
@@ -179,7 +257,10 @@ def fill(share, package, emulator, table):
 
 
 def main():
-    folder, package, emulator, table = (Path(argument).resolve() for argument in sys.argv[1:])
+    folder, package, emulator, table = (Path(argument).resolve() for argument in sys.argv[1:5])
+    stories = sys.argv[5:]
+    # Whoever ends the test ends its machine as well.
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     cases = Cases()
     with tempfile.TemporaryDirectory() as temporary:
         share = Path(temporary, "share")
@@ -194,7 +275,7 @@ def main():
         finally:
             guest.stop()
         print(f"         ready after {time.monotonic() - start:.0f} s", flush=True)
-        for name in STORIES:
+        for name in stories or STORIES:
             cases.run(name, play, guest, share, folder / "stories", state, name)
     cases.leave()
 

@@ -2,7 +2,7 @@
 """Walks the installed program in the guest as a person with assistive technology does, as the desktop's user, with a
 display and a session bus. Leaves pictures of what it saw in the home folder.
 
-usage: walk.py STORY TEXT-TABLE, with WT_NETWORK, WT_PASSWORD_LENGTH and WT_ADDRESS_FILE in the environment
+usage: walk.py WALK TEXT-TABLE, with WT_NETWORK, WT_PASSWORD_LENGTH, WT_PRINTERS and WT_ADDRESS_FILE in the environment
 """
 
 import os
@@ -15,6 +15,7 @@ from wizard_window import ACCESSIBLE, AccessibilityBus, WizardWindow, read_texts
 
 NETWORK = os.environ["WT_NETWORK"]
 PASSWORD_LENGTH = int(os.environ["WT_PASSWORD_LENGTH"])
+PRINTERS = int(os.environ["WT_PRINTERS"])
 RUN_LIMIT = 300
 LOGS = Path.home() / ".local/state/Logs/wifitool"
 
@@ -40,9 +41,16 @@ def showing(has):
     return None
 
 
+def join_network():
+    """The computer joins by itself once its user has a session, which takes a moment."""
+    state = ["nmcli", "-t", "-f", "DEVICE,STATE", "device"]
+    joined = "wlan1:connected\n"
+    wait_for(lambda: joined in subprocess.run(state, capture_output=True, text=True, check=True).stdout, joined, RUN_LIMIT)
+
+
 def start_run(window, password=None):
     """The network comes first, with its stored password filled in."""
-    wait_for(lambda: "USB Printers count:1" in log(), "the printer in the list", RUN_LIMIT)
+    wait_for(lambda: f"USB Printers count:{PRINTERS}" in log(), "the printers in the list", RUN_LIMIT)
     window.press("下一步")
     window.wait_for_text("选择无线网络")
     field = window.wait_for(("text", "password text"), "网络密码")
@@ -70,21 +78,25 @@ def wrong_password(window):
 
 
 def unplugged(window):
+    """The screen must not be the one that blames the password."""
     start_run(window)
-    window.wait_for_text("打印机没有连上无线网络", RUN_LIMIT)
+    failed, refused = window.text("打印机没有连上无线网络"), window.text("打印机没有接受这次配置。")
+    seen = wait_for(lambda: showing(lambda name: name.strip() in (failed, refused)), "the end of the run", RUN_LIMIT)
     picture("unplugged")
+    assert seen.strip() == failed, seen
 
 
-STORIES = {"complete": complete, "wrong-password": wrong_password, "unplugged": unplugged}
+WALKS = {"complete": complete, "wrong-password": wrong_password, "unplugged": unplugged}
 
 
 def main():
-    story, table = sys.argv[1:]
+    walk, table = sys.argv[1:]
+    join_network()
     with AccessibilityBus():
         program = subprocess.Popen(["wifitool"], env=dict(os.environ, **ACCESSIBLE, LANGUAGE="en"))
         try:
-            STORIES[story](WizardWindow(read_texts(table)))
-            if story == "complete":
+            WALKS[walk](WizardWindow(read_texts(table)))
+            if walk == "complete":
                 status = program.wait(60)
                 assert status == 0, f"exit status {status}"
         except BaseException:
