@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <utility>
 
-/// One printer on a bus without electrons: it takes every frame and answers with the given bytes, at most `slice` at a
+/// One printer that exists in memory only: it takes every frame and answers with the given bytes, at most `slice` at a
 /// time; then it is gone. Lives as long as the bytes.
 class SlicedWire : public UsbPort
 {
