@@ -64,7 +64,8 @@ void checkCut(const QString &text)
 QString logLine(const QString &shownName)
 {
     return WTLogFormatter()
-        .formatLogMessage(WTLogMessage::initWithFormat(u"ssid:%@"_s, {shownName}, 0, WTLogFlagInfo, 0, {}, {}, 0, {}))
+        .formatLogMessage(
+            WTLogMessage::initWithFormat(u"ssid:%@"_s, {FormatArgument(shownName)}, 0, WTLogFlagInfo, 0, {}, {}, 0, {}))
         .value_or(QString());
 }
 
