@@ -7,9 +7,9 @@
 
 using namespace std::chrono;
 
-QString localTimeText(system_clock::time_point moment, const char *strftimeFormat)
+QString localTimeText(sys_seconds moment, const char *strftimeFormat)
 {
-    const std::time_t time = system_clock::to_time_t(floor<seconds>(moment));
+    const std::time_t time = moment.time_since_epoch().count();
     std::tm fields{};
     localtime_r(&time, &fields);
     std::array<char, 128> text{};
@@ -20,5 +20,5 @@ QString localTimeText(system_clock::time_point moment, const char *strftimeForma
 QString localTimeInMilliseconds(system_clock::time_point moment)
 {
     const auto milliseconds = duration_cast<std::chrono::milliseconds>(moment - floor<seconds>(moment));
-    return formatText(u"%@.%03d", {localTimeText(moment, "%Y-%m-%d %H:%M:%S"), milliseconds.count()});
+    return formatText(u"%@.%03d", {localTimeText(floor<seconds>(moment), "%Y-%m-%d %H:%M:%S"), milliseconds.count()});
 }

@@ -93,5 +93,5 @@ QString crashReportText(const Crash &crash, std::chrono::system_clock::time_poin
 
 QString crashReportDate(std::chrono::system_clock::time_point moment)
 {
-    return localTimeText(moment, "%Y-%m-%d %H:%M:%S.0%S %z");
+    return localTimeText(std::chrono::floor<std::chrono::seconds>(moment), "%Y-%m-%d %H:%M:%S.0%S %z");
 }

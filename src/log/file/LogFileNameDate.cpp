@@ -46,7 +46,8 @@ QDateTime localDateTime(const QDate &date, const QTime &time, bool isDaylightSav
 QString LogFileNameDate::text(const QDateTime &date)
 {
     const auto sinceEpoch = std::chrono::milliseconds(date.toMSecsSinceEpoch());
-    return localTimeText(std::chrono::system_clock::time_point(sinceEpoch), "%Y-%m-%d--%H-%M-%S-%Z");
+    const std::chrono::sys_seconds moment(std::chrono::floor<std::chrono::seconds>(sinceEpoch));
+    return localTimeText(moment, "%Y-%m-%d--%H-%M-%S-%Z");
 }
 
 // Without a regular expression: a static one would be gone before the threads that list files while the process ends.
