@@ -18,6 +18,7 @@ ARROWS = {
     "comm": {"wtcom", "ports", "log", "util"},
     "app": {"comm", "wtcom", "ports", "log", "util"},
     "flow": {"app", "comm", "wtcom", "ports", "log", "util"},
+    "ctl": {"flow", "app", "comm", "wtcom", "ports", "log", "util"},
     "wizard": {"flow", "app", "comm", "wtcom", "ports", "log", "util"},
     **{room: {"ports", "util"} for room in PLATFORM_ROOMS},
 }

@@ -3,10 +3,10 @@
 #include <QSocketNotifier>
 #include <atomic>
 #include <cerrno>
-#include <csignal>
 #include <cstdint>
 #include <sys/eventfd.h>
 #include <unistd.h>
+#include <utility>
 
 namespace
 {
@@ -24,7 +24,7 @@ void leaveWord(int)
 
 } // namespace
 
-TerminationRequest::TerminationRequest()
+TerminationRequest::TerminationRequest(std::vector<int> signals)
 {
     if (descriptor < 0)
         descriptor = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
@@ -40,11 +40,18 @@ TerminationRequest::TerminationRequest()
     };
     action.sa_handler = leaveWord;
     action.sa_flags = SA_RESTART | SA_ONSTACK;
-    sigaction(SIGTERM, &action, nullptr);
+    std::erase_if(signals, [](int signal) {
+        struct sigaction present {
+        };
+        return sigaction(signal, nullptr, &present) == 0 && present.sa_handler == SIG_IGN;
+    });
+    for (const int signal : signals)
+        sigaction(signal, &action, nullptr);
+    m_signals = std::move(signals);
 }
 
 TerminationRequest::~TerminationRequest()
 {
-    if (m_notifier)
-        std::signal(SIGTERM, SIG_DFL);
+    for (const int signal : m_signals)
+        std::signal(signal, SIG_DFL);
 }

@@ -43,6 +43,8 @@ public:
     /// Rebuilds `printerList` from the devices that the catalogue knows and marks as able to use Wi-Fi. Any thread; a
     /// reader may see a partial list meanwhile.
     void refreshUSBPrinterList(const std::vector<WTCDevice> &devices) override;
+    /// Called after each rebuild of `printerList`, on the thread of the report; empty for none. Any thread.
+    void setPrinterListListener(std::function<void()> listener);
     WTSafeArray<WTPrinterPtr> &printerList() { return m_printerList; }
     /// Stores a copy.
     void setPrinterList(const WTSafeArray<WTPrinterPtr> &list) { m_printerList = list; }
@@ -108,6 +110,7 @@ private:
     WTSafeArray<WTPrinterPtr> m_printerList;
     std::atomic<qint64> m_closeEnable = CloseAsks;
     mutable std::mutex m_mutex;
-    QString m_logPath;          ///< Guarded by `m_mutex`.
-    ModelCatalogue m_catalogue; ///< Guarded by `m_mutex`.
+    QString m_logPath;                           ///< Guarded by `m_mutex`.
+    ModelCatalogue m_catalogue;                  ///< Guarded by `m_mutex`.
+    std::function<void()> m_printerListListener; ///< Guarded by `m_mutex`.
 };

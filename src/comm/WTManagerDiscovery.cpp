@@ -86,4 +86,15 @@ void WTManager::refreshUSBPrinterList(const std::vector<WTCDevice> &devices)
         if (isVaildFile(printer->printerType()) && isWifiPrinter(printer->printerType()))
             m_printerList.addObject(printer);
     }
+    std::unique_lock lock{m_mutex};
+    const auto listener = m_printerListListener;
+    lock.unlock();
+    if (listener)
+        listener();
+}
+
+void WTManager::setPrinterListListener(std::function<void()> listener)
+{
+    const std::lock_guard lock{m_mutex};
+    m_printerListListener = std::move(listener);
 }

@@ -1,20 +1,13 @@
 #include "wt_main.h"
 
 #include "AppDelegate.h"
-#include "Banner.h"
 #include "BundleEx.h"
-#include "InfoList.h"
-#include "Log.h"
 #include "Machine.h"
 #include "TerminationRequest.h"
-#include "WTApp.h"
-#include "WTCServer.h"
-#include "WTC_WLAN.h"
-#include "WTManager.h"
+#include "WTLog.h"
 #include "WTWindow.h"
 #include "WizardScreens.h"
-#include "resourceFolder.h"
-#include "startLogging.h"
+#include "beginProgram.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
@@ -25,27 +18,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-
-void usePorts(const Machine &machine)
-{
-    WTCServer::usePorts(machine.usb, machine.time);
-    WTC_WLAN::usePort(machine.hostWiFi);
-    WTManager::usePorts(machine.time, machine.spooler);
-    WTApp::usePorts(machine.hostWiFi, machine.desktop, machine.capabilities);
-}
-
-/// All that happens before there is an application object.
-void begin(const Machine &machine)
-{
-    InfoList::setResourceFolder(resourceFolder());
-    usePorts(machine);
-    const QString logFolder = startLogging(machine.capabilities);
-    for (const char *line : startBanner)
-        logInfo("%@", line);
-    WTApp::wt_systemLog();
-    WTManager::shared().setLogPath(logFolder + u"/WTCore-WiFiTool.log"_s);
-    WTApp::shared().appLanguage();
-}
 
 /// The toolkit's own texts (context menus of fields) in the language of the program's, where the system has them.
 void showToolkitTexts(QApplication &application)
@@ -60,7 +32,7 @@ void showToolkitTexts(QApplication &application)
 
 int wt_main(int argc, char **argv, const Machine &machine, const std::function<void(WTWindow &)> &launched)
 {
-    begin(machine);
+    beginProgram(machine);
 
     QApplication application(argc, argv);
     // The desktop finds the window's icon and name by its entry.

@@ -7,6 +7,22 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace
+{
+
+/// What stands in the way of using the file as a script; empty when nothing does.
+QString readScript(const QString &path, PrinterScript &script)
+{
+    QFile file(path);
+    if (!file.open(QFile::ReadOnly))
+        return file.fileName() + u": "_s + file.errorString();
+    ScriptFile parsed = ScriptFile::parse(file.readAll());
+    script = std::move(parsed.script);
+    return parsed.complaints.isEmpty() ? QString() : file.fileName() + u": "_s + parsed.complaints.join(u'\n');
+}
+
+} // namespace
+
 std::variant<EmulatorOptions, EmulatorOptions::Message> EmulatorOptions::parse(const QStringList &arguments)
 {
     const QCommandLineOption usbfs(u"usbfs"_s, u"Put the printer on an emulated usbfs."_s);
@@ -23,12 +39,16 @@ std::variant<EmulatorOptions, EmulatorOptions::Message> EmulatorOptions::parse(c
     const QCommandLineOption model(u"model"_s, u"The model's name: QZ100 unless given."_s, u"name"_s);
     const QCommandLineOption serial(u"serial"_s, u"The serial number: QM0001 unless given."_s, u"number"_s);
     const QCommandLineOption vendor(u"vendor"_s, u"The vendor ID, in hexadecimal: 6A1B unless given."_s, u"ID"_s);
+    const QCommandLineOption another(u"another"_s,
+                                     u"One more printer of this model on the emulated usbfs, with the script of the "
+                                     "first one unless it has its own. May be repeated."_s,
+                                     u"serial[=script]"_s);
 
     QCommandLineParser parser;
     parser.setApplicationDescription(u"Runs a program with an emulated printer on its USB bus, or puts "
                                      "the printer on the bus of a real kernel. "
                                      "Exits with the program's own status, 128 + n if signal n ended it."_s);
-    parser.addOptions({usbfs, usbip, usbredir, join, script, frames, model, serial, vendor});
+    parser.addOptions({usbfs, usbip, usbredir, join, script, frames, model, serial, vendor, another});
     const QCommandLineOption help = parser.addHelpOption();
     parser.addPositionalArgument(u"command"_s, u"The program to run, with its arguments."_s, u"-- command ..."_s);
 
@@ -60,13 +80,16 @@ std::variant<EmulatorOptions, EmulatorOptions::Message> EmulatorOptions::parse(c
             return Message{u"--vendor: "_s + parser.value(vendor) + u" is no vendor ID"_s};
     }
     if (parser.isSet(script)) {
-        QFile file(parser.value(script));
-        if (!file.open(QFile::ReadOnly))
-            return Message{file.fileName() + u": "_s + file.errorString()};
-        ScriptFile parsed = ScriptFile::parse(file.readAll());
-        if (!parsed.complaints.isEmpty())
-            return Message{file.fileName() + u": "_s + parsed.complaints.join(u'\n')};
-        options.script = std::move(parsed.script);
+        if (const QString complaint = readScript(parser.value(script), options.script); !complaint.isEmpty())
+            return Message{complaint};
+    }
+    for (const QString &value : parser.values(another)) {
+        Another printer{value.section(u'=', 0, 0), options.script};
+        const QString file = value.section(u'=', 1);
+        if (const QString complaint = file.isEmpty() ? QString() : readScript(file, printer.script);
+            !complaint.isEmpty())
+            return Message{complaint};
+        options.others.push_back(std::move(printer));
     }
     return options;
 }

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 #include <variant>
+#include <vector>
 
 /// What the command line of printer-emulator asks for.
 struct EmulatorOptions {
@@ -16,6 +17,13 @@ struct EmulatorOptions {
         Usbip,    ///< The kernel's own, until the printer is unplugged.
         Usbredir, ///< That of qemu's machine, until the printer is unplugged.
     };
+
+    /// More printers of the same model, each with a serial number and a script of its own.
+    struct Another {
+        QString serialNumber;
+        PrinterScript script;
+    };
+    std::vector<Another> others; ///< With `Bus::Usbfs`.
 
     QString framesFile;  ///< Empty: frames are not kept.
     QString joinProgram; ///< Empty: the script says what becomes of a configuration.

@@ -58,6 +58,13 @@ int runOnUsbfs(const EmulatorOptions &options, PrinterModel printer, QFile &fram
     UsbfsBed bed(time);
     bed.onFrame([&frames](int, const ReceivedFrame &frame) { keep(frames, frame); });
     bed.addPrinter(std::move(printer));
+    for (const auto &[serialNumber, script] : options.others) {
+        ModelIdentity identity = options.identity;
+        identity.serialNumber = serialNumber;
+        const int number = bed.addPrinter(PrinterModel(identity, script));
+        if (script.plugged)
+            bed.plug(number);
+    }
     if (options.script.plugged)
         bed.plug();
 
