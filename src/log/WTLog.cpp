@@ -26,6 +26,16 @@ bool hasOneProcessor()
     return one;
 }
 
+/// Returns before the logger is done, unless there is only one processor.
+void deliver(const WTLogMessage &message, const WTLoggerNode &to)
+{
+    const auto job = [&logger = *to.logger, &message] { logger.logMessage(message); };
+    if (hasOneProcessor())
+        to.loggerQueue->syncInPlace(job);
+    else
+        to.loggerQueue->async(loggingGroup(), job);
+}
+
 } // namespace
 
 WTLog::WTLog()
@@ -226,15 +236,17 @@ void WTLog::lt_exchange(Registrations changed)
 void WTLog::lt_log(const WTLogMessage &message)
 {
     const auto loggers = registrations();
+    const WTLoggerNode *last = nullptr;
     for (const WTLoggerNode &node : *loggers) {
         if (!node.admits(message))
             continue;
-        const auto deliver = [&logger = *node.logger, &message] { logger.logMessage(message); };
-        if (hasOneProcessor())
-            node.loggerQueue->sync(deliver);
-        else
-            node.loggerQueue->async(loggingGroup(), deliver);
+        if (last)
+            deliver(message, *last);
+        last = &node;
     }
+    // This thread would only wait for the last one, so it does that logger's work itself.
+    if (last)
+        last->loggerQueue->syncInPlace([&] { last->logger->logMessage(message); });
     loggingGroup().wait();
 }
 

@@ -39,10 +39,14 @@ struct SerialQueue::State {
 
     void run();
     bool takeNext(std::list<Entry> &next);
+    bool lend();
+    void giveBack();
 
     QString label;
     std::thread thread;
     std::atomic<qint64> systemThread = 0;
+    /// The thread that runs jobs at the moment: the queue's own, or one that runs a job in place. 0 while none does.
+    std::atomic<qint64> runner = 0;
     std::atomic<quint64> jobsRun = 0;
     std::mutex mutex;
     std::condition_variable wake;
@@ -71,9 +75,37 @@ void nameThread(const QString &label)
 bool SerialQueue::State::takeNext(std::list<Entry> &next)
 {
     std::unique_lock lock(mutex);
-    wake.wait(lock, [this] { return !waiting.empty() || isEnding; });
+    if (runner == systemThread)
+        runner = 0;
+    wake.wait(lock, [this] { return !runner && (!waiting.empty() || isEnding); });
     next.swap(waiting);
-    return !next.empty();
+    if (next.empty())
+        return false;
+    runner = systemThread.load();
+    return true;
+}
+
+/// Whether the caller may run a job in place.
+bool SerialQueue::State::lend()
+{
+    const std::lock_guard lock(mutex);
+    if (runner || !waiting.empty())
+        return false;
+    runner = gettid();
+    return true;
+}
+
+void SerialQueue::State::giveBack()
+{
+    ++jobsRun;
+    bool isWaitedFor = false;
+    {
+        const std::lock_guard lock(mutex);
+        runner = 0;
+        isWaitedFor = !waiting.empty() || isEnding;
+    }
+    if (isWaitedFor)
+        wake.notify_one();
 }
 
 void SerialQueue::State::run()
@@ -149,6 +181,18 @@ void SerialQueue::sync(const Job &job)
     done.wait();
 }
 
+void SerialQueue::syncInPlace(const Job &job)
+{
+    if (!m_state->lend()) {
+        sync(job);
+        return;
+    }
+    const QString *const callersQueue = std::exchange(currentQueue, &m_state->label);
+    job();
+    currentQueue = callersQueue;
+    m_state->giveBack();
+}
+
 bool SerialQueue::isCurrent() const
 {
     return currentQueue == &m_state->label;
@@ -156,7 +200,7 @@ bool SerialQueue::isCurrent() const
 
 bool SerialQueue::runsOnThread(qint64 systemThread) const
 {
-    return m_state->systemThread == systemThread;
+    return m_state->systemThread == systemThread || m_state->runner == systemThread;
 }
 
 quint64 SerialQueue::jobsRun() const

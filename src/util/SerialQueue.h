@@ -37,8 +37,11 @@ public:
     void async(DispatchGroup &group, Job job);
     /// Blocks until `job` has run. Must not be called on the queue itself.
     void sync(const Job &job);
+    /// The same, but a queue with nothing to do lends itself to the caller, who runs `job` without waking its thread.
+    void syncInPlace(const Job &job);
     bool isCurrent() const;
-    /// Whether the thread with this system identifier (gettid) is the queue's own.
+    /// Whether the queue's jobs run on the thread with this system identifier (gettid): on the queue's own thread, or
+    /// on the one that runs a job in place at the moment.
     bool runsOnThread(qint64 systemThread) const;
     /// How many jobs have run: a number that stays the same says that the queue is idle or stands still.
     quint64 jobsRun() const;

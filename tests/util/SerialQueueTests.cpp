@@ -18,6 +18,7 @@ private Q_SLOTS:
     void runsWhatIsQueuedBeforeItEnds();
     void survivesItsEndOnItself();
     void knowsWhereItRuns();
+    void lendsItselfWhileItHasNothingToDo();
     void waitsForAGroupOverSeveralQueues();
     void queuesForTheMainThread();
     void dropsTheActionOfAGoneListener();
@@ -78,6 +79,27 @@ void SerialQueueTests::knowsWhereItRuns()
         QCOMPARE(SerialQueue::currentLabel(), queue.label());
     });
     std::thread([] { QCOMPARE(SerialQueue::currentLabel(), QString()); }).join();
+}
+
+void SerialQueueTests::lendsItselfWhileItHasNothingToDo()
+{
+    SerialQueue queue(u"lent"_s);
+    QSemaphore ranBehind;
+    queue.syncInPlace([&] {
+        QVERIFY(queue.isCurrent() && queue.runsOnThread(gettid()));
+        queue.async([&] { ranBehind.release(); });
+        // Whoever runs a job in place keeps the queue's own thread from the next one.
+        QVERIFY(!ranBehind.tryAcquire(1, 50));
+    });
+    QVERIFY(ranBehind.tryAcquire(1, 5000));
+    QVERIFY(!queue.isCurrent() && !queue.runsOnThread(gettid()));
+
+    for (int round = 0; round < 500; ++round) {
+        QList<int> order;
+        queue.async([&] { order.append(1); });
+        queue.syncInPlace([&] { order.append(2); });
+        QCOMPARE(order, QList<int>({1, 2}));
+    }
 }
 
 void SerialQueueTests::waitsForAGroupOverSeveralQueues()
