@@ -26,7 +26,7 @@ void usePorts(const Machine &machine)
 
 } // namespace
 
-void beginProgram(const Machine &machine)
+QString beginProgram(const Machine &machine)
 {
     InfoList::setResourceFolder(resourceFolder());
     usePorts(machine);
@@ -36,4 +36,5 @@ void beginProgram(const Machine &machine)
     WTApp::wt_systemLog();
     WTManager::shared().setLogPath(logFolder + u"/WTCore-WiFiTool.log"_s);
     WTApp::shared().appLanguage();
+    return logFolder;
 }

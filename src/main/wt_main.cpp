@@ -32,13 +32,14 @@ void showToolkitTexts(QApplication &application)
 
 int wt_main(int argc, char **argv, const Machine &machine, const std::function<void(WTWindow &)> &launched)
 {
-    beginProgram(machine);
+    const QString logFolder = beginProgram(machine);
 
     QApplication application(argc, argv);
-    // The desktop finds the window's icon and name by its entry.
+    // The desktop finds the window's icon and name in the desktop entry of this name.
     QGuiApplication::setDesktopFileName(u"com.quillmark.wifitool"_s);
     showToolkitTexts(application);
-    WizardScreens screens({machine.time, machine.spooler, machine.desktop, machine.hostWiFi, machine.capabilities});
+    WizardScreens screens(
+        {machine.time, machine.spooler, machine.desktop, machine.hostWiFi, machine.capabilities, logFolder});
     AppDelegate delegate;
     delegate.setWindow(&screens.window());
     QObject::connect(&screens.window(), &WTWindow::closeRequested, &delegate, &AppDelegate::closeApplication);

@@ -2,6 +2,8 @@
 
 #include "HostCapabilities.h"
 
+#include <QString>
+
 class DesktopPort;
 class HostWiFiPort;
 class SpoolerPort;
@@ -14,4 +16,5 @@ struct ScreenPorts {
     DesktopPort &desktop;
     HostWiFiPort &hostWiFi;
     HostCapabilities host;
+    QString logFolder = {}; ///< Where the program's log lies; empty where it has none.
 };

@@ -1,11 +1,13 @@
 #include "WizardScreens.h"
 
 #include "Localized.h"
+#include "WTApp.h"
 #include "WTCompleteView.h"
 #include "WTConfigFailedView.h"
 #include "WTConfigStateInfoView.h"
 #include "WTFailedView.h"
 #include "WTInstallingView.h"
+#include "WTManager.h"
 #include "WTNetworkWithManualAddition.h"
 #include "WTPrinterScreenWPSPBCView.h"
 #include "WTSelectPBCModelView.h"
@@ -37,18 +39,18 @@ Screen *makeScreen(WTWindow &window, Arguments &&...arguments)
 
 WizardScreens::WizardScreens(const ScreenPorts &ports, const ProcessEnd &processEnd)
     : m_window(std::make_unique<WTWindow>())
-    , m_startView(makeScreen<WTStartView>(*m_window))
+    , m_startView(makeScreen<WTStartView>(*m_window, WTManager::shared(), WTApp::shared()))
 {
     m_window->setWindowTitle(localized(u"Wi-Fi配置工具"_s));
 
-    auto *unconnect = makeScreen<WTUnconnectView>(*m_window);
+    auto *unconnect = makeScreen<WTUnconnectView>(*m_window, ports.logFolder);
     const NetworkPorts networkPorts{ports.hostWiFi, ports.time, ports.spooler};
     auto *wifiList = makeScreen<WTWiFiListView>(*m_window, networkPorts, ports.desktop);
     auto *manualAdd = makeScreen<WTNetworkWithManualAddition>(*m_window, ports.spooler, ports.desktop);
     auto *installing = makeScreen<WTInstallingView>(*m_window, ports);
     auto *complete = makeScreen<WTCompleteView>(*m_window, ports.desktop, ports.spooler);
-    auto *failed = makeScreen<WTFailedView>(*m_window);
-    auto *configFailed = makeScreen<WTConfigFailedView>(*m_window);
+    auto *failed = makeScreen<WTFailedView>(*m_window, ports.logFolder);
+    auto *configFailed = makeScreen<WTConfigFailedView>(*m_window, ports.logFolder);
     auto *wpsMethod = makeScreen<WTSetWPSMethodView>(*m_window);
     auto *pbcOrPin = makeScreen<WTSelectPBCModelView>(*m_window);
     auto *routerButton = makeScreen<WTUseWPSSetWifiView>(*m_window);

@@ -5,7 +5,6 @@
 #include "WTConfigStateInfoView.h"
 #include "WTFailedView.h"
 #include "WTHoverView.h"
-#include "WTManager.h"
 #include "WTWpsLinkStateView.h"
 #include "WizardBed.h"
 
@@ -167,7 +166,6 @@ void OutcomeTests::completionOpensThePanelOnlyWhenTicked()
 void OutcomeTests::failureScreenSaysWhatHappened()
 {
     WizardBed bed;
-    WTManager::shared().setLogPath(u"/var/log/tool/WTCore.log"_s);
     auto *failed = bed.screen<WTFailedView>();
     failed->setShowWiFiCapabilityError(true);
     failed->setWifiCapabilityError(1);
@@ -175,7 +173,9 @@ void OutcomeTests::failureScreenSaysWhatHappened()
     const auto *message = bed.widget("errorMessage")->findChild<QLabel *>(u"message"_s);
     QCOMPARE(message->text(), u"Wi-Fi故障，打印机配置失败。"_s);
     QVERIFY(bed.widget("logFolder")->isVisible());
-    QVERIFY(qobject_cast<QLabel *>(bed.widget("logFolder"))->text().contains(u"file:///var/log/tool\""_s));
+    QVERIFY(qobject_cast<QLabel *>(bed.widget("logFolder"))
+                ->text()
+                .contains(u"file:///home/person/.local/state/Logs/wifitool\""_s));
 
     // Another reason is shown when the screen appears again.
     failed->setShowWiFiCapabilityError(false);

@@ -42,8 +42,9 @@ WizardBed::WizardBed(std::shared_ptr<UsbTestBed> usb, qsizetype printerCount, co
     WTApp::shared().setAppLanguage(language);
 
     const LogCollector log;
-    m_screens = std::make_unique<WizardScreens>(ScreenPorts{m_usb->time, spooler, desktop, hostWiFi, {}},
-                                                [this] { ++processEnds; });
+    const ScreenPorts ports{m_usb->time, spooler, desktop,
+                            hostWiFi,    {},      QStringLiteral("/home/person/.local/state/Logs/wifitool")};
+    m_screens = std::make_unique<WizardScreens>(ports, [this] { ++processEnds; });
     m_screens->show();
     window().activateWindow();
     if (!QTest::qWaitForWindowActive(&window()))

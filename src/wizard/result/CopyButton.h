@@ -13,7 +13,7 @@ public:
     explicit CopyButton(const QString &title, QWidget *parent = nullptr);
 
     void setCopiedText(const QString &text);
-    /// Says "copied" once it was; the layout's owner puts it beside the button.
+    /// The label that says "copied" after a click; the owner of the layout puts it beside the button.
     LiveLabel *answer() const { return m_answer; }
 
 private:

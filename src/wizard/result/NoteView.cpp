@@ -8,9 +8,9 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-NoteView::NoteView(WizardStep step, const Texts &texts, QWidget *parent)
+NoteView::NoteView(WizardStep step, const Texts &texts, const QString &logFolder, QWidget *parent)
     : WTView(parent)
-    , m_panel(new ResultPanel(texts.pictureName))
+    , m_panel(new ResultPanel(texts.pictureName, logFolder))
     , m_previous(new WTButton)
 {
     m_previous->setObjectName(u"previous"_s);

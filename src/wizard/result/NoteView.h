@@ -22,7 +22,7 @@ protected:
         QString advice;
     };
 
-    NoteView(WizardStep step, const Texts &texts, QWidget *parent);
+    NoteView(WizardStep step, const Texts &texts, const QString &logFolder, QWidget *parent);
 
     ResultPanel *panel() const { return m_panel; }
     WTButton *previousButton() const { return m_previous; }

@@ -7,9 +7,7 @@
 #include "PictureView.h"
 #include "TextFormat.h"
 #include "TextStyle.h"
-#include "WTManager.h"
 
-#include <QFileInfo>
 #include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QUrl>
@@ -37,9 +35,8 @@ protected:
     }
 };
 
-QString folderLink(const QString &logPath)
+QString folderLink(const QString &folder)
 {
-    const QString folder = QFileInfo(logPath).absolutePath();
     const QString address = QString::fromLatin1(QUrl::fromLocalFile(folder).toEncoded());
     const QString link =
         u"<a href=\"%1\" style=\"color: %2\">%3</a>"_s.arg(address, Palette::link.name(), folder.toHtmlEscaped());
@@ -48,7 +45,7 @@ QString folderLink(const QString &logPath)
 
 } // namespace
 
-ResultPanel::ResultPanel(const QString &markName, QWidget *parent)
+ResultPanel::ResultPanel(const QString &markName, const QString &logFolder, QWidget *parent)
     : QWidget(parent)
     , m_message(new LiveLabel({}, TextStyle::Size::Large, Palette::heading))
     , m_cause(new LiveLabel({}, TextStyle::Size::Body, Palette::heading))
@@ -68,6 +65,8 @@ ResultPanel::ResultPanel(const QString &markName, QWidget *parent)
     m_log->setTextFormat(Qt::RichText);
     m_log->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     m_log->setOpenExternalLinks(true);
+    m_log->setVisible(!logFolder.isEmpty());
+    m_log->setText(folderLink(logFolder));
 
     auto *column = new QWidget;
     column->setMaximumWidth(widestText);
@@ -124,12 +123,4 @@ void ResultPanel::setDetails(const QString &line)
 void ResultPanel::addBelow(QWidget *part)
 {
     m_texts->insertWidget(m_texts->indexOf(m_log), part);
-}
-
-void ResultPanel::showEvent(QShowEvent *)
-{
-    const QString logPath = WTManager::shared().logPath();
-    m_log->setVisible(m_showsLogFolder && !logPath.isEmpty());
-    if (!logPath.isEmpty())
-        m_log->setText(folderLink(logPath));
 }

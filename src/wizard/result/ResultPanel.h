@@ -13,7 +13,8 @@ class ResultPanel : public QWidget
     Q_OBJECT
 
 public:
-    explicit ResultPanel(const QString &markName, QWidget *parent = nullptr);
+    /// An empty `logFolder` shows no link.
+    ResultPanel(const QString &markName, const QString &logFolder, QWidget *parent = nullptr);
 
     /// What happened; spoken by screen readers when the panel shows.
     void setMessage(const QString &text);
@@ -21,22 +22,16 @@ public:
     void setAdvice(const QString &text);
     /// Why it happened, below the message; spoken as well. An empty text leaves no gap.
     void setCause(const QString &text);
-    /// One technical line that the person may unfold; none for an empty one.
+    /// One technical line that the person may unfold; an empty one shows nothing.
     void setDetails(const QString &line);
     /// Puts a part of the screen's own below the advice.
     void addBelow(QWidget *part);
-    /// Whether the link to the log's folder is shown; it is by default, if there is a log.
-    void setShowsLogFolder(bool shows) { m_showsLogFolder = shows; }
-
-protected:
-    void showEvent(QShowEvent *event) override;
 
 private:
     LiveLabel *m_message;
     LiveLabel *m_cause;
     QLabel *m_advice;
-    DetailsView *m_details = nullptr; ///< Made when there are some.
+    DetailsView *m_details = nullptr; ///< Made when the first details come.
     QLabel *m_log;
     QVBoxLayout *m_texts;
-    bool m_showsLogFolder = true;
 };

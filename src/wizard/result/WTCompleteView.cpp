@@ -16,7 +16,7 @@ using namespace Qt::Literals::StringLiterals;
 WTCompleteView::WTCompleteView(DesktopPort &desktop, SpoolerPort &spooler, QWidget *parent)
     : WTView(parent)
     , m_desktop(desktop)
-    , m_title(new ResultPanel(u"success"_s))
+    , m_title(new ResultPanel(u"success"_s, {}))
     , m_address(new AddressPanel(spooler))
     , m_addPrinter(new WTButton)
     , m_complateBtn(new WTButton)
@@ -33,7 +33,6 @@ WTCompleteView::WTCompleteView(DesktopPort &desktop, SpoolerPort &spooler, QWidg
         u"现在可以拔掉USB数据线了。要在这台电脑上打印，请把打印机添加到系统：勾选下面的选项，然后点击“完成并退出”。"_s));
     m_title->addBelow(m_address);
     m_title->addBelow(m_addPrinter);
-    m_title->setShowsLogFolder(false);
     auto *frame = new ScreenFrame(this, WizardStep::Done);
     frame->setHeading(localized(u"打印机已连上无线网络"_s));
     frame->content()->addWidget(m_title);

@@ -19,13 +19,13 @@ QString generalAdvice()
 
 } // namespace
 
-WTConfigFailedView::WTConfigFailedView(QWidget *parent)
+WTConfigFailedView::WTConfigFailedView(const QString &logFolder, QWidget *parent)
     : NoteView(WizardStep::SetUp,
                {.pictureName = u"failure"_s,
                 .heading = localized(u"配置没有成功"_s),
                 .message = localized(u"打印机没有接受这次配置。"_s),
                 .advice = generalAdvice()},
-               parent)
+               logFolder, parent)
 {
     connect(previousButton(), &QAbstractButton::clicked, this, &WTConfigFailedView::backAction);
 }

@@ -9,7 +9,7 @@ class WTConfigFailedView : public NoteView
     Q_OBJECT
 
 public:
-    explicit WTConfigFailedView(QWidget *parent = nullptr);
+    explicit WTConfigFailedView(const QString &logFolder, QWidget *parent = nullptr);
 
     /// Set before this screen is pushed; without a cause the screen gives its general advice.
     void setCause(const CauseText &cause);

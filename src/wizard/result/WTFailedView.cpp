@@ -10,9 +10,9 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-WTFailedView::WTFailedView(QWidget *parent)
+WTFailedView::WTFailedView(const QString &logFolder, QWidget *parent)
     : WTView(parent)
-    , m_errorMessage(new ResultPanel(u"failure"_s))
+    , m_errorMessage(new ResultPanel(u"failure"_s, logFolder))
     , m_complateBtn(new WTButton)
 {
     m_errorMessage->setObjectName(u"errorMessage"_s);

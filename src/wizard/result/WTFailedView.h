@@ -12,7 +12,7 @@ class WTFailedView : public WTView
     Q_OBJECT
 
 public:
-    explicit WTFailedView(QWidget *parent = nullptr);
+    explicit WTFailedView(const QString &logFolder, QWidget *parent = nullptr);
 
     void awakeFromNib() override;
     void viewDidApear() override;

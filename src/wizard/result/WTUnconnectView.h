@@ -8,7 +8,7 @@ class WTUnconnectView : public NoteView
     Q_OBJECT
 
 public:
-    explicit WTUnconnectView(QWidget *parent = nullptr);
+    explicit WTUnconnectView(const QString &logFolder, QWidget *parent = nullptr);
 
     void back();
 };

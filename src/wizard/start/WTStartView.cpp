@@ -12,8 +12,10 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-WTStartView::WTStartView(QWidget *parent)
+WTStartView::WTStartView(WTManager &manager, WTApp &app, QWidget *parent)
     : WTView(parent)
+    , m_manager(manager)
+    , m_app(app)
     , m_selectUSB(new WTHoverView(u"usb"_s, localized(u"USB数据线"_s),
                                   localized(u"用数据线连接打印机和电脑。适合第一次使用。"_s)))
     , m_selectWPS(new WTHoverView(u"wps"_s, localized(u"WPS一键配网"_s),
@@ -51,7 +53,7 @@ void WTStartView::viewDidApear()
 
 void WTStartView::ff_discoverPrinter()
 {
-    WTManager::shared().wt_startDiscoverPrinter();
+    m_manager.wt_startDiscoverPrinter();
 }
 
 void WTStartView::selectDone(WTHoverView *item)
@@ -63,8 +65,7 @@ void WTStartView::selectDone(WTHoverView *item)
 void WTStartView::next()
 {
     logInfo("next step");
-    WTManager &manager = WTManager::shared();
-    manager.wt_stopDiscoverPrinter();
+    m_manager.wt_stopDiscoverPrinter();
     if (m_selectWPS->isSelect()) {
         pushView(m_wpsLinkView);
         return;
@@ -73,14 +74,13 @@ void WTStartView::next()
         logError("_selectUSB.isSelect = NO");
         return;
     }
-    const std::optional<WTPrinterPtr> printer = manager.printerList().firstObject();
+    const std::optional<WTPrinterPtr> printer = m_manager.printerList().firstObject();
     if (!printer) {
         pushView(m_unconnectView);
         return;
     }
-    WTApp &app = WTApp::shared();
-    app.checkPcNetState();
-    if (app.powerOnWifi) {
+    m_app.checkPcNetState();
+    if (m_app.powerOnWifi) {
         m_wifiListView->setPrinter(*printer);
         pushView(m_wifiListView);
         m_wifiListView->ff_discoverPrinterAndUpdataWIFIList();

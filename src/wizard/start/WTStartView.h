@@ -4,7 +4,9 @@
 #include "WTView.h"
 
 class TilePair;
+class WTApp;
 class WTDefaultStyleBtn;
+class WTManager;
 class WTNetworkWithManualAddition;
 class WTWiFiListView;
 
@@ -14,7 +16,8 @@ class WTStartView : public WTView, public WTHoverViewDelegate
     Q_OBJECT
 
 public:
-    explicit WTStartView(QWidget *parent = nullptr);
+    /// `manager` and `app` live longer than the screen.
+    WTStartView(WTManager &manager, WTApp &app, QWidget *parent = nullptr);
 
     void setWifiListView(WTWiFiListView *view) { m_wifiListView = view; }
     void setManualAdd(WTNetworkWithManualAddition *view) { m_manualAdd = view; }
@@ -29,6 +32,8 @@ public:
     void next();
 
 private:
+    WTManager &m_manager;
+    WTApp &m_app;
     WTHoverView *m_selectUSB;
     WTHoverView *m_selectWPS;
     TilePair *m_tiles;

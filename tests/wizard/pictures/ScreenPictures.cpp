@@ -1,7 +1,6 @@
 // Saves a picture of every screen as it looks in the middle of a job, and one sheet with all of them, for people to
 // look at. The scale factor is the toolkit's: QT_SCALE_FACTOR=2 screen_pictures ...
 #include "ScreenContents.h"
-#include "WTManager.h"
 #include "WTView.h"
 
 #include <QApplication>
@@ -85,7 +84,6 @@ int main(int argc, char **argv)
     directory.mkpath(u"."_s);
 
     WizardBed bed({ModelIdentity()}, options.positionalArguments().constLast());
-    WTManager::shared().setLogPath(u"/home/person/.local/state/Logs/wifitool/wifitool.log"_s);
     if (!bed.findPrinters())
         return 1;
     if (const QStringList sides = options.value(size).split(u'x'); sides.size() == 2)
