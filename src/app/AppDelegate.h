@@ -4,8 +4,8 @@
 
 class AppWindow;
 
-/// Answers the application's life: brings the main window forward, decides what its close button does, and ends the
-/// program when the session ends. Main thread.
+/// Answers the events of the application's life: brings the main window forward, decides what its close button does,
+/// and ends the program when the session ends. Main thread.
 class AppDelegate : public QObject
 {
     Q_OBJECT
@@ -18,10 +18,10 @@ public:
     /// The window shows: brings it forward and lets its close button ask. From now on a request to quit, which comes
     /// from the session and never from the close button, is answered by `sessionEnds`.
     void applicationDidFinishLaunching();
-    /// The close button's action, by the manager's close state: asks on a sheet, quits at once, or nothing.
+    /// The close button's action, by the manager's close state: asks on a sheet, quits at once, or does nothing.
     void closeApplication();
-    /// Ends the program without a question, so that nobody's log-out is held up. A run under way is broken off and said
-    /// in the log.
+    /// Ends the program without a question, so that nobody's log-out is held up. A run under way is broken off, which
+    /// the log says.
     void sessionEnds();
     void applicationWillTerminate();
     bool applicationSupportsSecureRestorableState() const;

@@ -10,7 +10,7 @@ class AppWindow
 public:
     virtual ~AppWindow() = default;
 
-    /// @param byForce ahead of other programs' windows, instead of asking for it.
+    /// @param byForce brings the window ahead of other programs' windows; otherwise the desktop is asked to do so.
     virtual void comeForward(bool byForce) = 0;
 
     /// Shows a sheet and returns at once; `answered` gets the button's answer, unless the window goes away before.

@@ -2,8 +2,8 @@
 
 #include <array>
 
-/// The boxed drawings at the start and the end of a log, one message per line, UTF-8: nine lines of 80
-/// and ten of 50 characters, each one column wide.
+/// The boxed drawings at the start and the end of a log, one message per line, UTF-8: nine lines of 80 and ten of 50
+/// characters, each character one column wide.
 // clang-format off
 inline constexpr std::array<const char *, 9> startBanner{
     R"(╔══════════════════════════════════════════════════════════════════════════════╗)",

@@ -11,7 +11,7 @@
 namespace
 {
 
-/// Where the signal's handler leaves word. Stays open: a handler may be under way on another thread.
+/// The event descriptor that the signal's handler writes to. Stays open: a handler may be under way on another thread.
 std::atomic<int> descriptor = -1;
 
 void leaveWord(int)

@@ -44,10 +44,11 @@ public:
     QString appFullVersion() const;
 
     // -- language -----------------------------------------------------------------------------------------------
-    /// The interface language's code; the first read decides it and attaches the language's texts. Where no folder has
-    /// exactly that name the texts are English while the code stays what was decided.
+    /// The interface language's code. The first read decides it and attaches its texts; English ones when no language
+    /// folder's name begins with the code. Absent when none could be attached; the next read then decides anew.
     std::optional<QString> appLanguage();
-    /// Attaches the language's texts; afterwards absent when there are none. Absent and empty codes change nothing.
+    /// Attaches the language's texts. When there are none, the next read of `appLanguage` decides anew. Absent and
+    /// empty codes change nothing.
     void setAppLanguage(const std::optional<QString> &code);
     /// Which language it would be, without attaching any: the host's if the resource folder has an entry whose name
     /// begins with it, else "en".
@@ -68,16 +69,16 @@ public:
                                              ///< an open one. Changed by a fetch and by a refresh.
     qint64 selectedRssi = 0;                 ///< The current network's quality in per cent.
 
-    /// Reads all of the above from the host, except the reserved ones and the password, which goes unless it is that of
-    /// the network that is selected now. Where the host names no default interface and has no interface at all, nothing
-    /// changes.
+    /// Reads all of the above from the host, except the reserved ones and the password, which is dropped unless it is
+    /// that of the network that is selected now. Where the host names no default interface and has no interface at all,
+    /// nothing changes.
     void checkPcNetState();
 
     using PasswordCallback = std::function<void(const QString &password)>;
 
     /// Asks for the selected network's stored password, unless the network is open, and puts what comes, empty after a
-    /// failure, into `selectedPassword`. What came for another network goes at once, and an answer that comes when
-    /// another network is selected is not kept.
+    /// failure, into `selectedPassword`. The password of another network is dropped at once, and an answer that comes
+    /// when another network is selected is not kept.
     void fetchWIFIPWD();
     /// The stored password of the network that is selected when the host is asked; `ssid` only decides whether to ask:
     /// an absent one answers at once. The host may ask its user first. Empty after a failure.

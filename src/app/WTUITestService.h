@@ -6,7 +6,7 @@
 #include <optional>
 
 /// Answers an automated user-interface test from the program's launch arguments and environment, which are read at each
-/// call. Nothing of the wizard asks it; it serves test tooling. The application object must exist.
+/// call. The wizard does not use it; it serves test tooling. The application object must exist.
 class WTUITestService
 {
 public:

@@ -39,7 +39,7 @@ private:
     QByteArray m_bytes;
 };
 
-/// A reply header for the log, by its fields; what else may stand in it is not told. Absent for an absent one.
+/// A reply header for the log, by its fields; its other bytes are left out. Absent for an absent one.
 std::optional<QString> describeReplyHeader(const std::optional<QByteArray> &header);
 /// Reply data for the log, by its length alone: a printer may send back what it was told. Absent for absent data.
 std::optional<QString> describeReplyData(const std::optional<QByteArray> &data);

@@ -45,8 +45,8 @@ void sayOnceWhatIsMissing(SpoolerPort &spooler)
     (void)isSaid;
 }
 
-/// Absent when the spooler takes too long. It then goes on being asked on its thread, and not a second time until that
-/// has come to an end.
+/// Absent when the spooler takes too long. The question then stays under way on its thread, and no second one is put
+/// until it has ended.
 std::optional<std::vector<PrintDestination>> answerInTime(SpoolerPort &spooler)
 {
     static std::future<std::vector<PrintDestination>> answer;

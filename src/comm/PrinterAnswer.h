@@ -9,7 +9,7 @@
 /// How a printer command went. The numbers stand in the log.
 enum class WTPrinterStatus : int {
     Success = 0,
-    NoHeader = 1, ///< Also: the printer refused; the result tells.
+    NoHeader = 1, ///< Also when the printer refused, as the result then tells.
     LibraryError31 = 2,
     CommandMismatch = 3,
     DataTooShort = 5,
@@ -46,7 +46,7 @@ enum class ConfigurationResult : quint16 {
 struct ResultAnswer {
     WTPrinterStatus status = WTPrinterStatus::NoHeader;
     quint16 result = 0;                ///< The printer's result code; which enum numbers it, the command tells.
-    std::optional<WTError> cause = {}; ///< What stands behind a status other than success.
+    std::optional<WTError> cause = {}; ///< Why the status is no success.
 
     bool operator==(const ResultAnswer &) const = default;
 };
@@ -55,7 +55,7 @@ struct ResultAnswer {
 struct AddressAnswer {
     WTPrinterStatus status = WTPrinterStatus::NoData;
     QString text;                      ///< The address, else a text that tells the fault.
-    std::optional<WTError> cause = {}; ///< What stands behind a status other than success.
+    std::optional<WTError> cause = {}; ///< Why the status is no success.
 
     bool operator==(const AddressAnswer &) const = default;
 };

@@ -40,11 +40,10 @@ WTError refusal(quint16 cmd, quint16 result);
 /// The usual head callback: logs the header, accepts it, asks for the data that it announces and fills `head`.
 WTCUSBPrinter::HeadCallback usualHeadCallback(quint16 cmd, KeptHead head);
 
-/// What stands behind a reply that is not as it should be: the library's error, else the header's fault, else that
-/// nothing came.
+/// Why a reply is not as it should be: the library's error, else the header's fault, else that nothing came.
 WTError cause(quint16 cmd, const std::optional<WTError> &error, const ReplyHead &head);
 
-/// `callBack`, given the cause as above with every answer that is no success.
+/// Wraps `callBack`, so that every answer that is no success carries its `cause`.
 std::function<void(const ResultAnswer &)> withCause(quint16 cmd, const std::optional<WTError> &error, KeptHead head,
                                                     std::function<void(const ResultAnswer &)> callBack);
 

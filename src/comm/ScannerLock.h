@@ -9,9 +9,9 @@ namespace ScannerLock
 /// The paths that the catalogue names; none if there is no catalogue.
 QStringList configuredPaths();
 
-/// Whether another process holds one of the locks (flock(2)). A file that does not exist or may not be read holds
-/// nothing, and neither does what is no regular file. Never waits. The descriptors of lock files stay open on purpose:
-/// a driver that watches its lock file must not see it closed.
+/// Whether another process holds one of the locks (flock(2)). A file that does not exist, may not be read or is no
+/// regular file counts as not locked. Never waits. The descriptors of lock files stay open on purpose: a driver that
+/// watches its lock file must not see it closed.
 bool isHeld(const QStringList &paths);
 
 } // namespace ScannerLock

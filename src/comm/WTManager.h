@@ -21,7 +21,7 @@
 class SpoolerPort;
 
 /// The process-wide printer manager: the printers on the USB bus, the model catalogue, the printer commands and the
-/// application's close state. `shared()` may be called on any thread, `refreshUSBPrinterList` too.
+/// application's close state. `shared()` and `refreshUSBPrinterList` may be called on any thread.
 class WTManager : public WTCServerDelegate
 {
 public:

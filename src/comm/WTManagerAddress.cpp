@@ -30,7 +30,8 @@ WTCUSBPrinter::HeadCallback askForAnnouncedData(PrinterExchange::KeptHead head)
     };
 }
 
-/// A candidate for the log. A printer may send anything in an address's place, the network's password too.
+/// A candidate for the log, shown only if it is an address: a printer may send anything in its place, the network's
+/// password too.
 std::optional<QString> describeCandidate(const std::optional<QString> &text)
 {
     if (!text || text->isEmpty() || isIPv4Address(*text) || isIPv6Address(*text))
@@ -43,7 +44,7 @@ WTError faultyData(WTPrinterStatus status, const QString &message)
     return {printerErrorDomain, static_cast<int>(status), message};
 }
 
-/// Why no data came: also a printer that has no address yet answers without.
+/// Why no data came. A printer that has no address yet answers without data, too.
 WTError absence(const std::optional<WTError> &error, const PrinterExchange::ReplyHead &head)
 {
     if (error || !head.header)

@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 namespace
 {
 
-/// What the printer needs to switch to its new network before it can be asked for its address.
+/// How long the printer needs to switch to its new network before it can be asked for its address.
 constexpr auto switchPause = 5s;
 
 /// The worker of configurations that are refused before they are sent. It lives as long as the process.

@@ -16,8 +16,8 @@ struct LogFormat {
     std::source_location where;
 };
 
-/// What the program calls: every level, context 0, no tag, the caller's file, function and line, asynchronously.
-/// Placeholders are those of `formatText`. Any thread.
+/// The calls that the program's code logs with. The message has every level, context 0, no tag and the caller's file,
+/// function and line, and is delivered asynchronously. Placeholders are those of `formatText`. Any thread.
 template <typename... Arguments>
 void logError(LogFormat format, const Arguments &...arguments)
 {

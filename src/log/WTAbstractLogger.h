@@ -8,8 +8,8 @@
 #include <memory>
 #include <optional>
 
-/// The base of the loggers: a queue of its own and a formatter. Loggers live in shared pointers; the settings below may
-/// be used on any thread but the logging queue's and the logger's own, once the logger is in one.
+/// The base of the loggers: a queue of its own and a formatter. A logger has to live in a shared pointer before its
+/// settings below are used. They may be used on any thread but the logging queue's and the logger's own.
 class WTAbstractLogger : public WTLogger, public std::enable_shared_from_this<WTAbstractLogger>
 {
 public:
@@ -19,7 +19,7 @@ public:
 
     /// Does nothing.
     void logMessage(const WTLogMessage &message) override;
-    /// Waits for the logging queue, then for the logger's queue: the rule for every setting that may change.
+    /// Waits for the logging queue, then for the logger's queue, as the getter of every setting does that may change.
     std::shared_ptr<WTLogFormatting> logFormatter() const override;
     /// Returns at once; a message logged directly after it may still get the old formatter.
     void setLogFormatter(const std::shared_ptr<WTLogFormatting> &formatter) override;

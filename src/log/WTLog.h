@@ -75,7 +75,7 @@ public:
     /// Every bit for a class that is not registered.
     static quint64 levelForClass(const WTLogClass &candidate);
     static quint64 levelForClassWithName(const QString &name);
-    /// Nothing for a class that is not registered.
+    /// Does nothing for a class that is not registered.
     static void setLevel(quint64 level, const WTLogClass &forClass);
     static void setLevel(quint64 level, const QString &forClassWithName);
 

@@ -14,8 +14,8 @@ enum WTLogFlag : quint64 {
 /// Admits every flag.
 inline constexpr quint64 WTLogLevelAll = ~quint64{0};
 
-/// How a message keeps the texts it was made from. Texts share their storage and never change under a holder, so a copy
-/// reads the same either way.
+/// How a message keeps the texts it was made from. Kept with the message, but without effect: texts share their
+/// storage, so a copy and the original always read the same.
 enum WTLogMessageOption : quint64 {
     WTLogMessageCopyFile = 1,
     WTLogMessageCopyFunction = 2,

@@ -17,7 +17,7 @@ public:
     virtual std::optional<QString> formatLogMessage(const WTLogMessage &message) = 0;
 
     virtual void didAddToLogger(WTLogger &) {}
-    /// Told instead of the plain form, which a formatter that does not care for the queue gets.
+    /// Called in place of the form without a queue, to which it forwards by default.
     virtual void didAddToLogger(WTLogger &logger, SerialQueue & /*inQueue*/) { didAddToLogger(logger); }
     virtual void willRemoveFromLogger(WTLogger &) {}
 };

@@ -49,7 +49,7 @@ public:
     [[nodiscard]] static WTLogMessage initWithMessage(const QString &message, quint64 level, quint64 flag,
                                                       qint64 context, const Place &place, const QVariant &tag,
                                                       quint64 options, std::optional<Date> timestamp);
-    /// The same message, said by another thread than the one that made it.
+    /// The same message with `caller` in place of the thread that made it.
     [[nodiscard]] WTLogMessage spokenBy(const Caller &caller) const;
 
     const QString &message() const { return m_message; }
@@ -74,7 +74,7 @@ public:
     /// The caller's quality-of-service class: always 0, since the system knows none.
     quint32 qos() const { return 0; }
 
-    /// The format is not compared: what it was filled to is.
+    /// Compares everything but the format.
     bool isEqual(const WTLogMessage &other) const;
     size_t hash() const;
 

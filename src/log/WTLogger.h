@@ -24,7 +24,7 @@ public:
     virtual std::shared_ptr<SerialQueue> loggerQueue() const { return nullptr; }
     virtual QString loggerName() const { return {}; }
     virtual void didAddLogger() {}
-    /// Told instead of the plain form, which a logger that does not care for the queue gets.
+    /// Called in place of the form without a queue, to which it forwards by default.
     virtual void didAddLoggerInQueue(SerialQueue & /*queue*/) { didAddLogger(); }
     virtual void willRemoveLogger() {}
 };

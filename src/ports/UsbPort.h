@@ -71,8 +71,8 @@ public:
     virtual WTResult<std::unique_ptr<UsbConnection>> open(const UsbDevice &device) = 0;
 
     /// What `open` would fail with now, its cause included; absent when the device is free. Neither claims anything nor
-    /// talks to the device, and does not wait: a device that another program holds for a moment is held. A device that
-    /// this program has open itself is free. Looks through the running processes for the holder's name, so not on the
-    /// main thread.
+    /// talks to the device, and does not wait: a device that another program holds for a moment counts as held. A
+    /// device that this program has open itself is free. Looks through the running processes for the holder's name, so
+    /// not on the main thread.
     virtual std::optional<WTError> obstacle(const UsbDevice &device) = 0;
 };

@@ -100,7 +100,7 @@ void enumerate(const QList<Element> &list, EnumerationOption option, Block &&blo
     }
 }
 
-/// The same for the places among `indexes`.
+/// The same for the places in `indexes` only.
 template <typename Element, typename Block>
 void enumerateAt(const QList<Element> &list, const IndexSet &indexes, EnumerationOption option, Block &&block)
 {
@@ -180,7 +180,8 @@ void insert(QList<Element> &list, qsizetype index, const QList<Element> &objects
         list.insert(index + offset, objects.at(offset));
 }
 
-/// `objects` come one by one, in order, each to the next of the ascending `indexes`.
+/// Inserts the objects one after the other at the ascending `indexes`; each index counts in the list that has the
+/// earlier objects already.
 template <typename Element>
 void insert(QList<Element> &list, const IndexSet &indexes, const QList<Element> &objects)
 {
@@ -241,7 +242,7 @@ std::optional<Element> takeAt(QList<Element> &list, qsizetype index)
     return list.isEmpty() ? std::nullopt : std::optional(list.takeAt(index));
 }
 
-/// Copies the next `count` objects at most; `changes` tells one state of the array from the next.
+/// Copies the next `count` objects at most; `changes` is how often the list has been changed.
 template <typename Element>
 qsizetype nextBatch(const QList<Element> &list, quint64 changes, ArrayEnumerationState &state, Element *objects,
                     qsizetype count)

@@ -2,7 +2,8 @@
 
 #include "LockedArray.h"
 
-/// A locked array with the operations of a queue, a stack and a pack of cards. See `LockedArray` for the others.
+/// A locked array that also takes objects out at either end, reverses and shuffles. See `LockedArray` for the other
+/// operations.
 template <typename Element>
 class BKThreadSafeArray : public LockedArray<BKThreadSafeArray<Element>, Element>
 {
@@ -19,7 +20,7 @@ public:
             return index >= 0 && index < list.size() ? std::optional(list.at(index)) : std::nullopt;
         });
     }
-    /// Each object with the same chance; absent when there is none.
+    /// Any object, each with the same chance; absent when there is none.
     std::optional<Element> randomObject() const
     {
         return this->read([](const List &list) {

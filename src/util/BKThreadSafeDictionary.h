@@ -48,7 +48,7 @@ public:
         setDictionary(other.contents());
         return *this;
     }
-    /// A dictionary needs no room ahead.
+    /// The capacity is ignored.
     static BKThreadSafeDictionary initWithCapacity(qsizetype /*capacity*/) { return {}; }
 
     // Reading

@@ -31,7 +31,7 @@ public:
         : m_action(std::move(action))
     {
     }
-    /// The event is moved from the caller's object: nothing writes to the action after that.
+    /// The event is made by moving the caller's object: nothing writes to the action after that.
     Handover(Handover &&other) noexcept
         : m_action(std::move(other.m_action))
     {

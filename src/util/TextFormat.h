@@ -44,9 +44,8 @@ private:
 
 /// The program's one formatting function. Placeholders: `%@` any argument as text; `%d %ld %i` signed, `%u %lu %hu
 /// %llu` unsigned, `%X %x` hexadecimal, each with an optional zero flag and width (`%04X`); a width before `@` fills up
-/// with spaces on the left (`%6@`);
-/// `%s` as `%@`; `%%` a per cent sign. A placeholder without an argument prints as "(null)", a text in a
-/// numeric placeholder as itself, and anything else after a per cent sign stays as it stands.
+/// with spaces on the left (`%6@`); `%s` as `%@`; `%%` a per cent sign. A placeholder without an argument prints as
+/// "(null)", a text in a numeric placeholder as itself, and anything else after a per cent sign stays as it stands.
 QString formatText(QStringView format, std::initializer_list<FormatArgument> arguments);
 
 template <typename... Arguments>

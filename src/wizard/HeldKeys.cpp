@@ -5,7 +5,7 @@
 namespace
 {
 
-/// Some desktops tell a held key as a release and a press of the same instant, without calling it a repeat. No finger
+/// Some desktops report a held key as a release and a press of the same instant, without calling it a repeat. No finger
 /// is that fast.
 constexpr quint64 shortestPause = 5;
 

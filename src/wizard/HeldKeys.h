@@ -3,7 +3,7 @@
 #include <QObject>
 
 /// Lets Enter and Escape act once for as long as they are held, wherever the keyboard is: the first press may have
-/// brought the screen, or the sheet, that the next one would act on. Lives on the application, filters its events.
+/// brought the screen, or the sheet, that the next one would act on. An event filter of the application.
 class HeldKeys : public QObject
 {
     Q_OBJECT

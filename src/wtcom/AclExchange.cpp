@@ -52,7 +52,7 @@ void AclExchange::run()
 {
     const auto start = m_environment.time.now();
     try {
-        // Revoking the deadline waits for it, so that it never meets an exchange that has gone.
+        // Destroying the deadline waits for its action, which so never runs on an exchange that is gone.
         const auto deadline = m_environment.time.after(m_request.timeout, [this] { breakOff(BreakOff::TimedOut); });
         exchange();
     } catch (const std::exception &exception) {

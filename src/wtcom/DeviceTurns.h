@@ -22,7 +22,7 @@ public:
         Turn(const Turn &) = delete;
         Turn &operator=(const Turn &) = delete;
 
-        /// What the device may still say about earlier exchanges. As it is at the end, the next turn finds it.
+        /// What the device may still say about earlier exchanges. The next turn gets it as this one leaves it.
         EarlierReplies earlierReplies;
 
     private:

@@ -33,7 +33,7 @@ qsizetype announcedData(QByteArrayView header)
 
 void EarlierReplies::drop(QByteArray bytes)
 {
-    // Where a reply begins in them is not known.
+    // A reply may begin anywhere in these bytes.
     m_rest = std::max(m_rest, bytes.size());
     take(bytes, std::ssize(m_asked));
     headerCame(bytes);

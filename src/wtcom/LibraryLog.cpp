@@ -33,7 +33,7 @@ void LibraryLog::configure(const QString &path, int levelMask)
     if (m_path == path && (path.isEmpty() || m_file.isOpen()))
         return;
     m_path = path;
-    // Without its file the library works in silence.
+    // If the file cannot be opened, the library logs nothing.
     m_file = path.isEmpty() ? FileDescriptor() : FileDescriptor::ofRegularFile(path, O_RDWR | O_CREAT | O_APPEND);
 }
 
@@ -57,6 +57,6 @@ void LibraryLog::dropOldLines()
     if (length < 0 || ftruncate(m_file.get(), 0) != 0)
         return;
     latest.truncate(length);
-    // The first of them is in all likelihood not whole.
+    // The first line was probably cut in two.
     static_cast<void>(m_file.writeAll(latest.sliced(latest.indexOf('\n') + 1)));
 }

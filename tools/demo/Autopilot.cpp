@@ -18,8 +18,7 @@ namespace
 {
 
 constexpr auto reactionTime = 5s;
-/// In milliseconds. A screen that has just come to show needs some turns of the event loop until its texts have their
-/// final places.
+/// In milliseconds. A screen that has just appeared needs some turns of the event loop until its texts are laid out.
 constexpr int settlingTime = 50;
 
 /// Lets the event loop run until `condition` holds; false when `limit` has passed before.

@@ -17,7 +17,7 @@ class Autopilot : public QObject
 
 public:
     /// @param pictures the folder for the pictures, which must exist.
-    /// @param speed how many times shorter than told to look at each screen.
+    /// @param speed by how much to divide the time that each screen is looked at.
     Autopilot(const Story &story, WTWindow &window, const QDir &pictures, int speed);
 
     /// Begins as soon as the event loop runs.

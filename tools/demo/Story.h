@@ -33,7 +33,7 @@ struct Visit {
     bool awaitsPrinter = false;        ///< Go on only when the printer has been found.
 };
 
-/// A walk through the wizard with a printer that plays its part.
+/// A walk through the wizard, and the printer and computer that it meets.
 struct Story {
     QString name;
     QString summary;

@@ -62,7 +62,7 @@ void printStories()
         std::printf("%-16s %s\n", qPrintable(story.name), qPrintable(story.summary));
 }
 
-/// Whether the printer was told the network and the password that the story says.
+/// Whether the printer got the network and the password of the story, in sound frames only.
 bool wasToldWell(const PrinterRecord &record, const Story &story)
 {
     if (record.networkName == story.networkName && record.password == story.password && record.allSound())

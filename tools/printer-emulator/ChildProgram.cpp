@@ -77,7 +77,7 @@ int ChildProgram::wait()
     for (;;) {
         siginfo_t signal{};
         ::sigwaitinfo(&signals, &signal);
-        // The terminal has told the child as well; another process has told only us.
+        // A signal of the terminal goes to the child as well; a signal of another process came only to this one.
         if (signal.si_signo != SIGCHLD && signal.si_code <= 0)
             ::kill(m_pid, signal.si_signo);
         int status = 0;

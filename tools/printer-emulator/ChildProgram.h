@@ -10,14 +10,16 @@
 class ChildProgram
 {
 public:
-    /// Keeps the signals that end a program for `wait`, in every thread that starts afterwards; before the first one.
+    /// Blocks the signals that end a program, so that `wait` receives them. Threads inherit this: call it before the
+    /// first one starts.
     static void holdSignals();
 
-    /// Starts the command with these variables added to the environment. Absent when it cannot be started; then `errno`
+    /// Starts the command with these variables added to the environment. Absent when it cannot be started; `errno` then
     /// tells why.
     static std::optional<ChildProgram> start(const QStringList &command, const std::vector<QByteArray> &variables);
 
-    /// Waits for its end and hands it the signals that arrive meanwhile. Returns its exit status, 128 + n for signal n.
+    /// Waits until the program ends, and passes on to it the signals that arrive meanwhile. Returns the program's exit
+    /// status, or 128 + n when signal n ended it.
     int wait();
 
 private:

@@ -31,7 +31,7 @@ struct EmulatorOptions {
     QString socket;      ///< With `Bus::Usbredir`.
     QStringList command; ///< With `Bus::Usbfs`.
 
-    /// The command line does not ask for a run: print this and leave.
+    /// What to print in place of a run: help, or what is wrong with the command line.
     struct Message {
         QString text;
         bool isError = true;

@@ -16,7 +16,7 @@ std::optional<QByteArray> JoinProgram::operator()(const QByteArray &name, const 
     program.start(m_path, {});
     program.write(name + '\0' + password + '\0');
     program.closeWriteChannel();
-    // Going out of scope kills what has not finished.
+    // The destructor of `program` kills what has not finished.
     if (!program.waitForFinished(int(limit.count())) || program.exitStatus() != QProcess::NormalExit ||
         program.exitCode() != 0)
         return std::nullopt;

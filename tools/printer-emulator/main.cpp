@@ -18,7 +18,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-/// As other programs that run programs have them.
+/// The same as those of env(1) and timeout(1).
 enum ExitStatus { EmulatorFailed = 125, NotExecutable = 126, NotFound = 127 };
 
 void complain(const QString &text)
@@ -26,7 +26,7 @@ void complain(const QString &text)
     std::fprintf(stderr, "printer-emulator: %s\n", qPrintable(text));
 }
 
-/// Sound or not, a frame is kept; what is wrong with it is told.
+/// Writes the frame to the file, sound or not, and complains of what is wrong with it.
 void keep(QFile &file, const ReceivedFrame &frame)
 {
     if (file.isOpen()) {
@@ -37,8 +37,8 @@ void keep(QFile &file, const ReceivedFrame &frame)
         complain(u"frame %1 is wrong: %2"_s.arg(frame.command, 4, 16, QLatin1Char('0')).arg(frame.verdict()));
 }
 
-/// The variables that bring the emulated bus into a program. The guard stands in front of umockdev's own library.
-/// Address sanitizer's runtime, should the program have one, insists on being first unless told otherwise.
+/// The variables that bring the emulated bus into a program. The guard stands in front of umockdev's own library. The
+/// runtime of AddressSanitizer, if the program has it, would refuse to come behind them.
 std::vector<QByteArray> childVariables()
 {
     const QByteArray guard =
@@ -87,7 +87,7 @@ int run(const EmulatorOptions &options)
 {
     QFile frames(options.framesFile);
     if (!options.framesFile.isEmpty()) {
-        // The frames hold the network's password.
+        // For the owner only: the frames hold the network's password.
         if (!frames.open(QFile::Append, QFile::ReadOwner | QFile::WriteOwner)) {
             complain(frames.fileName() + u": "_s + frames.errorString());
             return EmulatorFailed;

@@ -12,15 +12,16 @@ public:
     using Networks = std::vector<WTWiFiPtr>;
 
     int row() const { return m_row; }
-    /// A name was typed, and since then no row was chosen and no search begun.
+    /// Whether a name was typed, and since then no row was chosen and no search begun.
     bool editedSSID() const { return m_editedSSID; }
-    /// The person chose or typed something since the last search began: its answer must leave that alone.
+    /// Whether the person chose or typed something since the last search began, which the search's answer must leave
+    /// alone.
     bool isTouched() const { return m_touched; }
 
     void chooseRow(int row);
     void nameTyped();
     void passwordTyped();
-    /// The person wants the networks looked for: the first row is the choice until they choose or type.
+    /// A search begins: the first row is the choice until the person chooses or types.
     void beginSearch();
     /// Row 0 again, and a new object for `selectedWiFi`.
     void reset();
@@ -33,10 +34,11 @@ public:
     /// networks. An empty name stands for what the field holds already.
     std::optional<NetworkEntry> filledFields(const Networks &networks, const NetworkEntry &fields);
 
-    /// The rows are others now: a row that the person chose stays with its network, the first row stays the first. When
-    /// the network is gone, its name in the field counts as typed.
+    /// The list has changed: a row that the person chose moves with its network; a first row that nobody chose stays
+    /// the first. When the network is gone, its name in the field counts as typed.
     void followNetwork(const Networks &before, const Networks &after);
-    /// A stored password that comes now may go into the field: the first row is the choice, and nothing was typed.
+    /// Whether a stored password that comes now may go into the field: the first row is the choice, and nothing was
+    /// typed.
     bool takesLatePassword() const { return m_row == 0 && !m_editedSSID && !m_passwordTyped; }
 
 private:

@@ -17,12 +17,14 @@ inline constexpr qsizetype maximumPasswordBytes = WiFiConfigurationPayload::pass
 QString cutName(const QString &name);
 QString cutPassword(const QString &password);
 
-/// Whether all of it are signs that the password field takes: printable ASCII and ¥ € £ •, at most 64.
+/// Whether the password field takes the whole text: at most 64 characters, each of them printable ASCII or one of ¥ € £
+/// •.
 bool isVailePassword(const QString &password);
-/// What the password field is to hold once an edit has made it `typed`: that, cut; or `lastValid` again.
+/// What the password field is to hold after an edit: `typed`, cut to the field's length, or `lastValid` when the field
+/// does not take that.
 QString passwordAfterEdit(const QString &typed, const QString &lastValid);
 
-/// No name, or nothing but blanks.
+/// Whether the name is empty or nothing but blanks.
 bool isNoName(const QString &name);
 /// Whether a printer can be told to join a network of this name.
 bool isNameUsable(const QString &name);

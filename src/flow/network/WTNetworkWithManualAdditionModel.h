@@ -16,8 +16,7 @@ public:
     /// Whether the printer's print queue is busy. Waits for the spooler.
     bool isWorkingWithPrintType(const QString &printType) const;
 
-    /// Wakes the printer and has it print its information page. `sent` gets the printer's answer, on the main
-    /// thread.
+    /// Wakes the printer and makes it print its information page. `sent` gets the printer's answer, on the main thread.
     static void printInformationPage(const WTPrinterPtr &printer,
                                      const std::function<void(const ResultAnswer &)> &sent);
 

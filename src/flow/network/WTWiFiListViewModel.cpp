@@ -133,7 +133,7 @@ bool WTWiFiListViewModel::waitForPermission(Occasion occasion, const StatusCallb
     });
     const quint64 search = m_search;
     wait.exec();
-    // The end of the program ends the wait, too; that is not the host's silence.
+    // The end of the program ends the wait, too, which does not mean that the host was silent.
     if (hasAnswer || !isOver || m_search != search)
         return true;
     logWarning("no answer within %d seconds whether networks may be looked for", int(permissionWait.count() / 1000));

@@ -23,7 +23,7 @@ public:
     // -- networks -----------------------------------------------------------------------------------------------
     const std::vector<WTWiFiPtr> &list_WIFI() const { return m_list; }
 
-    /// The person wants the networks looked for. Before `waitForPermission` or `readHostState`.
+    /// Begins a search of the person's. Called before `waitForPermission` or `readHostState`.
     void beginSearch();
     /// Asks for the visible networks and calls back when the list is the new one, or, after a failure, the old one. The
     /// answer to an earlier call is dropped.
@@ -42,14 +42,14 @@ public:
     /// The network that the computer was joined to when the permission was given last.
     std::optional<QString> currentSSID() const { return m_currentSSID; }
 
-    /// The host must be asked before the networks are looked for.
+    /// Whether the host must be asked before the networks are looked for.
     static bool needsPermission();
-    /// Asks for that permission and gives the host 5 seconds of events to answer, each time to `answered`.
+    /// Asks for that permission and runs the event loop for 5 seconds. Each answer of the host goes to `answered`.
     /// @return false when the five seconds ended without an answer, and no later search is waiting for one.
     bool waitForPermission(Occasion occasion, const StatusCallback &answered);
     /// Where no permission is needed: reads the host's state and asks for the joined network's password.
     void readHostState(Occasion occasion);
-    /// The password at hand belongs to another network than the computer is joined to now.
+    /// Whether the password at hand belongs to another network than the computer is joined to now.
     static bool mustFetchPassword(bool isConnected, const std::optional<QString> &joined,
                                   const std::optional<QString> &current);
 
@@ -57,7 +57,7 @@ public:
     bool isWorkingWithPrintType(const QString &printType) const;
     /// Whether a scan job holds the printer.
     static bool isScanAvaiable();
-    /// One of the two.
+    /// Whether the print queue is busy or a scan job holds the printer.
     bool isPrinterBusy(const QString &printType) const;
 
     // -- what may be typed --------------------------------------------------------------------------------------
@@ -69,7 +69,7 @@ public:
     static bool isLegalPwd(const QString &password, qint64 authMode);
     /// A name of 1 to 32 bytes of UTF-8, and a password that is legal for the first listed network of that name.
     bool canGoNext(const NetworkEntry &fields) const;
-    /// What to say of the fields before anything is sent.
+    /// The hint for the fields, in the interface language; empty for none.
     QString hint(const NetworkEntry &fields) const;
 
     QObject *view = nullptr; ///< The screen; not used for logic.

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// What the failure screen says; keys of their translations.
+/// What the failure screen says, as keys of the translations.
 struct FailureText {
     QString text;   ///< What happened.
     QString advice; ///< What one can do about it.

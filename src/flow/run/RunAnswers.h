@@ -40,7 +40,7 @@ struct AddressDecision {
     enum class Action {
         Succeed,
         Retry,
-        Nothing, ///< The run waits no further and asks no more.
+        Nothing, ///< The run asks no more, but does not end.
     };
 
     Action action = Action::Nothing;

@@ -6,11 +6,11 @@
 #include <functional>
 #include <utility>
 
-/// Runs one action after the other on a thread of their own that lives as long as the process, so that no end of the
-/// program waits for one. What an action uses must live as long.
+/// Runs one action after the other on a background thread that lives as long as the process, so that the end of the
+/// program never waits for an action. What an action uses must live as long.
 void runInBackground(std::function<void()> action);
 
-/// Whether all that was given so far has run.
+/// Whether all actions given so far have run.
 bool isBackgroundIdle();
 
 /// Asks something that takes its time, and hands the answer to `done` on the main thread, if `listener` lives then.

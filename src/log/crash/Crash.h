@@ -4,11 +4,11 @@
 #include <QStringList>
 #include <array>
 
-/// What is known of a crash at its place: plain copies, taken without memory of the heap when it is a signal.
+/// What is known of a crash at the place where it happens. For a signal it is collected without allocating memory.
 struct Crash {
     static constexpr int mostAddresses = 128;
 
-    /// The thread the caller runs on, with its call stack.
+    /// The current thread, with its call stack.
     static Crash ofCurrentThread();
 
     /// Each return address as text, innermost first.

@@ -35,7 +35,8 @@ QString exceptionName(const Crash &crash)
     return crash.signal == 0 ? crash.exceptionName : u"UncaughtExceptionHandlerSignalExceptionName"_s;
 }
 
-/// An exception's call stack a line each; a signal's as the description of a dictionary that holds it and the number.
+/// The call stack. For an exception one line for each address; for a signal in the form of a dictionary that holds the
+/// addresses and the signal's number.
 QString stackText(const Crash &crash)
 {
     if (crash.signal == 0) {

@@ -5,11 +5,11 @@
 #include <QString>
 #include <chrono>
 
-/// "…SIGSEGV…" in here ends the process after the report.
+/// What the report gives as the reason: the exception's text, or that of the signal.
 QString crashReason(const Crash &crash);
 
 /// The report of a crash that happened at `moment`, made on any healthy thread.
 QString crashReportText(const Crash &crash, std::chrono::system_clock::time_point moment);
 
-/// "2026-03-09 08:05:07.007 +0100": the seconds stand again behind the point, in three digits.
+/// "2026-03-09 08:05:07.007 +0100": the three digits behind the point repeat the seconds.
 QString crashReportDate(std::chrono::system_clock::time_point moment);

@@ -32,7 +32,7 @@ struct Mailbox {
     Crash crash;
     quint64 number = 0;
     sem_t filled{};
-    /// Crashes are numbered in the order they were handed over; all up to this one are dealt with.
+    /// The number of the last crash whose report is done. Crashes are numbered in the order they were handed over.
     std::atomic<quint64> reported = 0;
     std::atomic<qint64> reportingThread = 0;
 };
@@ -46,7 +46,7 @@ Mailbox &mailbox()
 void writeReport(const Crash &crash)
 {
     const QString report = crashReportText(crash, std::chrono::system_clock::now());
-    // Not this place: reports of every version of the program name the same one, so that a search finds them all.
+    // A fixed place instead of this one, so that a search for it finds the reports of every version of the program.
     const WTLogMessage::Place place{u"WTExceptionHandler"_s, u"void HandleException(NSException *__strong)"_s, 141};
     const auto message = WTLogMessage::initWithFormat(u"崩溃信息：%@"_s, {FormatArgument(report)}, WTLogLevelAll,
                                                       WTLogFlagError, 0, place, {}, 0, std::nullopt);
@@ -70,7 +70,7 @@ void reportForEver()
     }
 }
 
-/// Lets the allocator give every thread an arena of its own, however many there are, where it would let them share.
+/// Gives every thread an arena of its own; by default the allocator lets threads share arenas when there are many.
 void keepArenasApart()
 {
     constexpr int mostThreads = 1000;
@@ -99,7 +99,7 @@ void start()
 {
     keepArenasApart();
     sem_init(&mailbox().filled, 0, 0);
-    // The thread inherits a mask that blocks every signal: it is for those of the others.
+    // The thread inherits a mask that blocks every signal, so that signals are handled on the other threads.
     sigset_t all;
     sigset_t before;
     sigfillset(&all);

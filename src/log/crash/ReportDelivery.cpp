@@ -70,7 +70,7 @@ void ReportDelivery::deliver(const std::vector<WTLoggerNode> &loggers, const WTL
 {
     const auto hasCrashed = [&](const WTLoggerNode &node) { return node.loggerQueue->runsOnThread(crashedThread); };
     SerialQueue &loggingQueue = WTLog::loggingQueue();
-    // It waits for its loggers, so when one of them has crashed it does not get on, either.
+    // The logging queue waits for its loggers: when one of them has crashed, the queue stands still, too.
     if (!loggingQueue.runsOnThread(crashedThread) && std::ranges::none_of(loggers, hasCrashed))
         waitUntilReached(loggingQueue);
 

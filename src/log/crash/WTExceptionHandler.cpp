@@ -103,7 +103,7 @@ QString reasonOfCurrentException()
     abortWithoutReport();
 }
 
-/// For the main thread, which nobody's code begins. The program's other threads begin with one of these.
+/// The main thread's stack for signal handlers. Other threads of the program make their own where they begin.
 void giveMainThreadItsSignalStack()
 {
     [[maybe_unused]] static const auto *const stack = new AlternateSignalStack;

@@ -7,12 +7,12 @@
 #include <memory>
 #include <thread>
 
-/// Runs an action on a queue when a descriptor has become readable; a thread of its own waits for that. Destroyed on
-/// that queue, it runs no action any more.
+/// Runs an action on a queue when a descriptor has become readable; a thread of its own waits for that. Once it is
+/// destroyed on that queue, the action does not run any more.
 class DescriptorSource
 {
 public:
-    /// Takes what waits in the descriptor and says whether the action is due. Runs on the waiting thread.
+    /// Reads from the descriptor and answers whether the action is due. Runs on the waiting thread.
     using Reader = std::function<bool(int descriptor)>;
     using Action = std::function<void()>;
 

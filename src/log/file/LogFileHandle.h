@@ -16,8 +16,7 @@ public:
     int descriptor() const { return m_file.get(); }
 
     FileError seekToEnd();
-    /// Whether the end that `seekToEnd` found lies inside a line of somebody else: a writer that was killed in the
-    /// midst of it.
+    /// Whether the end that `seekToEnd` found lies inside a line of another writer, which was killed while it wrote.
     bool endsInTornLine() const;
     /// At the position that `seekToEnd` found: all the bytes or none.
     FileError write(QByteArrayView bytes);
@@ -34,6 +33,6 @@ private:
     QString m_path;
     FileDescriptor m_file;
     off_t m_end = 0;
-    /// Behind the last bytes written here: whatever lies between it and the end is another writer's.
+    /// The end of the last bytes written here: what lies between it and the end of the file is another writer's.
     off_t m_ownEnd = 0;
 };

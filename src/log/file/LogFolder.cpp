@@ -59,7 +59,8 @@ QString temporaryLogs()
     return *own;
 }
 
-/// A file under a name that it loses with this object. It stays, if it was given another name by then.
+/// A file under a temporary name, which is removed with this object. A file that has another name by then stays under
+/// that one.
 class TemporaryFile
 {
 public:

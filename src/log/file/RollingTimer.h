@@ -2,7 +2,8 @@
 
 #include "DescriptorSource.h"
 
-/// Runs an action once on a queue, at a time of day: a clock that is set forward makes it due.
+/// Runs an action once on a queue, at a moment of the wall clock: setting the clock forward past that moment makes the
+/// action due.
 class RollingTimer
 {
 public:

@@ -28,8 +28,8 @@ void reportException(const QString &what)
         LogConsole::report("WTFileLogger.logMessage: Too many exceptions -- will not log any more of them.");
 }
 
-/// Behind whatever the file holds by now. With `endsTornLine`, the rest of a line that a killed writer left gets its
-/// line end first. An error says that nothing was tried to be written.
+/// Appends `data` to what the file holds by now. With `endsTornLine`, a torn line that a killed writer left at the end
+/// gets its line end first. An error means that no write was tried.
 FileError append(LogFileHandle &file, const QByteArray &data, bool endsTornLine)
 {
     if (FileError error = file.seekToEnd()) {
@@ -42,8 +42,8 @@ FileError append(LogFileHandle &file, const QByteArray &data, bool endsTornLine)
     return {};
 }
 
-/// The same under the lock, so that no other process writes in between. Tries again for as long as the lock is refused
-/// for a reason that passes.
+/// The same under the file's lock, so that no other process writes in between. Tries again for as long as the lock is
+/// refused for a reason that passes.
 FileError appendLocked(LogFileHandle &file, const QByteArray &data, bool endsTornLine)
 {
     for (;;) {
@@ -77,7 +77,7 @@ WTFileLogger::WTFileLogger(std::shared_ptr<WTLogFileManaging> logFileManager,
 
 WTFileLogger::~WTFileLogger()
 {
-    // Nothing runs on the queue for this logger any more: whatever does holds it.
+    // No job of this logger is on the queue any more, since each job holds the logger.
     lt_closeLogFile();
 }
 

@@ -36,7 +36,7 @@ public:
     /// Whether files of earlier runs are left alone.
     bool doNotReuseLogFiles() const { return m_doNotReuseLogFiles; }
     void setDoNotReuseLogFiles(bool doNotReuse) { m_doNotReuseLogFiles = doNotReuse; }
-    /// Whether text that a formatter made ends its line here, too.
+    /// Whether a line end is added to text that a formatter made.
     bool automaticallyAppendNewlineForCustomFormatters() const { return m_appendNewline; }
     void setAutomaticallyAppendNewlineForCustomFormatters(bool append) { m_appendNewline = append; }
     std::shared_ptr<WTLogFileManaging> logFileManager() const { return m_logFileManager; }
@@ -53,8 +53,8 @@ public:
     void willRemoveLogger() override;
 
 protected:
-    /// Hooks around each write, on the logger's queue. An override of `didLogMessage` calls this one, or size rolling
-    /// ends.
+    /// Hooks around each write, on the logger's queue. An override of `didLogMessage` has to call this one, which rolls
+    /// a file that is too large.
     virtual void willLogMessage(const WTLogFileInfo &logFileInfo);
     virtual void didLogMessage(const WTLogFileInfo &logFileInfo);
     /// The older form of the hooks; a subclass that overrides them gets no call of the newer ones. Called from outside

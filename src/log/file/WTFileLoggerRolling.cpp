@@ -7,7 +7,8 @@
 namespace
 {
 
-/// The system lacks watches or timers for good or for a long time, and every log file would say so again.
+/// Reports that the system has no watch or no timer to give. This lasts, so the report would come again with every log
+/// file.
 void sayOnce(const char *what)
 {
     static std::atomic<const char *> said = nullptr;
@@ -49,7 +50,7 @@ void WTFileLogger::lt_openLogFile()
         return;
     FileError error = m_currentLogFileHandle.open(info->filePath());
     if (error) {
-        // It vanished since it was chosen, or may not be written: a new one takes its place.
+        // The file vanished since it was chosen, or may not be written: a new one takes its place.
         LogConsole::report("WTFileLogger: Failed to open log file: %@", error.description());
         info = lt_createLogFile();
         if (!info)
@@ -86,7 +87,7 @@ std::optional<WTLogFileInfo> WTFileLogger::lt_currentLogFileInfo()
     if (m_currentLogFileInfo) {
         if (lt_shouldUseLogFile(*m_currentLogFileInfo, false))
             return m_currentLogFileInfo;
-        // Another process has archived it: what is written from now on goes to the new file as well.
+        // Another process has archived the file: this one writes to a new file, too.
         lt_closeLogFile();
         return lt_createLogFile();
     }

@@ -5,7 +5,7 @@
 #include <array>
 #include <span>
 
-/// The settings panels of the desktops. Of each list the first one counts that this computer has.
+/// The settings panels of the desktops. In each list the first panel that this computer has is the one that opens.
 namespace DesktopPanels
 {
 

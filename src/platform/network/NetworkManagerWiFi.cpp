@@ -15,7 +15,7 @@ namespace
 
 const QString errorDomain = QStringLiteral("NetworkManager");
 
-/// How long a system bus that was not there is left alone.
+/// The pause before the next attempt to reach a system bus that was not there.
 constexpr TimePort::Duration busRetryPause = std::chrono::seconds(5);
 
 WTError noDevice()

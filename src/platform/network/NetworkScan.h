@@ -6,9 +6,9 @@
 
 #include <NetworkManager.h>
 
-/// Asks the device to look around and calls `done` once, on the network thread: when the time of the device's last scan
-/// is newer than now, or with the networks known by then when 10 s have passed, when the host refuses to scan again so
-/// soon, or when `cancellable` is cancelled. `thread` and `time` live until then.
+/// Asks the device to look around and calls `done` once, on the network thread: when the device has scanned since this
+/// call, or with the networks known by then when 10 s have passed, when the host refuses to scan again so soon, or when
+/// `cancellable` is cancelled. `thread` and `time` live until then.
 ///
 /// To be called on the network thread, by .cpp files of this folder.
 void startNetworkScan(NMDeviceWifi *device, NetworkThread &thread, TimePort &time, GCancellable *cancellable,

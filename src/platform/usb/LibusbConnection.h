@@ -35,7 +35,7 @@ private:
     /// Reads into `m_unread`.
     std::optional<WTError> fill(qsizetype wanted);
     QString reading() const;
-    /// What a failure that is handed on was due to.
+    /// The failure, or "unplugged" if the device has left the bus (`unlessUnplugged`).
     WTError judged(const WTError &failure, const QString &what) const;
     void endTransfer(bool &reason);
 

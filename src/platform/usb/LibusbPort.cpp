@@ -130,8 +130,8 @@ void LibusbPort::State::replaceWatch(std::shared_ptr<Watch> next)
     watch.swap(next);
     if (!thread.isCurrent())
         reportEnded.wait(lock, [this] { return !reporting; });
-    // `next` holds the watch that was. It goes after the lock, since what its listener has captured may do anything
-    // then.
+    // `next` holds the earlier watch. It is destroyed without the lock, since destroying what its listener has captured
+    // may call back.
     lock.unlock();
 }
 
@@ -154,7 +154,7 @@ WTResult<LocatedPrinter> LibusbPort::State::locate(const UsbDevice &wanted)
                     u"no such device on the bus"_s);
 }
 
-// Whoever holds the interface may be done with it in a moment.
+// Tries a few times: whoever holds the interface may be done with it in a moment.
 WTResult<std::unique_ptr<ClaimedInterface>> LibusbPort::State::claim(libusb_device_handle *handle,
                                                                      const LocatedPrinter &printer)
 {

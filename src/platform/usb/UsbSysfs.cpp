@@ -10,7 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 
-// USB allows seven tiers: the root port and at most six hubs' ports.
+// The greatest depth of a USB tree (libusb_get_port_numbers).
 constexpr int maximumPorts = 7;
 constexpr QLatin1StringView devicesFolder{"/sys/bus/usb/devices"};
 

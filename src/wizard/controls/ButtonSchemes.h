@@ -10,7 +10,7 @@ namespace ButtonSchemes
 void applyRed(WTButton &button);
 /// The way back: red border and title on white, an arrow in front.
 void applyBack(WTButton &button);
-/// The information-page button: dark title in a blue border on white.
+/// A side action, such as printing the information page: dark title in a blue border on white.
 void applyBlue(WTButton &button);
 /// A check box: no border, its picture left of its title.
 void applyCheckBox(WTButton &button);

@@ -63,7 +63,7 @@ void KSPasswordField::setShowsText(bool shows)
     else
         m_cell = std::make_unique<KSPasswordSecureTextFieldCell>();
     setEchoMode(m_cell->echoMode());
-    // Behind the echo mode, which takes the hints away from a text that shows.
+    // After the echo mode, which removes the hints from a text that shows.
     setInputMethodHints(privacyHints);
     m_mark->setText(ButtonLook::spokenTitle(m_cell->markAction()));
     m_mark->setToolTip(m_mark->text());

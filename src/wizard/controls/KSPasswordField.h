@@ -63,8 +63,8 @@ Q_SIGNALS:
     /// The mark at the field's end was pressed. The field itself changes nothing: the screen calls `setShowsText` and
     /// keeps its check box in step.
     void showHidePressed();
-    /// Caps lock was found to be on or off. That shows only while somebody types; without the keyboard it counts as
-    /// off.
+    /// Caps lock was found to be on or off. The field notices it only while somebody types; without the keyboard it
+    /// counts as off.
     void capsLockChanged(bool on);
 
 protected:

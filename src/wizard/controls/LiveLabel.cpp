@@ -40,7 +40,7 @@ void LiveLabel::setText(const QString &text)
     setAccessibleName(text);
     if (!isVisible() || text.isEmpty())
         return;
-    // Qt does not pass alert events on to screen readers under AT-SPI. They do read a notification that comes to show.
+    // Qt does not pass alert events on to screen readers under AT-SPI. They do read a notification that appears.
     QAccessibleEvent shown(this, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&shown);
 }

@@ -8,8 +8,8 @@
 /// role that is set after assistive technology has asked for the widget has no effect.
 void setAccessibleRole(QWidget &widget, QAccessible::Role role);
 
-/// A label whose text a screen reader speaks by itself: when it comes to show, and when it changes while it shows.
-/// To the screen reader it is a notification.
+/// A label whose text a screen reader speaks by itself: when the label appears, and when the text changes while it
+/// shows. To the screen reader it is a notification.
 class LiveLabel : public QLabel
 {
     Q_OBJECT

@@ -38,7 +38,7 @@ inline constexpr QColor lightBlue = color("0xC1DBFF"); ///< Tile borders at rest
 inline constexpr QColor listHover = color("0xE2EEFF"); ///< Row of a list under the pointer, unfilled part of a bar.
 inline constexpr QColor tileRing = color("0xB1D2FF");  ///< Ring around a tile that has the keyboard.
 
-inline constexpr QColor blue = color("0x80B5FF");      ///< Information-page button: border and on state.
+inline constexpr QColor blue = color("0x80B5FF"); ///< Side actions such as the information page: border and on state.
 inline constexpr QColor blueHover = color("0x4E8DE3"); ///< The same, under the pointer.
 
 inline constexpr QColor frame = color("0xD3D3D3");   ///< Text-field frames at rest, rules.

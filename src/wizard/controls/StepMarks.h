@@ -5,7 +5,7 @@
 /// The four steps that the marks at the top of every screen show.
 enum class WizardStep { Connect, Network, SetUp, Done };
 
-/// The row of numbered steps at the top of every screen; the current one stands out, those behind it are ticked.
+/// The row of numbered steps at the top of every screen; the current one stands out, the earlier ones are ticked.
 class StepMarks : public QWidget
 {
     Q_OBJECT

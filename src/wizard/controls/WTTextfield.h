@@ -31,7 +31,7 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
 
 private:
-    /// What the field held ahead of a change, until the change has been told.
+    /// What the field held before a change; kept until the change has been reported.
     struct Content {
         QString text;
         int cursor = 0;

@@ -35,15 +35,15 @@ public:
     /// person edits it.
     void showName(const QString &name);
     void showPasswordText(const QString &password);
-    /// Says what is wrong with name and password in their error lines.
+    /// Says in the error lines what is wrong with name and password.
     void showErrors();
     /// A quiet line below the password; empty brings the usual help back.
     void showHint(const QString &hint);
     /// Whether the person is in one of the fields.
     bool hasKeyboard() const;
-    /// No frame looks as if its field had the keyboard.
+    /// Gives both frames the colour of a field without the keyboard.
     void resetFrames();
-    /// The switch is off and the password hidden.
+    /// Turns the switch off and hides the password.
     void hidePassword();
     /// Shows or hides the password, as the switch says.
     void showPassword();

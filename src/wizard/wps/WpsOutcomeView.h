@@ -9,7 +9,7 @@ class DesktopPort;
 class TilePair;
 class WTButton;
 
-/// How a WPS outcome screen ends the process. Only one that a test gives returns.
+/// How a WPS outcome screen ends the process. Does not return, except in tests.
 using ProcessEnd = std::function<void()>;
 /// Writes out the log and ends the process at once with status 0.
 void endProcess();

@@ -229,7 +229,7 @@ std::optional<WTError> EmulatedBus::run(Transfer &transfer)
 
 QByteArray EmulatedBus::drainInput()
 {
-    // Nothing is ever on its way here: what the printer has said by now is all there is.
+    // Without a cable no byte is ever under way: what the printer has said by now is all there is.
     const TimedLock::Turn turn(m_lock);
     QByteArray drained;
     while (m_pipes.hasReplyDue(m_time.now()) && !m_pipes.unplugIsDue(m_time.now())) {

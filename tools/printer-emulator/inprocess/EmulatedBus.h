@@ -9,7 +9,7 @@
 #include <condition_variable>
 #include <optional>
 
-/// The bus behind EmulatedUsb: one printer, who may open it, and the transfers of the one connection that has it.
+/// The bus behind EmulatedUsb: one printer, who may open it, and the transfers of the connection that has claimed it.
 class EmulatedBus final : private TimedLock::Content, private PrinterPipes::Listener
 {
 public:
@@ -29,7 +29,7 @@ public:
     UsbDeviceList devices(const std::vector<quint16> &vendorIDs) const;
 
     std::optional<WTError> obstacle(const UsbDevice &device) const;
-    /// Claims the printer; absent when that succeeded. What is claimed is released by `release`.
+    /// Claims the printer until `release`; absent when that succeeded.
     std::optional<WTError> claim(const UsbDevice &device);
     void release();
     std::optional<WTError> write(QByteArrayView bytes);
@@ -40,7 +40,7 @@ public:
 private:
     using Instant = TimePort::Instant;
 
-    /// What its connection is doing; one thread at a time does one thing.
+    /// What the connection is doing. A connection does one thing at a time.
     struct Transfer {
         bool in = false;
         QByteArray bytes; ///< To send, or received so far.
@@ -79,5 +79,5 @@ private:
 
     std::vector<quint16> m_watchedVendors;
     UsbPort::ListChanged m_changed;
-    SerialQueue m_watchThread; ///< Last: its jobs use the rest.
+    SerialQueue m_watchThread; ///< Last, so that it ends first: its jobs use the other members.
 };

@@ -6,7 +6,7 @@
 
 namespace
 {
-/// Holds the printer from its claim to its end. The bus lives as long as one of them.
+/// The printer, claimed until this object is destroyed. Keeps the bus alive.
 class EmulatedConnection final : public UsbConnection
 {
 public:
@@ -21,7 +21,7 @@ public:
     std::optional<WTError> write(QByteArrayView bytes) override { return m_bus->write(bytes); }
     WTResult<QByteArray> read(qsizetype atMost) override
     {
-        // Whole packets: one that does not fit would be an overflow.
+        // Asks for whole packets: a packet larger than the room left would be an overflow.
         if (m_unread.isEmpty()) {
             constexpr qsizetype packet = EmulatedBus::packetSize;
             WTResult<QByteArray> received = m_bus->read((atMost + packet - 1) / packet * packet);

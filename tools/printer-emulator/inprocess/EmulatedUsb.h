@@ -8,7 +8,7 @@
 
 class EmulatedBus;
 
-/// The machine's USB bus with one emulated printer on it, in process and without any kernel or library below: the same
+/// The machine's USB bus with one emulated printer on it, in process and without a kernel or a USB library: the same
 /// printer model, faults and times as on the emulated usbfs, behind the program's own port. All operations may be
 /// called on any thread.
 class EmulatedUsb : public UsbPort

@@ -6,7 +6,7 @@
 #include <map>
 #include <optional>
 
-/// Bus events that wait for their time, in its order. Guarded by the bus.
+/// Bus events that wait for their time, the earliest first. Not thread-safe: the bus guards it.
 class Agenda
 {
 public:

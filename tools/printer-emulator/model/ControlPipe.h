@@ -24,8 +24,9 @@ struct Setup {
 
     bool asksForDeviceID() const;
 
-    /// Addressed to an interface, so that usbfs asks for a claim of it. The device ID may be read without one, if the
-    /// index names a setting of the printer class: the interface in its high byte, the setting in its low byte.
+    /// The interface that usbfs wants claimed before it lets the request through: that which the request is addressed
+    /// to. Absent when no claim is needed: other recipients, and the question for the device ID if its index names a
+    /// setting of the printer class (interface in the high byte, setting in the low byte).
     std::optional<int> interfaceToClaim(const UsbShape &shape) const;
 };
 

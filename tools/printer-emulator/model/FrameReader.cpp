@@ -61,7 +61,7 @@ void FrameReader::checkLastByte()
     if (m_lostAt) {
         if (!m_frame.bytes.endsWith(universalExit))
             return;
-        // What was no envelope at all ends before the UEL, which opens the next frame.
+        // Bytes without a proper opening end before this UEL, which opens the next frame.
         const bool opensNext = *m_lostAt <= universalExit.size();
         complete(opensNext ? size() - universalExit.size() : size());
         if (opensNext)

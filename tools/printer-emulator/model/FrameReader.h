@@ -11,8 +11,8 @@
 ///
 ///     header: 00 AC | code (2) | n (2) | ten zeros, numbers big endian
 ///
-/// The information page has two dialects: n is 2, and the payload 00 02 follows or is left out.
-/// A frame whose envelope or header is wrong ends at the next UEL.
+/// The information page has two dialects: n is 2, and the payload 00 02 follows or is left out. A frame whose envelope
+/// or header is wrong ends at the next UEL (the "universal exit language" bytes).
 class FrameReader
 {
 public:
@@ -42,6 +42,6 @@ private:
 
     ReceivedFrame m_frame;
     qsizetype m_payloadSize = 0;
-    std::optional<qsizetype> m_lostAt; ///< From here on the layout cannot be trusted; only a UEL ends the frame.
+    std::optional<qsizetype> m_lostAt; ///< Where the layout broke; from there on only a UEL ends the frame.
     std::optional<ReceivedFrame> m_completed;
 };

@@ -9,7 +9,7 @@
 #include <vector>
 
 /// What the printer has to say, packet by packet, as a bulk IN endpoint gives it: a transfer whose length is a multiple
-/// of the packet size ends with a zero-length packet. Knows time only as a value.
+/// of the packet size ends with a zero-length packet. Has no clock: the caller says what time it is.
 class InPipe
 {
 public:
@@ -18,7 +18,7 @@ public:
     enum class Outcome {
         Waiting,  ///< Nothing more is due.
         Complete, ///< The read is full, or a short packet ended it.
-        Overflow, ///< A packet was larger than the room left; it is lost.
+        Overflow, ///< A packet was larger than the room left in the read; the packet is lost.
         Stalled,  ///< The endpoint halts.
     };
 
@@ -33,10 +33,10 @@ public:
     /// Continues a read of `atMost` bytes, of which `bytes` holds what has come so far.
     Outcome read(QByteArray &bytes, qsizetype atMost, Instant now);
 
-    /// The next thing the printer does is to leave the bus, now.
+    /// Whether the printer leaves the bus now, before any further packet.
     bool unplugIsDue(Instant now) const;
     bool hasDue(Instant now) const { return !m_queue.empty() && m_queue.front().due <= now; }
-    /// When the next thing falls due that is not due yet.
+    /// When the next packet falls due; absent when it is due already, or when there is none.
     std::optional<Instant> nextDue(Instant now) const;
 
 private:

@@ -10,13 +10,13 @@
 #include <vector>
 
 /// Reads the fields of one JSON object into variables that keep their value when their field is absent. A field of the
-/// wrong kind, and a field that nobody asked for, is a complaint.
+/// wrong kind and a field that nobody reads are complaints.
 class JsonFields
 {
 public:
-    /// `where` leads every complaint; complaints are added to `complaints`, which outlives this object.
+    /// Every complaint begins with `where` and is added to `complaints`, which outlives this object.
     JsonFields(QJsonObject object, QString where, QStringList &complaints);
-    /// Complains of the fields that were not asked for.
+    /// Complains of the fields that nobody has read.
     ~JsonFields();
     JsonFields(const JsonFields &) = delete;
     JsonFields &operator=(const JsonFields &) = delete;
@@ -37,7 +37,7 @@ public:
     void readCode(const QString &key, quint16 &target);
     void readCode(const QString &key, std::optional<quint16> &target);
     void readSizes(const QString &key, std::vector<qsizetype> &target);
-    /// One of these words, as its index; absent when the field is.
+    /// The index of the field's word among `choices`; absent when the field is absent or holds another text.
     std::optional<std::size_t> readChoice(const QString &key, const QStringList &choices);
 
     std::optional<QJsonObject> object(const QString &key);

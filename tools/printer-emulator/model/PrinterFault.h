@@ -6,7 +6,7 @@
 #include <vector>
 
 /// One way in which the printer misbehaves on a command. The fields combine; those that are left out change nothing.
-/// Offsets and counts are bytes: of the frame, envelope included, on the way out; of the reply on the way in.
+/// Offsets and counts are in bytes: on the way out of the frame with its envelope, on the way in of the reply.
 struct PrinterFault {
     using Duration = std::chrono::milliseconds;
 
@@ -14,7 +14,7 @@ struct PrinterFault {
     int occurrence = 0; ///< 1 for the first time the command comes, 2 for the second, ...; 0 for every time.
 
     // The frame on its way to the printer.
-    Duration acceptDelay{0};               ///< The printer takes no byte before.
+    Duration acceptDelay{0};               ///< Until the printer takes the first byte.
     bool stallOut = false;                 ///< The OUT endpoint stalls; nothing of the frame arrives.
     std::optional<qsizetype> acceptOnly{}; ///< Takes this many bytes of the frame and no more.
     std::optional<qsizetype> unplugOut{};  ///< Leaves the bus after this many bytes of the frame.

@@ -39,7 +39,7 @@ struct OutPlan {
     std::chrono::milliseconds delay{0}; ///< Before the first of them is taken.
 };
 
-/// The consequences of received bytes.
+/// What follows from received bytes.
 struct PrinterAnswer {
     std::vector<InTransfer> transfers{};
     std::vector<BusEvent> events{};      ///< Due now, each after its own delay.
@@ -47,8 +47,8 @@ struct PrinterAnswer {
 };
 
 /// The printer without its cable: bytes in, scripted replies out. It checks every frame byte by byte, keeps what it was
-/// told, and answers only sound frames. It knows no USB and no thread; its face guards it by one lock and asks in the
-/// order `plan` (once per OUT transfer), `accept` (with what the plan let through).
+/// told, and answers only sound frames. It knows neither USB nor threads. What puts it on a bus guards it by one lock,
+/// and for each OUT transfer calls `plan` once, then `accept` with the bytes that the plan let through.
 class PrinterModel
 {
 public:
@@ -61,8 +61,8 @@ public:
     /// From the next frame on. The record and the network stay.
     void setScript(PrinterScript script);
 
-    /// Joins a network for real: the IPv4 address that the printer has there, or nothing when it was not let in. May
-    /// take its time; the printer does nothing else meanwhile.
+    /// Joins a real network: answers the IPv4 address that the printer has there, or nothing when it was not let in.
+    /// May take long; the printer does nothing else meanwhile.
     using Join = std::function<std::optional<QByteArray>(const QByteArray &name, const QByteArray &password)>;
     /// From the next configuration on, in place of the script's result and address.
     void setJoin(Join join) { m_join = std::move(join); }
@@ -96,5 +96,5 @@ private:
     FrameReader m_reader;
     PrinterRecord m_record;
     std::optional<Attempt> m_attempt;
-    std::optional<Instant> m_joined; ///< May lie ahead, while the printer is joining.
+    std::optional<Instant> m_joined; ///< In the future while the printer is still joining.
 };

@@ -10,13 +10,14 @@
 
 /// How far an OUT transfer has got.
 struct OutProgress {
-    std::optional<OutPlan> plan;                 ///< Absent until its turn has come.
+    std::optional<OutPlan> plan;                 ///< Absent until it is this transfer's turn.
     std::chrono::steady_clock::time_point due{}; ///< When the printer takes its bytes.
     bool taken = false;
     qsizetype sent = 0;
 };
 
-/// The two bulk pipes of a printer, with the printer at their end. Knows time only as a value; guarded by its face.
+/// The two bulk pipes of a printer, with the printer at their end. Has no clock: the caller says what time it is. Not
+/// thread-safe: the owner guards it.
 class PrinterPipes
 {
 public:
@@ -30,7 +31,7 @@ public:
         Unplug,   ///< The printer leaves the bus in the middle of the transfer.
     };
 
-    /// What a frame brings about beside its reply.
+    /// Told what a frame brings about beside its reply.
     class Listener
     {
     public:
@@ -46,9 +47,9 @@ public:
     PrinterModel &model() { return m_model; }
     const PrinterModel &model() const { return m_model; }
 
-    /// Goes on with an OUT transfer; one at a time.
+    /// Continues an OUT transfer; there is one at a time.
     Outcome send(QByteArrayView bytes, OutProgress &progress, Instant now);
-    /// Goes on with an IN transfer of `atMost` bytes, of which `bytes` holds what has come so far.
+    /// Continues an IN transfer of `atMost` bytes, of which `bytes` holds what has come so far.
     Outcome receive(QByteArray &bytes, qsizetype atMost, Instant now);
 
     void clearHalt(bool in) { (in ? m_inHalted : m_outHalted) = false; }

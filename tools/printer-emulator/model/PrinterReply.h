@@ -5,7 +5,7 @@
 #include <QByteArray>
 #include <vector>
 
-/// One transfer that the printer has to say.
+/// One IN transfer of a reply.
 struct InTransfer {
     enum class Kind {
         Data,   ///< `bytes`, ended by a short or a zero-length packet.
@@ -14,16 +14,16 @@ struct InTransfer {
     };
     Kind kind = Kind::Data;
     QByteArray bytes{};
-    /// After the transfer before it; for the first one, after the frame arrived.
+    /// Time since the transfer before it; for the first one, since the frame arrived.
     std::chrono::milliseconds delay{0};
 };
 
-/// A reply as the printer means it, before a fault has touched it.
+/// The reply of a printer without a fault.
 struct PrinterReply {
     quint16 command = 0;
     quint16 result = 0;
     QByteArray data{};
-    std::chrono::milliseconds time{0}; ///< That the command takes the printer.
+    std::chrono::milliseconds time{0}; ///< How long the printer works on the command.
 
     /// The reply as it travels under this fault.
     std::vector<InTransfer> transfers(const PrinterFault &fault) const;

@@ -4,7 +4,7 @@
 
 #include <optional>
 
-/// Something that happens on the bus, not in an exchange.
+/// Something that happens on the bus outside of an exchange.
 struct BusEvent {
     enum class Action {
         Unplug,
@@ -15,7 +15,7 @@ struct BusEvent {
         Permit,
     };
 
-    /// The event follows the arrival of a command's frame; without one it counts from the start of the emulation.
+    /// The command whose frame sets the event off. An event without a cause counts from the start of the emulation.
     struct Cause {
         quint16 command = 0;
         int occurrence = 1;
@@ -43,11 +43,11 @@ struct PrinterScript {
     QByteArray secondIpv6{};
     bool joinedFromStart = false;
 
-    /// What transfers see of a plug that is pulled, by this script's faults and events.
+    /// What transfers see when a fault or an event of this script pulls the plug.
     enum class PulledPlug {
-        AtOnce,    ///< The device has left.
-        BusErrors, ///< They fail, and the device leaves a moment later, when the hub has noticed.
-        Stalls     ///< The same; the failures look like stalls.
+        AtOnce,    ///< That the device is gone.
+        BusErrors, ///< Bus errors; the device leaves a moment later, when the hub has noticed.
+        Stalls     ///< Stalls; the device leaves as with `BusErrors`.
     };
     PulledPlug pulledPlug = PulledPlug::AtOnce;
     static constexpr Duration hubNotices{250}; ///< From the first failure until the device has left.

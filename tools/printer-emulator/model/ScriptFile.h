@@ -8,7 +8,7 @@
 /// A script as JSON; README.md describes the format.
 struct ScriptFile {
     PrinterScript script;
-    QStringList complaints; ///< What is wrong with the text; the script counts only when there are none.
+    QStringList complaints; ///< What is wrong with the text. Use the script only when there are none.
 
     static ScriptFile parse(const QByteArray &json);
 };

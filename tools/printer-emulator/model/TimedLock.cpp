@@ -46,6 +46,6 @@ TimedLock::Turn::~Turn()
 {
     m_owner.m_content.settle();
     const std::unique_ptr<TimePort::Timer> old = m_owner.resetTimer();
-    // Destroying a timer may wait for its action, which wants the lock.
+    // Destroying a timer may wait for the timer's action, which needs the lock.
     m_lock.unlock();
 }

@@ -6,14 +6,14 @@
 #include <mutex>
 #include <optional>
 
-/// A lock around something that also moves with time: every turn ends with all that is due being done, and with a timer
-/// for what falls due next, which takes a turn of its own.
+/// A lock around something that changes by itself as time goes by. At the end of every turn (`Turn`) all that is due is
+/// done, and a timer is set for what falls due next; the timer takes a turn of its own.
 class TimedLock
 {
 public:
     using Instant = TimePort::Instant;
 
-    /// What moves. Both are called with the lock held.
+    /// What the lock guards. Both operations are called with the lock held.
     class Content
     {
     public:
@@ -30,10 +30,10 @@ public:
     TimedLock(const TimedLock &) = delete;
     TimedLock &operator=(const TimedLock &) = delete;
 
-    /// The content does not move by itself any more. Not within a turn.
+    /// Ends the timer: the content changes in turns of others only. Must not be called within a turn.
     void stop();
 
-    /// For looking, or waiting, without moving anything.
+    /// To read the content, or to wait for it to change, without a turn.
     std::mutex &mutex() { return m_mutex; }
 
     class Turn

@@ -8,8 +8,8 @@
 #include <list>
 #include <optional>
 
-/// One emulated printer as a host sees it that asks from afar: transfers begin, and later they end. Knows time only as
-/// a value, and no protocol.
+/// One emulated printer for a host that asks by messages: the host begins transfers and later hears how each one ended.
+/// Has no clock, and knows no protocol.
 class RemoteDevice final : private PrinterPipes::Listener
 {
 public:
@@ -24,7 +24,7 @@ public:
     };
 
     struct Transfer {
-        quint64 identity = 0; ///< The host's own.
+        quint64 identity = 0; ///< Chosen by the host.
         bool isIn = false;
         qsizetype length = 0; ///< Most bytes that an IN transfer takes.
         QByteArray bytes;     ///< To send, or received so far.
@@ -46,20 +46,21 @@ public:
     const UsbShape &shape() const { return m_shape; }
 
     ControlEnd control(const ControlPipe::Setup &setup);
-    /// Whoever takes the interface over begins anew.
+    /// Does what a newly selected setting does: a frame under way is cut off, halts are cleared.
     void setInterface();
     void begin(Transfer transfer) { m_pending.push_back(std::move(transfer)); }
-    /// The host gives a transfer up, and it does not end any more. Returns it; absent when it has ended already.
+    /// Withdraws a transfer for the host, so that it is not reported as ended. Returns it; absent when it has ended
+    /// already.
     std::optional<Transfer> giveUp(quint64 identity);
 
-    /// Moves whatever is due. False: the printer leaves the bus.
+    /// Does what is due; false when the printer leaves the bus.
     bool pump(Instant now);
     std::optional<Instant> nextDue(Instant now) const;
 
-    /// The plug is being pulled: all transfers under way, and all to come until it has left, end like this.
+    /// The plug is being pulled: all transfers under way end like this, and all that come until the printer has left.
     void failAll(End end);
     bool isFailing() const { return m_failure.has_value(); }
-    /// The host begins anew: forgets all that was under way.
+    /// The host resets the device: forgets all that was under way.
     void reset();
     /// The printer has left the bus.
     void unplugged();

@@ -5,13 +5,13 @@
 #include <chrono>
 #include <optional>
 
-/// The line to a host that asks from afar, in the host's protocol. Failures are `std::runtime_error`.
+/// The line to a host outside this process, in that host's protocol. Failures are `std::runtime_error`.
 class RemoteLine
 {
 public:
     virtual ~RemoteLine() = default;
 
-    /// Of the interface and its pipes, as fits the speed of this line.
+    /// The printer's interface, with the packet size of this line's speed.
     virtual UsbShape shape() const = 0;
 
     /// The device stays until it is unplugged.

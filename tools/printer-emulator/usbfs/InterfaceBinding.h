@@ -28,7 +28,8 @@ public:
     int disconnect();
     /// 1 when a driver took the interface, 0 when there is none for it.
     int connect();
-    /// Claims, throwing out the driver unless (`exceptDriver`) it is, or (`onlyDriver`) is not, the one named.
+    /// Throws out the driver that is bound, if any, and claims. -EBUSY when that driver is `exceptDriver`, or when
+    /// `onlyDriver` is not empty and names another.
     int disconnectAndClaim(Program program, const QString &exceptDriver, const QString &onlyDriver);
 
     void setKernelDriver(bool present);

@@ -17,8 +17,8 @@ class UsbfsBus;
 /// Order: make the bed before the first `libusb_init`, close libusb before destroying the bed. When two programs, or
 /// two handles of one, have the same device open, a finished transfer of one wakes both.
 ///
-/// All operations may be called on any thread but the listener's. Scripted delays run on the time port. Printers are
-/// numbered from 0 in the order of `addPrinter`.
+/// All operations may be called on any thread, but not from the listener of `onFrame`. Scripted delays run on the time
+/// port. Printers are numbered from 0 in the order of `addPrinter`.
 class UsbfsBed
 {
 public:
@@ -34,7 +34,8 @@ public:
 
     /// Puts the printer on the bus with a device number it never had. Returns when the "add" event is on its way.
     void plug(int printer = 0);
-    /// Takes it off at once: transfers under way fail, the node is gone. Returns when the "remove" event is on its way.
+    /// Takes the printer off the bus at once: transfers under way fail, the node is gone. Returns when the "remove"
+    /// event is on its way.
     void unplug(int printer = 0);
     void replug(int printer = 0);
     bool isPlugged(int printer = 0) const;
@@ -45,7 +46,8 @@ public:
     void replacePrinter(PrinterModel model, int printer = 0);
     /// What the printer was told so far.
     PrinterRecord record(int printer = 0) const;
-    /// Called for each frame, on a thread of the bed, while the bed is locked: it must not call back.
+    /// The listener is called for each frame, on a thread of the bed, while the bed is locked: it must not call the
+    /// bed.
     void onFrame(std::function<void(int printer, const ReceivedFrame &frame)> listener);
 
     /// The driver of the interface: "usblp", "usbfs" while a program has claimed it, empty when there is none.
@@ -57,9 +59,9 @@ public:
 
     /// Another program claims the printer's interfaces as soon as they are free, until `release`: claims answer EBUSY.
     void hold(int printer = 0);
-    /// The same by a real process called "ipp-usb" that has the node open: its pid. The holder's descriptor is told by
-    /// device and inode number of stat(), equal to those of stat(nodePath()); the link in /proc/PID/fd shows the
-    /// pseudo-terminal. The printer must be plugged.
+    /// The same by a real process called "ipp-usb" that has the node open. Returns its pid. The holder's descriptor is
+    /// told by device and inode number of stat(), equal to those of stat(nodePath()); the link in /proc/PID/fd shows
+    /// the pseudo-terminal. The printer must be plugged.
     qint64 holdByProcess(int printer = 0);
     void release(int printer = 0);
 
@@ -73,9 +75,9 @@ public:
     QString sysfsPath(int printer = 0) const;
     /// The same location that UsbDevice carries: bus << 24, one nibble per port.
     quint32 locationID(int printer = 0) const;
-    /// How often programs have asked it for its device ID.
+    /// How often programs have asked the printer for its device ID.
     int deviceIDQuestions(int printer = 0) const;
-    /// Interfaces that programs have claimed now.
+    /// How many interfaces programs have claimed now.
     int claims(int printer = 0) const;
 
     /// For a clock that may jump: true while something is on its way to the client without any time having to pass

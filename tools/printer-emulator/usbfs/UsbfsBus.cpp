@@ -8,7 +8,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-/// What a program has not asked for in this time is not on its way to it any more: it may be asleep, or gone.
+/// After this time without a request a program counts as asleep or gone: nothing is on its way to it any more.
 constexpr std::chrono::seconds patience{1};
 
 constexpr int lastUsableDeviceNumber = 127;
@@ -203,7 +203,7 @@ void UsbfsBus::settle()
     const bool owed = owesSomething();
     for (const auto &device : m_devices)
         device->pump();
-    // The news travel through the kernel to the program, which counts from now on as being on its way.
+    // The program hears of it through the kernel; the time until then counts from now.
     if (!owed && owesSomething())
         m_lastMove = std::chrono::steady_clock::now();
     while (const auto entry = m_agenda.takeDue(now()))

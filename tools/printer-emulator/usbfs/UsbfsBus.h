@@ -15,8 +15,8 @@
 
 /// The bus behind UsbfsBed: the test bed of umockdev, the devices on it, their lock and their timer.
 ///
-/// Three kinds of threads meet here: the test bed's own, which brings the programs' requests and must never be kept;
-/// the bus thread, on which everything that calls the test bed runs; and the callers of the public operations.
+/// Three kinds of threads meet here: the test bed's own, which brings the programs' requests and must never be kept
+/// waiting; the bus thread, on which everything that calls the test bed runs; and the callers of the public operations.
 class UsbfsBus final : public UsbfsDevice::Bus, private TimedLock::Content
 {
 public:
@@ -37,7 +37,7 @@ public:
     void release(int printer);
     bool busy() const;
 
-    /// Does something with a device under the lock, then moves what has become due.
+    /// Runs `action` on a device in a turn of the lock.
     void with(int printer, const std::function<void(UsbfsDevice &)> &action);
     /// Reads something of a device under the lock.
     template <typename Value>
@@ -75,7 +75,8 @@ private:
     Agenda m_agenda;
     Listener m_listener;
     int m_lastDeviceNumber = 1;
-    /// A program's last request, or when there was last something new for one. Real time, not the port's: see `busy`.
+    /// When a program last asked for something, or something was last made ready for one. Real time, not the port's:
+    /// see `busy`.
     std::chrono::steady_clock::time_point m_lastMove;
 
     std::atomic<int> m_jobs = 0;

@@ -18,14 +18,14 @@ class UsbfsDevice final : private PrinterPipes::Listener
 public:
     using Instant = std::chrono::steady_clock::time_point;
 
-    /// What the device needs of its bus. Called with the bus locked.
+    /// What the device needs of its bus. Called with the bus locked, except `serve`.
     class Bus
     {
     public:
         virtual Instant now() const = 0;
-        /// An answered request: 0 or above, or a negative errno. Takes and leaves the bus's lock by itself.
+        /// Locks the bus and lets the device handle a request: 0 or above, or a negative errno.
         virtual int serve(UsbfsDevice &device, UMockdevIoctlClient *client) = 0;
-        /// The device has left; what the world sees of it has to go.
+        /// The device has left: its node and its folders in sysfs have to be removed.
         virtual void left(UsbfsDevice &device) = 0;
         virtual void received(UsbfsDevice &device, const ReceivedFrame &frame) = 0;
         virtual void scheduled(UsbfsDevice &device, const BusEvent &event) = 0;
@@ -46,7 +46,7 @@ public:
 
     void arrive(int deviceNumber);
     void leave();
-    /// As the script has it: the device leaves at once, or transfers fail first.
+    /// Unplugs the device as the script says: at once, or with failing transfers first.
     void pullPlug();
     bool isPlugged() const { return m_node != nullptr; }
     /// 0 before the first arrival.
@@ -54,12 +54,12 @@ public:
 
     /// The answer to one request of a program: 0 or above, or a negative errno.
     int handle(UMockdevIoctlClient *client);
-    /// Moves whatever is due.
+    /// Does what is due.
     void pump();
     std::optional<Instant> nextDue() const;
     /// How often it was asked for its device ID.
     int deviceIDQuestions() const { return m_deviceIDQuestions; }
-    /// Something is finished, or due, that its program has not collected.
+    /// Whether a program has yet to collect a finished transfer or reply bytes that are due.
     bool owesSomething() const;
 
     const UsbfsInterfaces &interfaces() const { return m_interfaces; }
@@ -79,7 +79,7 @@ private:
     int permitTransfer(const UsbfsUrb &urb, UMockdevIoctlClient *client);
     int reap(UMockdevIoctlClient *client);
     int discard(UMockdevIoctlClient *client);
-    /// Whether there is an answer at all.
+    /// False when the device never answers.
     bool answerControl(UsbfsUrb &urb);
 
     using Urbs = std::list<UsbfsUrb>;

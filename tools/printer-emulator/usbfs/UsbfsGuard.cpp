@@ -1,9 +1,10 @@
 // Stands in front of umockdev's wrapper of open(), in the test program or, for a child, as a preloaded library. It
 // mends three things:
-//  - umockdev keeps one of 50 places for every path below /dev that is ever opened, and those of failed opens for good.
-//    Only emulated nodes that exist get there; everything else goes straight to the kernel.
+// - umockdev has 50 places for paths below /dev that were opened, and never frees that of an open that failed. So only
+//   emulated nodes that exist go to umockdev; everything else goes straight to the kernel.
 //  - Root may open everything. A node without mode bits for its owner is refused to root as well.
-//  - A session leader would take the pseudo-terminal behind a node as its own and die of its hang-up at unplug.
+// - A session leader that opens a node would get the pseudo-terminal behind it as its controlling terminal, and would
+//   be killed by the hang-up at unplug.
 #include <cerrno>
 #include <cstdarg>
 #include <cstdlib>

@@ -18,11 +18,11 @@ public:
     void reset();
     /// The requests that concern interfaces; -ENOTTY for all others.
     int handle(unsigned long request, UMockdevIoctlClient *client);
-    /// As a transfer does: claims the interface for the program unless somebody else has it.
+    /// Claims the interface for the program unless somebody else has it, as a transfer does.
     int claim(int interface, UMockdevIoctlClient *client);
     int claimForEndpoint(quint8 endpoint, UMockdevIoctlClient *client);
 
-    /// Releases what programs held that have closed the node since; whether there was any.
+    /// Releases the interfaces of programs that have closed the node since; whether there were any.
     bool releaseVanished();
 
     void setKernelDriver(bool present);
@@ -32,13 +32,13 @@ public:
     int count() const { return int(m_interfaces.size()); }
     QString driver(int interface) const { return m_interfaces.at(interface).binding.driver(); }
     int alternateSetting(int interface) const { return m_interfaces.at(interface).alternateSetting; }
-    /// Interfaces that programs have claimed, the other one not counted.
+    /// How many interfaces programs have claimed. The other program of `setHeld` does not count.
     int claims() const;
 
 private:
     struct Interface {
         InterfaceBinding binding;
-        GObjectRef<UMockdevIoctlClient> program; ///< That claimed it last.
+        GObjectRef<UMockdevIoctlClient> program; ///< Which claimed it last.
         int alternateSetting = 0;
 
         int claim(UMockdevIoctlClient *client);

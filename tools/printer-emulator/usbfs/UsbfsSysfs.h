@@ -22,7 +22,7 @@ public:
     QByteArray device(const ModelIdentity &identity, const UsbShape &shape, int deviceNumber) const;
     /// Creates the folders of the interfaces, with their attributes.
     void createInterfaces(const UsbShape &shape) const;
-    /// Shows the driver of an interface. With usblp, which reads it, comes the device ID.
+    /// Shows the driver of an interface, and the device ID while that driver is usblp, which reads it.
     void showDriver(int interface, const QString &driver, const ModelIdentity &identity) const;
 
     QString name() const { return m_name; }

@@ -52,7 +52,7 @@ void UsbipLine::serve()
     }
 }
 
-/// False: the kernel has let go of the device.
+/// Handles one message; false when the kernel has let go of the device.
 bool UsbipLine::serveOne()
 {
     const std::optional<QByteArray> header = m_host->read(UsbipMessages::headerSize);

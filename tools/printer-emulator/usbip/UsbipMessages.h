@@ -9,7 +9,7 @@ namespace UsbipMessages
 {
 constexpr qsizetype headerSize = 48;
 
-/// What the host asks: to begin a transfer, or to give one up.
+/// What the host asks for: to begin a transfer, or to withdraw one.
 struct Request {
     bool isUnlink = false;
     quint32 sequence = 0;
@@ -17,7 +17,7 @@ struct Request {
     quint8 endpoint = 0;
     qsizetype length = 0; ///< Of the transfer.
     QByteArray setup{};   ///< Of a control transfer, eight bytes.
-    quint32 unlinked = 0; ///< The transfer to give up.
+    quint32 unlinked = 0; ///< The transfer to withdraw.
 
     /// `header` holds `headerSize` bytes.
     static Request parse(QByteArrayView header);
@@ -28,6 +28,6 @@ struct Request {
 /// The end of a transfer: 0 or a negative errno; what was received, or how much was sent.
 QByteArray received(quint32 sequence, int status, const QByteArray &data);
 QByteArray sent(quint32 sequence, int status, qsizetype length);
-/// The answer to a request to give up: whether there was still something to give up.
+/// The answer to a request to withdraw a transfer; `wasPending`: it had not ended yet.
 QByteArray unlinked(quint32 sequence, bool wasPending);
 } // namespace UsbipMessages

@@ -35,7 +35,8 @@ UsbredirLine &lineOf(void *self)
     return *static_cast<UsbredirLine *>(self);
 }
 
-/// What a host controller needs to know of a device is mandatory; with 32-bit lengths a transfer may exceed 64 KiB.
+/// The capabilities by which a host controller of qemu learns what it must know of a device, and 32-bit lengths, with
+/// which a transfer may exceed 64 KiB.
 std::array<quint32, USB_REDIR_CAPS_SIZE> capabilities()
 {
     std::array<quint32, USB_REDIR_CAPS_SIZE> set{};
@@ -46,7 +47,7 @@ std::array<quint32, USB_REDIR_CAPS_SIZE> capabilities()
     return set;
 }
 
-/// The parser refuses a pointer to no bytes.
+/// Null when there are no bytes: the parser refuses any other pointer then.
 quint8 *bytesOf(QByteArray &data)
 {
     return data.isEmpty() ? nullptr : reinterpret_cast<quint8 *>(data.data());
@@ -78,7 +79,7 @@ UsbredirLine::UsbredirLine(const QByteArray &path)
     }
 }
 
-/// Every message that qemu may send to a device of these capabilities.
+/// Sets a function for every message that qemu may send to a device of these capabilities.
 void UsbredirLine::listen()
 {
     usbredirparser &on = *m_parser;

@@ -16,7 +16,7 @@ struct usbredirparser;
 class UsbredirLine final : public RemoteLine
 {
 public:
-    /// Waits at this socket for qemu, and until it has introduced itself.
+    /// Waits until qemu has connected to this socket and introduced itself.
     explicit UsbredirLine(const QByteArray &path);
 
     UsbShape shape() const override;

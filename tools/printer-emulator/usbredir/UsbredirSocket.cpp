@@ -15,7 +15,7 @@ namespace
     throw std::system_error(reason, std::system_category(), what.toStdString());
 }
 
-/// Gives the listening socket.
+/// A socket that listens at the path.
 int listenAt(const QByteArray &path)
 {
     sockaddr_un address{};
