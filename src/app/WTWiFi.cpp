@@ -50,7 +50,7 @@ std::optional<QString> WTWiFi::authModeLabel() const
 {
     if (security < 0 || security >= qint64{labelKeys.size()})
         return std::nullopt;
-    return localized(labelKeys[std::size_t(security)]);
+    return localized(labelKeys[static_cast<std::size_t>(security)]);
 }
 
 void WTWiFi::setAuthModeLabel(const std::optional<QString> &label)

@@ -27,7 +27,7 @@ QByteArray WTCommand::ACLWithCMD(quint16 cmd)
 
 QByteArray WTCommand::ACLWithCMD(quint16 cmd, const Bytes &data)
 {
-    const QByteArray payload = data.value_or(QByteArray{});
+    const QByteArray payload = data.value_or(QByteArray());
     ShortHeader header;
     header.command = cmd;
     header.payloadLength = static_cast<quint16>(payload.size());
@@ -36,7 +36,7 @@ QByteArray WTCommand::ACLWithCMD(quint16 cmd, const Bytes &data)
 
 QByteArray WTCommand::ACLWithCMD(quint16 cmd, const Bytes &data, [[maybe_unused]] bool autoCRC16)
 {
-    const QByteArray payload = data.value_or(QByteArray{});
+    const QByteArray payload = data.value_or(QByteArray());
     LongHeader header;
     header.command = cmd;
     header.payloadLength = static_cast<quint32>(payload.size());
@@ -50,7 +50,7 @@ QByteArray WTCommand::ACLWithHeader(const Bytes &header, const Bytes &data)
 
 QByteArray WTCommand::ACLWithHeader(const Bytes &header, const Bytes &data, bool autoCRC16)
 {
-    const QByteArray frame = header.value_or(QByteArray{}) + data.value_or(QByteArray{});
+    const QByteArray frame = header.value_or(QByteArray()) + data.value_or(QByteArray());
     return autoCRC16 ? withChecksum(frame) : frame;
 }
 
@@ -66,7 +66,7 @@ QByteArray WTCommand::PJLWithACLData(const Bytes &data, quint8 encrypt)
     envelope.append(PjlEnvelope::enterAclLanguage);
     if (isEncrypted(encrypt))
         envelope.append(static_cast<char>(encrypt));
-    envelope.append(data.value_or(QByteArray{}));
+    envelope.append(data.value_or(QByteArray()));
     envelope.append(PjlEnvelope::universalExitLanguage);
     return envelope;
 }

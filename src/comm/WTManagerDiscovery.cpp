@@ -73,7 +73,7 @@ void WTManager::discoverPrinter()
     logDebug("logPath:%@", logPath());
     logDebug("cfgPath:%@", cfgPath);
     logDebug("modulePath:%@", modulePath);
-    WTCServer::sharedWithDelegate(this, everyLogLevel, logPath(), cfgPath.value_or(QString{}), modulePath)
+    WTCServer::sharedWithDelegate(this, everyLogLevel, logPath(), cfgPath.value_or(QString()), modulePath)
         .registerUSBSearchServiceWithVIDs({u"0x6A1B"_s, u"0x6A1C"_s});
 }
 

@@ -61,7 +61,7 @@ void WTManager::checkWiFiCapabilityFromPrinter(const QString &uri, quint32 locat
     constexpr quint16 cmd = PrinterCommand::wifiCapability;
     const auto head = std::make_shared<PrinterExchange::ReplyHead>();
     PrinterExchange::send(
-        cmd, uri, WTCommand::PJLWithCMD(cmd, QByteArray{}), PrinterExchange::usualHeadCallback(cmd, head),
+        cmd, uri, WTCommand::PJLWithCMD(cmd, QByteArray()), PrinterExchange::usualHeadCallback(cmd, head),
         [head, callBack = std::move(callBack)](const std::optional<QByteArray> &, const std::optional<WTError> &error) {
             onMainThread([head, error, callBack] {
                 if (error)

@@ -25,7 +25,7 @@ constexpr int settlingTime = 50;
 template <typename Condition>
 bool waitFor(Condition condition, std::chrono::milliseconds limit)
 {
-    return QTest::qWaitFor(condition, int(limit.count()));
+    return QTest::qWaitFor(condition, static_cast<int>(limit.count()));
 }
 
 QString screenName(const WTWindow &window)
@@ -68,7 +68,7 @@ QString Autopilot::visit(const Visit &visit)
         return u"did not come; %1 shows"_s.arg(screenName(m_window));
     if (visit.awaitsPrinter && !waitFor([] { return WTManager::shared().printerList().count() > 0; }, visit.patience))
         return u"no printer was found"_s;
-    QTest::qWait(int(std::chrono::milliseconds(visit.look).count() / m_speed));
+    QTest::qWait(static_cast<int>(std::chrono::milliseconds(visit.look).count() / m_speed));
 
     for (const Act &act : visit.acts) {
         if (&act == &visit.acts.back())

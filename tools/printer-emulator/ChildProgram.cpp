@@ -53,7 +53,7 @@ void ChildProgram::holdSignals()
 std::optional<ChildProgram> ChildProgram::start(const QStringList &command, const std::vector<QByteArray> &variables)
 {
     std::vector<QByteArray> arguments;
-    arguments.reserve(std::size_t(command.size()));
+    arguments.reserve(static_cast<std::size_t>(command.size()));
     for (const QString &argument : command)
         arguments.push_back(argument.toLocal8Bit());
     std::vector<QByteArray> allVariables = environment(variables);

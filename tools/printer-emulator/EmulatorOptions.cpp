@@ -56,7 +56,8 @@ std::variant<EmulatorOptions, EmulatorOptions::Message> EmulatorOptions::parse(c
         return Message{parser.errorText()};
     if (parser.isSet(help))
         return Message{parser.helpText(), false};
-    const int buses = int(parser.isSet(usbfs)) + int(parser.isSet(usbip)) + int(parser.isSet(usbredir));
+    const int buses = static_cast<int>(parser.isSet(usbfs)) + static_cast<int>(parser.isSet(usbip)) +
+                      static_cast<int>(parser.isSet(usbredir));
     if (buses != 1 || parser.isSet(usbfs) == parser.positionalArguments().isEmpty())
         return Message{parser.helpText()};
 

@@ -17,7 +17,7 @@ std::optional<QByteArray> JoinProgram::operator()(const QByteArray &name, const 
     program.write(name + '\0' + password + '\0');
     program.closeWriteChannel();
     // The destructor of `program` kills what has not finished.
-    if (!program.waitForFinished(int(limit.count())) || program.exitStatus() != QProcess::NormalExit ||
+    if (!program.waitForFinished(static_cast<int>(limit.count())) || program.exitStatus() != QProcess::NormalExit ||
         program.exitCode() != 0)
         return std::nullopt;
     const QByteArray address = program.readAllStandardOutput().trimmed();

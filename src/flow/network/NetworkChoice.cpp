@@ -44,8 +44,8 @@ WTWiFiPtr NetworkChoice::selectedWiFi(const Networks &networks, const NetworkEnt
         m_selectedWiFi->SSID = fields.name;
         m_selectedWiFi->password = fields.password;
         m_selectedWiFi->security = 0;
-    } else if (std::size_t(m_row) < networks.size()) {
-        *m_selectedWiFi = *networks[std::size_t(m_row)];
+    } else if (static_cast<std::size_t>(m_row) < networks.size()) {
+        *m_selectedWiFi = *networks[static_cast<std::size_t>(m_row)];
     }
     return m_selectedWiFi;
 }
@@ -67,9 +67,9 @@ std::optional<NetworkEntry> NetworkChoice::filledFields(const Networks &networks
 void NetworkChoice::followNetwork(const Networks &before, const Networks &after)
 {
     const bool chosen = m_row != 0 || m_touched;
-    if (!chosen || std::size_t(m_row) >= before.size())
+    if (!chosen || static_cast<std::size_t>(m_row) >= before.size())
         return;
-    const WTWiFi &network = *before[std::size_t(m_row)];
+    const WTWiFi &network = *before[static_cast<std::size_t>(m_row)];
     const auto place = std::find_if(after.begin(), after.end(), [&network](const WTWiFiPtr &listed) {
         return listed->SSID == network.SSID && listed->security == network.security;
     });
@@ -78,5 +78,5 @@ void NetworkChoice::followNetwork(const Networks &before, const Networks &after)
         m_editedSSID = true;
         return;
     }
-    m_row = int(place - after.begin());
+    m_row = static_cast<int>(place - after.begin());
 }

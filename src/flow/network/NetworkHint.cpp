@@ -38,7 +38,7 @@ constexpr std::array<Demands, 14> demandsBySecurity{{
 Demands demandsOf(const WTWiFi *listed)
 {
     const bool known = listed && listed->security >= 0 && listed->security < qint64{demandsBySecurity.size()};
-    return known ? demandsBySecurity[std::size_t(listed->security)] : Demands{};
+    return known ? demandsBySecurity[static_cast<std::size_t>(listed->security)] : Demands{};
 }
 
 bool hasBlankAtAnEnd(const QString &text)

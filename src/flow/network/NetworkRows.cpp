@@ -34,14 +34,14 @@ void NetworkRows::setChosenRow(int row)
 
 int NetworkRows::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : int(m_networks.size());
+    return parent.isValid() ? 0 : static_cast<int>(m_networks.size());
 }
 
 QVariant NetworkRows::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid())
         return {};
-    const WTWiFi &network = *m_networks[std::size_t(index.row())];
+    const WTWiFi &network = *m_networks[static_cast<std::size_t>(index.row())];
     switch (role) {
     case Qt::DisplayRole:
     case NameRole:

@@ -136,7 +136,8 @@ bool WTWiFiListViewModel::waitForPermission(Occasion occasion, const StatusCallb
     // The end of the program ends the wait, too, which does not mean that the host was silent.
     if (hasAnswer || !isOver || m_search != search)
         return true;
-    logWarning("no answer within %d seconds whether networks may be looked for", int(permissionWait.count() / 1000));
+    logWarning("no answer within %d seconds whether networks may be looked for",
+               static_cast<int>(permissionWait.count() / 1000));
     return false;
 }
 
@@ -204,7 +205,7 @@ bool WTWiFiListViewModel::isLegalPwd(const QString &password, qint64 authMode)
 
 const WTWiFi *WTWiFiListViewModel::listedNetwork(const QString &name) const
 {
-    const auto row = std::size_t(m_choice.row());
+    const auto row = static_cast<std::size_t>(m_choice.row());
     if (!m_choice.editedSSID() && row < m_list.size() && m_list[row]->SSID == name)
         return m_list[row].get();
     const auto listed =

@@ -24,7 +24,7 @@ QString hostnameServiceReport(std::chrono::milliseconds limit)
         return {};
     }
     const bool answered = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
-    return answered ? QString::fromUtf8(process.readAllStandardOutput()) : QString{};
+    return answered ? QString::fromUtf8(process.readAllStandardOutput()) : QString();
 }
 
 QString shortReport()

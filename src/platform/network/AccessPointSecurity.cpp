@@ -1,7 +1,6 @@
-#include <NetworkManager.h>
-
 #include "AccessPointSecurity.h"
 
+#include <NetworkManager.h>
 #include <limits>
 
 namespace

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <glib-object.h>
-
 #include <memory>
 
 /// Owners of GLib things. For .cpp files of this folder only.

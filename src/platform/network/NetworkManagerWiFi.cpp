@@ -1,6 +1,6 @@
 #include "NetworkManagerWiFi.h"
-#include "GlibPointer.h"
 
+#include "GlibPointer.h"
 #include "NetworkScan.h"
 #include "NetworkSecret.h"
 #include "NetworkThread.h"

@@ -1,6 +1,6 @@
 #include "NetworkScan.h"
-#include "GlibPointer.h"
 
+#include "GlibPointer.h"
 #include "WirelessDevice.h"
 
 #include <optional>

@@ -1,6 +1,6 @@
 #include "NetworkSecret.h"
-#include "GlibPointer.h"
 
+#include "GlibPointer.h"
 #include "WirelessDevice.h"
 
 #include <iterator>

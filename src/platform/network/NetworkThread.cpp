@@ -1,8 +1,7 @@
-#include "GlibPointer.h"
-
 #include "NetworkThread.h"
 
 #include "AlternateSignalStack.h"
+#include "GlibPointer.h"
 
 #include <thread>
 #include <utility>

@@ -1,7 +1,7 @@
 #include "WirelessDevice.h"
-#include "GlibPointer.h"
 
 #include "AccessPointSecurity.h"
+#include "GlibPointer.h"
 
 #include <QStringDecoder>
 #include <QStringList>
@@ -83,9 +83,10 @@ QString readableName(GBytes *ssid)
         return {};
     // Piece by piece between zero bytes: libnm's text would end at the first one, and be the name of another network.
     QStringList pieces;
-    for (const QByteArray &piece : QByteArray(reinterpret_cast<const char *>(bytes), qsizetype(size)).split('\0')) {
-        const GlibPointer<gchar> text(
-            nm_utils_ssid_to_utf8(reinterpret_cast<const guint8 *>(piece.constData()), gsize(piece.size())));
+    for (const QByteArray &piece :
+         QByteArray(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(size)).split('\0')) {
+        const GlibPointer<gchar> text(nm_utils_ssid_to_utf8(reinterpret_cast<const guint8 *>(piece.constData()),
+                                                            static_cast<gsize>(piece.size())));
         // A byte order mark belongs to the name: without it the printer would look for another network.
         pieces += QStringDecoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom).decode(text.get());
     }

@@ -3,7 +3,6 @@
 #include "HostWiFiPort.h"
 
 #include <NetworkManager.h>
-
 #include <QString>
 
 // Questions to libnm's objects, to be asked on the network thread by .cpp files of this folder.

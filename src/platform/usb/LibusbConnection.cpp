@@ -36,7 +36,7 @@ std::optional<WTError> LibusbConnection::write(QByteArrayView bytes)
     while (!bytes.isEmpty()) {
         // libusb only reads from the buffer of an OUT transfer.
         auto *buffer = const_cast<unsigned char *>(reinterpret_cast<const unsigned char *>(bytes.data()));
-        const int size = static_cast<int>(std::min(bytes.size(), largestTransfer));
+        const auto size = static_cast<int>(std::min(bytes.size(), largestTransfer));
         const Outcome outcome = transfer(m_interface.outEndpoint, buffer, size, what);
         if (outcome.failure)
             return judged(*outcome.failure, what);

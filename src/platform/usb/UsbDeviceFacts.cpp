@@ -46,7 +46,7 @@ std::optional<QString> deviceID(libusb_device *device, const UsbSysfs &sysfs, bo
 quint32 usbLocationID(libusb_device *device)
 {
     std::array<quint8, locatedPorts + 1> ports{};
-    const int count = libusb_get_port_numbers(device, ports.data(), int(ports.size()));
+    const int count = libusb_get_port_numbers(device, ports.data(), static_cast<int>(ports.size()));
     quint32 location = quint32{libusb_get_bus_number(device)} << busShift;
     for (int i = 0; i < std::min(count, locatedPorts); ++i)
         location |= (ports.at(static_cast<std::size_t>(i)) & 0xFU) << (busShift - 4 * (i + 1));

@@ -99,7 +99,7 @@ Rating ratingOf(const QString &password)
 double KSPasswordField::strengthOfPassword(const QString &password)
 {
     int score = classesIn(password);
-    const double length = static_cast<double>(password.size());
+    const auto length = static_cast<double>(password.size());
     if (password.size() >= longPassword && static_cast<double>(distinctCharactersIn(password)) / length > variedShare)
         ++score;
     static const QRegularExpression repetition(u"(.{4,}).*\\1"_s, QRegularExpression::CaseInsensitiveOption);

@@ -298,7 +298,7 @@ void WTWiFiListView::nameEdited()
 
 void WTWiFiListView::logMaximumLength()
 {
-    logInfo("maxLength:%lu", quint64(WTWiFiListViewModel::maxLengthBy(selectedWiFi()->security)));
+    logInfo("maxLength:%lu", static_cast<quint64>(WTWiFiListViewModel::maxLengthBy(selectedWiFi()->security)));
 }
 
 // -- ways out ---------------------------------------------------------------------------------------------------------

@@ -11,7 +11,7 @@ constexpr quint32 locationID = 0x01100000; ///< Bus 1, port 1.
 
 WTError error(UsbErrorCode code, const QString &message)
 {
-    return {usbErrorDomain, int(code), message, UsbCause{code}};
+    return {usbErrorDomain, static_cast<int>(code), message, UsbCause{code}};
 }
 } // namespace
 

@@ -17,7 +17,7 @@ constexpr qsizetype zerosOffset = passwordOffset + passwordLength;
 std::optional<qsizetype> firstNonZero(QByteArrayView bytes, qsizetype from, qsizetype to)
 {
     const auto *found = std::find_if(bytes.begin() + from, bytes.begin() + to, [](char byte) { return byte != 0; });
-    return found == bytes.begin() + to ? std::nullopt : std::optional(qsizetype(found - bytes.begin()));
+    return found == bytes.begin() + to ? std::nullopt : std::optional(static_cast<qsizetype>(found - bytes.begin()));
 }
 } // namespace
 

@@ -27,7 +27,7 @@ std::optional<QByteArray> deviceIDReply(const ModelIdentity &identity)
     if (text.isEmpty())
         return std::nullopt;
     QByteArray reply(2, '\0');
-    qToBigEndian(quint16(text.size() + reply.size()), reply.data());
+    qToBigEndian(static_cast<quint16>(text.size() + reply.size()), reply.data());
     return reply + text;
 }
 
@@ -42,7 +42,7 @@ bool namesPrinterSetting(quint16 index, const UsbShape &shape)
 std::optional<QByteArray> wholeAnswer(const Setup &setup, const ModelIdentity &identity, const UsbShape &shape)
 {
     if (setup.requestType == standardToHost && setup.request == getDescriptor && setup.value >> 8 == stringDescriptor)
-        return UsbDescriptors::string(identity, quint8(setup.value));
+        return UsbDescriptors::string(identity, static_cast<quint8>(setup.value));
     if (setup.asksForDeviceID())
         return namesPrinterSetting(setup.index, shape) ? deviceIDReply(identity) : std::nullopt;
     if (setup.requestType == printerToHost && setup.request == getPortStatus)
@@ -54,7 +54,7 @@ std::optional<QByteArray> wholeAnswer(const Setup &setup, const ModelIdentity &i
 Setup Setup::parse(QByteArrayView bytes)
 {
     const auto number = [&bytes](qsizetype offset) { return qFromLittleEndian<quint16>(bytes.data() + offset); };
-    return {quint8(bytes[0]), quint8(bytes[1]), number(2), number(4), number(6)};
+    return {static_cast<quint8>(bytes[0]), static_cast<quint8>(bytes[1]), number(2), number(4), number(6)};
 }
 
 bool Setup::asksForDeviceID() const

@@ -37,8 +37,8 @@ private:
     void payloadComplete();
     void lose(qsizetype offset, const QString &what);
     void complete(qsizetype length);
-    quint8 byteAt(qsizetype offset) const { return quint8(m_frame.bytes[offset]); }
-    quint16 numberAt(qsizetype offset) const { return quint16(byteAt(offset) << 8 | byteAt(offset + 1)); }
+    quint8 byteAt(qsizetype offset) const { return static_cast<quint8>(m_frame.bytes[offset]); }
+    quint16 numberAt(qsizetype offset) const { return static_cast<quint16>(byteAt(offset) << 8 | byteAt(offset + 1)); }
 
     ReceivedFrame m_frame;
     qsizetype m_payloadSize = 0;

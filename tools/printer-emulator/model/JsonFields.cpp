@@ -63,7 +63,7 @@ void JsonFields::readCode(const QString &key, std::optional<quint16> &target)
         return;
     const std::optional<QByteArray> bytes = bytesFromHex(value);
     if (bytes && bytes->size() == 2)
-        target = quint16(quint8(bytes->front()) << 8 | quint8(bytes->back()));
+        target = static_cast<quint16>(static_cast<quint8>(bytes->front()) << 8 | static_cast<quint8>(bytes->back()));
     else
         complain(key, u"a command code such as \"FF80\" is wanted"_s);
 }
@@ -95,7 +95,7 @@ std::optional<std::size_t> JsonFields::readChoice(const QString &key, const QStr
         return std::nullopt;
     const qsizetype index = choices.indexOf(value.toString());
     if (index >= 0)
-        return std::size_t(index);
+        return static_cast<std::size_t>(index);
     complain(key, u"one of %1 is wanted"_s.arg(choices.join(u", "_s)));
     return std::nullopt;
 }
@@ -144,7 +144,7 @@ bool JsonFields::convert(const QJsonValue &value, bool &target)
 std::optional<qint64> JsonFields::wholeNumber(const QJsonValue &value, qint64 least, qint64 most)
 {
     const double number = value.toDouble(std::nan(""));
-    if (!(number >= double(least) && number <= double(most)) || std::trunc(number) != number)
+    if (!(number >= static_cast<double>(least) && number <= static_cast<double>(most)) || std::trunc(number) != number)
         return std::nullopt;
-    return qint64(number);
+    return static_cast<qint64>(number);
 }

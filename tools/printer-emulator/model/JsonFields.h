@@ -56,7 +56,7 @@ private:
     static bool convert(const QJsonValue &value, Number &target)
     {
         using Limits = std::numeric_limits<Number>;
-        constexpr qint64 most = sizeof(Number) < sizeof(qint64) ? qint64(Limits::max()) : qint64(1) << 53;
+        constexpr qint64 most = sizeof(Number) < sizeof(qint64) ? static_cast<qint64>(Limits::max()) : qint64{1} << 53;
         const auto number = wholeNumber(value, 0, most);
         if (number)
             target = Number(*number);

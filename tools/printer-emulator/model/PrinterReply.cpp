@@ -26,8 +26,9 @@ std::vector<qsizetype> sliceSizes(const PrinterFault &fault, qsizetype total)
     std::mt19937 random(fault.sliceSeed.value_or(0));
     while (covered < total) {
         const qsizetype rest = total - covered;
-        sizes.push_back(fault.sliceSeed ? std::min<qsizetype>(rest, 1 + qsizetype(random() % largestRandomSlice))
-                                        : rest);
+        sizes.push_back(fault.sliceSeed
+                            ? std::min<qsizetype>(rest, 1 + static_cast<qsizetype>(random() % largestRandomSlice))
+                            : rest);
         covered += sizes.back();
     }
     return sizes;
@@ -39,11 +40,11 @@ QByteArray PrinterReply::bytes(const PrinterFault &fault) const
     const QByteArray content = fault.data.value_or(data);
     QByteArray header(replyHeaderSize, '\0');
     const auto put = [&header](qsizetype offset, quint16 number) { qToBigEndian(number, header.data() + offset); };
-    header[0] = char(magic[0]);
-    header[1] = char(magic[1]);
+    header[0] = static_cast<char>(magic[0]);
+    header[1] = static_cast<char>(magic[1]);
     put(2, fault.echo.value_or(command));
     put(4, fault.result.value_or(result));
-    put(6, fault.lengthField.value_or(quint16(content.size())));
+    put(6, fault.lengthField.value_or(static_cast<quint16>(content.size())));
     return fault.garbage + header + (fault.noData ? QByteArray() : content) + fault.trailingGarbage;
 }
 

@@ -15,10 +15,10 @@ constexpr quint8 selfPowered = 0xC0;
 /// Appends one descriptor, its length byte first.
 void append(QByteArray &to, Type type, std::initializer_list<int> content)
 {
-    to.append(char(content.size() + 2));
-    to.append(char(type));
+    to.append(static_cast<char>(content.size() + 2));
+    to.append(static_cast<char>(type));
     for (const int byte : content)
-        to.append(char(byte));
+        to.append(static_cast<char>(byte));
 }
 
 constexpr int low(quint16 number)
@@ -36,22 +36,22 @@ QByteArray textDescriptor(const QString &text)
     QByteArray descriptor;
     append(descriptor, StringType, {});
     for (const QChar unit : text) {
-        descriptor.append(char(low(unit.unicode())));
-        descriptor.append(char(high(unit.unicode())));
+        descriptor.append(static_cast<char>(low(unit.unicode())));
+        descriptor.append(static_cast<char>(high(unit.unicode())));
     }
-    descriptor[0] = char(descriptor.size());
+    descriptor[0] = static_cast<char>(descriptor.size());
     return descriptor;
 }
 } // namespace
 
 quint8 outEndpoint(int interface)
 {
-    return quint8(2 * interface + 1);
+    return static_cast<quint8>(2 * interface + 1);
 }
 
 quint8 inEndpoint(int interface)
 {
-    return quint8(0x80 | (2 * interface + 2));
+    return static_cast<quint8>(0x80 | (2 * interface + 2));
 }
 
 QByteArray device(const ModelIdentity &identity)
@@ -66,7 +66,7 @@ QByteArray device(const ModelIdentity &identity)
 QByteArray configuration(const UsbShape &shape)
 {
     QByteArray interfaces;
-    for (int number = 0; number < int(shape.interfaces.size()); ++number) {
+    for (int number = 0; number < static_cast<int>(shape.interfaces.size()); ++number) {
         int alternate = 0;
         for (const UsbShape::AlternateSetting &setting : shape.interfaces[number]) {
             append(interfaces, InterfaceType,
@@ -80,10 +80,10 @@ QByteArray configuration(const UsbShape &shape)
         }
     }
     constexpr int ownSize = 9;
-    const quint16 total = quint16(ownSize + interfaces.size());
+    const auto total = static_cast<quint16>(ownSize + interfaces.size());
     QByteArray descriptor;
     append(descriptor, ConfigurationType,
-           {low(total), high(total), int(shape.interfaces.size()), 1, 0, selfPowered, 1});
+           {low(total), high(total), static_cast<int>(shape.interfaces.size()), 1, 0, selfPowered, 1});
     return descriptor + interfaces;
 }
 

@@ -125,7 +125,7 @@ QString UsbfsBed::sysfsPath(int printer) const
 quint32 UsbfsBed::locationID(int printer) const
 {
     return m_bus->of<quint32>(printer, [](const UsbfsDevice &device) {
-        return quint32(UsbfsSysfs::busNumber) << 24 | quint32(device.port()) << 20;
+        return static_cast<quint32>(UsbfsSysfs::busNumber) << 24 | static_cast<quint32>(device.port()) << 20;
     });
 }
 

@@ -54,7 +54,7 @@ UsbfsBus::~UsbfsBus()
 int UsbfsBus::add(PrinterModel model, UsbShape shape)
 {
     const TimedLock::Turn turn(m_lock);
-    const int printer = int(m_devices.size());
+    const auto printer = static_cast<int>(m_devices.size());
     const PrinterScript script = model.script();
     m_devices.push_back(std::make_unique<UsbfsDevice>(*this, m_root, printer + 1, std::move(model), std::move(shape)));
     scheduleStart(printer, script);

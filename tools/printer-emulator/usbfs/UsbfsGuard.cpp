@@ -36,7 +36,7 @@ int guarded(const char *wrapped, const char *path, int flags, mode_t mode)
     if (std::strncmp(path, "/dev/", 5) == 0) {
         switch (nodeAt(path)) {
         case Node::Foreign:
-            return int(::syscall(SYS_openat, AT_FDCWD, path, flags, mode));
+            return static_cast<int>(::syscall(SYS_openat, AT_FDCWD, path, flags, mode));
         case Node::Refused:
             errno = EACCES;
             return -1;

@@ -44,7 +44,7 @@ int UsbfsInterfaces::handle(unsigned long request, UMockdevIoctlClient *client)
     case USBDEVFS_GETDRIVER:
         return tellDriver(client);
     case USBDEVFS_CLAIMINTERFACE:
-        return claim(int(*IoctlArgument<unsigned>(client)), client);
+        return claim(static_cast<int>(*IoctlArgument<unsigned>(client)), client);
     case USBDEVFS_RELEASEINTERFACE: {
         const int released = withInterface(*IoctlArgument<unsigned>(client),
                                            [&](Interface &interface) { return interface.binding.release(client); });
@@ -64,7 +64,7 @@ int UsbfsInterfaces::handle(unsigned long request, UMockdevIoctlClient *client)
 
 int UsbfsInterfaces::claim(int interface, UMockdevIoctlClient *client)
 {
-    return withInterface(unsigned(interface), [client](Interface &found) { return found.claim(client); });
+    return withInterface(static_cast<unsigned>(interface), [client](Interface &found) { return found.claim(client); });
 }
 
 int UsbfsInterfaces::claimForEndpoint(quint8 endpoint, UMockdevIoctlClient *client)
@@ -96,7 +96,7 @@ int UsbfsInterfaces::select(UMockdevIoctlClient *client)
             return -EINVAL;
         const int claimed = interface.claim(client);
         if (claimed == 0)
-            interface.alternateSetting = int(argument->altsetting);
+            interface.alternateSetting = static_cast<int>(argument->altsetting);
         return claimed;
     });
 }
@@ -104,8 +104,8 @@ int UsbfsInterfaces::select(UMockdevIoctlClient *client)
 int UsbfsInterfaces::disconnectAndClaim(UMockdevIoctlClient *client)
 {
     const IoctlArgument<usbdevfs_disconnect_claim> argument(client);
-    const QString named =
-        QString::fromLatin1(argument->driver, qsizetype(qstrnlen(argument->driver, sizeof argument->driver)));
+    const QString named = QString::fromLatin1(
+        argument->driver, static_cast<qsizetype>(qstrnlen(argument->driver, sizeof argument->driver)));
     const bool except = argument->flags & USBDEVFS_DISCONNECT_CLAIM_EXCEPT_DRIVER;
     const bool only = argument->flags & USBDEVFS_DISCONNECT_CLAIM_IF_DRIVER;
     return withInterface(argument->interface, [&](Interface &interface) {
@@ -118,8 +118,8 @@ int UsbfsInterfaces::disconnectAndClaim(UMockdevIoctlClient *client)
 int UsbfsInterfaces::kernelDriverRequest(UMockdevIoctlClient *client)
 {
     const IoctlArgument<usbdevfs_ioctl> argument(client);
-    return withInterface(unsigned(argument->ifno), [&](Interface &interface) {
-        switch (unsigned(argument->ioctl_code)) {
+    return withInterface(static_cast<unsigned>(argument->ifno), [&](Interface &interface) {
+        switch (static_cast<unsigned>(argument->ioctl_code)) {
         case USBDEVFS_DISCONNECT:
             return interface.binding.disconnect();
         case USBDEVFS_CONNECT:
@@ -137,7 +137,7 @@ int UsbfsInterfaces::withInterface(unsigned number, const std::function<int(Inte
 
 int UsbfsInterfaces::claims() const
 {
-    return int(std::ranges::count_if(m_interfaces, [](const Interface &interface) {
+    return static_cast<int>(std::ranges::count_if(m_interfaces, [](const Interface &interface) {
         return interface.binding.isClaimed() && !interface.binding.isClaimedBy(&otherProgram);
     }));
 }

@@ -29,7 +29,7 @@ public:
     /// Another program takes the interfaces as soon as no program has them.
     void setHeld(bool held);
 
-    int count() const { return int(m_interfaces.size()); }
+    int count() const { return static_cast<int>(m_interfaces.size()); }
     QString driver(int interface) const { return m_interfaces.at(interface).binding.driver(); }
     int alternateSetting(int interface) const { return m_interfaces.at(interface).alternateSetting; }
     /// How many interfaces programs have claimed. The other program of `setHeld` does not count.

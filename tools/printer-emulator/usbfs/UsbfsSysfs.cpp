@@ -60,7 +60,7 @@ void UsbfsSysfs::createInterfaces(const UsbShape &shape) const
 {
     fs::create_directories(m_sys / "bus/usb/drivers/usblp");
     fs::create_directories(m_sys / "bus/usb/drivers/usbfs");
-    for (int number = 0; number < int(shape.interfaces.size()); ++number) {
+    for (int number = 0; number < static_cast<int>(shape.interfaces.size()); ++number) {
         const UsbShape::AlternateSetting &setting = shape.interfaces[number].front();
         const fs::path folder = interfaceFolder(number);
         const fs::path link = m_sys / "bus/usb/devices" / folder.filename();
@@ -68,7 +68,7 @@ void UsbfsSysfs::createInterfaces(const UsbShape &shape) const
         fs::create_directories(link.parent_path());
         fs::remove(link);
         fs::create_symlink("../../../devices/usb1" / folder.lexically_relative(m_sys / "devices/usb1"), link);
-        write(folder / "bInterfaceNumber", hex(quint16(number), 2) + '\n');
+        write(folder / "bInterfaceNumber", hex(static_cast<quint16>(number), 2) + '\n');
         write(folder / "bAlternateSetting", " 0\n");
         write(folder / "bNumEndpoints", setting.bulkIn ? "02\n" : "01\n");
         write(folder / "bInterfaceClass", hex(setting.interfaceClass, 2) + '\n');

@@ -13,7 +13,7 @@ UsbfsUrb::UsbfsUrb(UMockdevIoctlClient *client)
     m_control = urb->type == USBDEVFS_URB_TYPE_CONTROL;
     m_length = urb->buffer_length;
     m_urb = urb.take();
-    m_buffer = resolve(m_urb.get(), offsetof(usbdevfs_urb, buffer), std::size_t(m_length));
+    m_buffer = resolve(m_urb.get(), offsetof(usbdevfs_urb, buffer), static_cast<std::size_t>(m_length));
 }
 
 QByteArrayView UsbfsUrb::bytes() const
@@ -25,7 +25,7 @@ void UsbfsUrb::writeBack(UMockdevIoctlClient *reaper) const
 {
     auto *urb = reinterpret_cast<usbdevfs_urb *>(m_urb->data);
     urb->status = status;
-    urb->actual_length = int(isIn() || isControl() ? in.size() : out.sent);
+    urb->actual_length = static_cast<int>(isIn() || isControl() ? in.size() : out.sent);
     if (!in.isEmpty())
         std::ranges::copy(in, m_buffer->data + (isControl() ? ControlPipe::Setup::size : 0));
     const auto answer = resolve(umockdev_ioctl_client_get_arg(reaper), 0, sizeof(void *));

@@ -83,7 +83,7 @@ void UsbipLine::control(const Request &request)
 
 void UsbipLine::ended(const RemoteDevice::Transfer &transfer, RemoteDevice::End end)
 {
-    const auto sequence = quint32(transfer.identity);
+    const auto sequence = static_cast<quint32>(transfer.identity);
     m_answers += transfer.isIn ? UsbipMessages::received(sequence, statusOf(end), transfer.bytes)
                                : UsbipMessages::sent(sequence, statusOf(end), transfer.out.sent);
 }

@@ -34,8 +34,8 @@ QByteArray reply(Command command, quint32 sequence, int status, qsizetype length
     QByteArray header(headerSize, '\0');
     put(header, 0, command);
     put(header, SequenceAt, sequence);
-    put(header, StatusAt, quint32(status));
-    put(header, ActualLengthAt, quint32(length));
+    put(header, StatusAt, static_cast<quint32>(status));
+    put(header, ActualLengthAt, static_cast<quint32>(length));
     return header;
 }
 } // namespace
@@ -43,10 +43,10 @@ QByteArray reply(Command command, quint32 sequence, int status, qsizetype length
 Request Request::parse(QByteArrayView header)
 {
     Request request;
-    request.isUnlink = number(header, Offset(0)) == Unlink;
+    request.isUnlink = number(header, static_cast<Offset>(0)) == Unlink;
     request.sequence = number(header, SequenceAt);
     request.isIn = number(header, DirectionAt) == 1;
-    request.endpoint = quint8(number(header, EndpointAt));
+    request.endpoint = static_cast<quint8>(number(header, EndpointAt));
     if (request.isUnlink) {
         request.unlinked = number(header, UnlinkedAt);
     } else {

@@ -63,7 +63,7 @@ VirtualHostController::~VirtualHostController()
 void VirtualHostController::wait(std::optional<std::chrono::milliseconds> limit) const
 {
     pollfd input{m_socket, POLLIN, 0};
-    poll(&input, 1, limit ? int(limit->count()) : -1);
+    poll(&input, 1, limit ? static_cast<int>(limit->count()) : -1);
 }
 
 bool VirtualHostController::hasInput() const
@@ -77,7 +77,7 @@ std::optional<QByteArray> VirtualHostController::read(qsizetype size)
     QByteArray bytes(size, Qt::Uninitialized);
     qsizetype got = 0;
     while (got < size) {
-        const ssize_t piece = recv(m_socket, bytes.data() + got, std::size_t(size - got), 0);
+        const ssize_t piece = recv(m_socket, bytes.data() + got, static_cast<std::size_t>(size - got), 0);
         if (piece < 0 && errno == EINTR)
             continue;
         if (piece <= 0)
@@ -90,7 +90,7 @@ std::optional<QByteArray> VirtualHostController::read(qsizetype size)
 void VirtualHostController::write(QByteArrayView bytes)
 {
     while (!bytes.isEmpty()) {
-        const ssize_t piece = send(m_socket, bytes.data(), std::size_t(bytes.size()), MSG_NOSIGNAL);
+        const ssize_t piece = send(m_socket, bytes.data(), static_cast<std::size_t>(bytes.size()), MSG_NOSIGNAL);
         if (piece < 0 && errno == EINTR)
             continue;
         if (piece < 0)

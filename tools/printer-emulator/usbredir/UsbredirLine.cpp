@@ -71,7 +71,8 @@ UsbredirLine::UsbredirLine(const QByteArray &path)
 {
     listen();
     std::array<quint32, USB_REDIR_CAPS_SIZE> able = capabilities();
-    usbredirparser_init(m_parser.get(), "printer-emulator", able.data(), int(able.size()), usbredirparser_fl_usb_host);
+    usbredirparser_init(m_parser.get(), "printer-emulator", able.data(), static_cast<int>(able.size()),
+                        usbredirparser_fl_usb_host);
     flush();
     while (!m_isIntroduced && m_isOpen) {
         m_socket.wait(std::nullopt);
@@ -89,10 +90,10 @@ void UsbredirLine::listen()
             std::fprintf(stderr, "printer-emulator: %s\n", text);
     };
     on.read_func = [](void *self, quint8 *bytes, int count) {
-        return lineOf(self).m_socket.read({bytes, std::size_t(count)});
+        return lineOf(self).m_socket.read({bytes, static_cast<std::size_t>(count)});
     };
     on.write_func = [](void *self, quint8 *bytes, int count) {
-        return lineOf(self).m_socket.write({bytes, std::size_t(count)});
+        return lineOf(self).m_socket.write({bytes, static_cast<std::size_t>(count)});
     };
     on.hello_func = [](void *self, usb_redir_hello_header *) { lineOf(self).m_isIntroduced = true; };
     on.device_disconnect_ack_func = [](void *) {};
@@ -159,8 +160,8 @@ void UsbredirLine::describe()
     usbredirparser_send_interface_info(m_parser.get(), &interfaces);
 
     usb_redir_ep_info_header endpoints{};
-    std::ranges::fill(endpoints.type, quint8(usb_redir_type_invalid));
-    for (const quint8 endpoint : {quint8(0), directionIn}) {
+    std::ranges::fill(endpoints.type, static_cast<quint8>(usb_redir_type_invalid));
+    for (const quint8 endpoint : {quint8{0}, directionIn}) {
         endpoints.type[placeOf(endpoint)] = usb_redir_type_control;
         endpoints.max_packet_size[placeOf(endpoint)] = fullSpeedPacket;
     }
@@ -224,8 +225,8 @@ void UsbredirLine::control(Identity identity, const usb_redir_control_packet_hea
     told.status = statusOf(end);
     QByteArray data = asked.requesttype & directionIn ? bytes : QByteArray();
     if (asked.requesttype & directionIn)
-        told.length = quint16(data.size());
-    usbredirparser_send_control_packet(m_parser.get(), identity, &told, bytesOf(data), int(data.size()));
+        told.length = static_cast<quint16>(data.size());
+    usbredirparser_send_control_packet(m_parser.get(), identity, &told, bytesOf(data), static_cast<int>(data.size()));
 }
 
 void UsbredirLine::begin(Identity identity, const usb_redir_bulk_packet_header &asked, const QByteArray &data)
@@ -233,7 +234,7 @@ void UsbredirLine::begin(Identity identity, const usb_redir_bulk_packet_header &
     if (!m_device)
         return;
     const bool isIn = asked.endpoint & directionIn;
-    const qsizetype length = asked.length | qsizetype(asked.length_high) << halfBits;
+    const qsizetype length = asked.length | static_cast<qsizetype>(asked.length_high) << halfBits;
     m_device->begin(
         {.identity = identity, .isIn = isIn, .length = length, .bytes = isIn ? QByteArray() : data, .out = {}});
 }
@@ -256,7 +257,8 @@ void UsbredirLine::answer(const RemoteDevice::Transfer &transfer, quint8 status,
     usb_redir_bulk_packet_header told{};
     told.endpoint = transfer.isIn ? UsbDescriptors::inEndpoint(0) : UsbDescriptors::outEndpoint(0);
     told.status = status;
-    told.length = quint16(length);
-    told.length_high = quint16(length >> halfBits);
-    usbredirparser_send_bulk_packet(m_parser.get(), transfer.identity, &told, bytesOf(data), int(data.size()));
+    told.length = static_cast<quint16>(length);
+    told.length_high = static_cast<quint16>(length >> halfBits);
+    usbredirparser_send_bulk_packet(m_parser.get(), transfer.identity, &told, bytesOf(data),
+                                    static_cast<int>(data.size()));
 }

@@ -20,7 +20,7 @@ int listenAt(const QByteArray &path)
 {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
-    if (path.size() >= qsizetype(sizeof address.sun_path))
+    if (path.size() >= static_cast<qsizetype>(sizeof address.sun_path))
         fail(path, ENAMETOOLONG);
     std::ranges::copy(path, address.sun_path);
     const int server = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
@@ -53,19 +53,19 @@ UsbredirSocket::~UsbredirSocket()
 void UsbredirSocket::wait(std::optional<std::chrono::milliseconds> limit) const
 {
     pollfd input{m_socket, POLLIN, 0};
-    ::poll(&input, 1, limit ? int(limit->count()) : -1);
+    ::poll(&input, 1, limit ? static_cast<int>(limit->count()) : -1);
 }
 
 int UsbredirSocket::read(std::span<quint8> bytes)
 {
     const ssize_t count = ::recv(m_socket, bytes.data(), bytes.size(), MSG_DONTWAIT);
     if (count > 0)
-        return int(count);
+        return static_cast<int>(count);
     return count < 0 && (errno == EAGAIN || errno == EINTR) ? 0 : -1;
 }
 
 int UsbredirSocket::write(std::span<const quint8> bytes)
 {
     const ssize_t count = ::send(m_socket, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-    return count < 0 && errno == EINTR ? 0 : int(count);
+    return count < 0 && errno == EINTR ? 0 : static_cast<int>(count);
 }
