@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <utility>
 
-/// One printer that exists in memory only. It takes every frame and answers with the given bytes, at most `slice` of them
-/// in one read; after the last one it is unplugged. The bytes outlive it.
+/// One printer that exists in memory only. It takes every frame and answers with the given bytes, at most `slice` of
+/// them in one read; after the last one it is unplugged. The bytes outlive it.
 class SlicedWire : public UsbPort
 {
 public:
