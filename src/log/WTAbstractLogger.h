@@ -35,7 +35,8 @@ protected:
     /// What the formatter makes of the message, or its own text when there is no formatter; absent drops the message.
     /// On the logger's queue only.
     std::optional<QString> textForMessage(const WTLogMessage &message) const;
-    /// Runs `job` on the logger's queue by way of the logging queue and waits for it: how settings are read.
+    /// Runs `job` on the logger's queue after all that the logging queue holds, and waits for it: how settings are
+    /// read.
     void readOnQueues(const SerialQueue::Job &job) const;
     /// The same without waiting; keeps the logger alive until `job` has run: how settings are changed.
     void changeOnQueues(SerialQueue::Job job);

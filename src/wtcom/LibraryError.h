@@ -7,7 +7,7 @@
 /// @param cause absent for a failure that has nothing to do with the bus.
 WTError libraryError(WTCErrorCode code, const QString &URI, const QString &why, const std::optional<UsbCause> &cause);
 
-/// The bus's reason as the library reports it; the cause goes along.
+/// An error of the bus as the library reports it, with the same cause.
 WTError libraryErrorFromBus(const QString &URI, const WTError &usbError);
 
 WTError noSuchPrinter(const QString &URI);

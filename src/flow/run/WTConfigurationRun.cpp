@@ -17,7 +17,7 @@ constexpr std::chrono::seconds stepLimit = 240s;
 constexpr qint64 configurationRetries = 2;
 constexpr int fullProgress = 100;
 
-/// The catalogue's word on Wi-Fi support that needs no question, and the one that does.
+/// What the catalogue says of a model's Wi-Fi: supported, or to be asked of the printer.
 constexpr qint64 wifiSupported = 1;
 constexpr qint64 wifiSupportUnknown = -1;
 

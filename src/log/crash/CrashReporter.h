@@ -11,7 +11,7 @@
 /// - the facts of a signal lie in a place that is made ahead, and texts in them are only referred to;
 /// - messages were made in their callers' arenas, so the logging queue leaves it to a thread that nobody waits for to
 ///   give them back (`GlobalQueue`), and keeps to pieces so small that the allocator takes them without a lock;
-/// - should a thread of the log wait for the crashed one all the same, `ReportDelivery` goes round it.
+/// - if a thread of the log waits for the crashed one nevertheless, `ReportDelivery` does without it.
 namespace CrashReporter
 {
 

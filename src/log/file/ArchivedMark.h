@@ -14,7 +14,7 @@ void putOn(const QString &path);
 void takeOff(const QString &path);
 /// A new file has taken the path: what was remembered of an older one is void.
 void forget(const QString &path);
-/// The file was renamed: what was remembered of it goes along.
+/// The file was renamed: what was remembered of the old path now counts for the new one.
 void follow(const QString &oldPath, const QString &newPath);
 
 } // namespace ArchivedMark

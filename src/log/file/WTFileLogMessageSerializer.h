@@ -10,6 +10,6 @@ class WTFileLogMessageSerializer
 {
 public:
     virtual ~WTFileLogMessageSerializer() = default;
-    /// `message` is absent for text that no message stands behind, such as the file header.
+    /// `message` is null for text that is no message, such as the file header.
     virtual QByteArray dataForString(const QString &string, const WTLogMessage *message) const = 0;
 };

@@ -13,7 +13,8 @@
 /// Nothing is opened before the first message. No failure reaches the caller: each is told on the console, and logging
 /// goes on with the next message.
 ///
-/// Public operations may be called on any thread; those that wait go by way of the logging queue, so not from there.
+/// Public operations may be called on any thread; but those that wait must not be called on the logging queue, for
+/// which they wait.
 class WTFileLogger : public WTAbstractLogger
 {
 public:

@@ -8,8 +8,8 @@
 #include <memory>
 #include <optional>
 
-/// What a file logger asks of the one that names, finds, creates and prunes its files. Creation and listing are called
-/// on the logger's queue, notifications on its completion queue, the limits from anywhere.
+/// What a file logger asks of its manager, which names, finds, creates and prunes the log files. Creation and listing
+/// are called on the logger's queue, notifications on its completion queue, the limits from anywhere.
 class WTLogFileManaging
 {
 public:

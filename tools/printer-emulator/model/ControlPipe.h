@@ -24,9 +24,9 @@ struct Setup {
 
     bool asksForDeviceID() const;
 
-    /// The interface that usbfs wants claimed before it lets the request through: that which the request is addressed
-    /// to. Absent when no claim is needed: other recipients, and the question for the device ID if its index names a
-    /// setting of the printer class (interface in the high byte, setting in the low byte).
+    /// The interface that the request is addressed to, which usbfs wants claimed first. Absent when no claim is needed:
+    /// other recipients, and the question for the device ID if its index names a setting of the printer class
+    /// (interface in the high byte, setting in the low byte).
     std::optional<int> interfaceToClaim(const UsbShape &shape) const;
 };
 

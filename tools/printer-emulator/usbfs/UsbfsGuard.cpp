@@ -49,7 +49,7 @@ int guarded(const char *wrapped, const char *path, int flags, mode_t mode)
 }
 } // namespace
 
-// The plain name, and the one that a program built with _FORTIFY_SOURCE calls.
+// The plain name, and the name that a program built with _FORTIFY_SOURCE calls.
 #define WT_GUARD(name, fortified)                                                                                      \
     extern "C" __attribute__((visibility("default"))) int name(const char *path, int flags, ...)                       \
     {                                                                                                                  \
