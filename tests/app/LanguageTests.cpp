@@ -49,169 +49,146 @@ class LanguageTests : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
+    void initTestCase()
+    {
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_folder.filePath(u"config"_s)));
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.filePath(u"config"_s));
+        WTApp::usePorts(m_hostWiFi, m_desktop, {});
 
-    void readsPreferredLanguages_data();
-    void readsPreferredLanguages();
-    void decidesByTheLocale_data();
-    void decidesByTheLocale();
-    void reordersPreferredLanguages_data();
-    void reordersPreferredLanguages();
-    void storesOnlyWhatTheUserSet();
-    void looksUpInTheAttachedLanguage();
+        for (const QString &language : {u"en"_s, u"zh-Hans"_s, u"zh-Hant"_s, u"ja"_s})
+            QVERIFY(QDir().mkpath(m_folder.filePath(u"res/%1.lproj"_s.arg(language))));
+        QVERIFY(QFile::copy(QStringLiteral(WT_RESOURCES "/en.lproj/wifitool.qm"),
+                            m_folder.filePath(u"res/en.lproj/wifitool.qm"_s)));
+        QVERIFY(QFile(m_folder.filePath(u"res/catalogue.json"_s)).open(QIODevice::WriteOnly));
+    }
+
+    void init()
+    {
+        QDir(m_folder.filePath(u"config"_s)).removeRecursively();
+        InfoList::setResourceFolder(m_folder.filePath(u"res"_s));
+        BundleEx::showLanguage(std::nullopt);
+    }
+
+    void readsPreferredLanguages()
+    {
+        eachRow(
+            {
+                {"the C locale", {{u"LANG"_s, u"C.UTF-8"_s}, {u"LC_ALL"_s, u"POSIX"_s}}, {}},
+                {"script in front of territory alone", {{u"LANG"_s, u"zh_SG.UTF-8"_s}}, {u"zh-Hans-SG"_s, u"zh-SG"_s}},
+                {"best first",
+                 {{u"LANGUAGE"_s, u"zh_HK:de"_s}, {u"LC_MESSAGES"_s, u"fr_FR@euro"_s}, {u"LANG"_s, u"zh_HK.UTF-8"_s}},
+                 {u"zh-Hant-HK"_s, u"de-Latn-DE"_s, u"fr-Latn-FR"_s, u"zh-HK"_s, u"de"_s, u"fr-FR"_s}},
+            },
+            [&](const Environment &environment, const QStringList &languages) {
+                QProcessEnvironment process;
+                for (const QString &variable : environment.keys())
+                    process.insert(variable, environment.value(variable));
+                QCOMPARE(HostLanguages::preferred(process), languages);
+            });
+    }
+
+    void decidesByTheLocale()
+    {
+        const auto told = [](const QString &decided) { return u"info: App Language:"_s + decided; };
+        const QString english = u"en"_s;
+        const QString simplified = u"zh-Hans"_s;
+        const QString traditional = u"zh-Hant"_s;
+        const QString otherLine = u"info: OS Language:fr, App Lang:en"_s;
+        const QString chinese = u"zh_CN.UTF-8"_s;
+        eachRow(
+            {
+                {"English", u"en_GB.UTF-8"_s, {}, english, u"Cancel"_s, told(english)},
+                {"the C locale", u"C"_s, {}, english, u"Cancel"_s, u"error: Error LanguageCode"_s},
+                {"Hong Kong", u"zh_HK.UTF-8"_s, {}, traditional, u"取消"_s, told(traditional)},
+                {"a folder without texts", u"ja_JP.UTF-8"_s, {}, u"ja"_s, u"取消"_s, told(u"ja"_s)},
+                {"no folder", u"fr_FR.UTF-8"_s, {}, english, u"Cancel"_s, otherLine},
+                {"an entry that is no language", u"ca_ES.UTF-8"_s, {}, u"ca"_s, u"Cancel"_s, told(u"ca"_s)},
+                {"the user's list: Hant",
+                 chinese,
+                 {u"en"_s, u"zh-Hant-TW"_s, u"zh-CN"_s},
+                 traditional,
+                 u"取消"_s,
+                 told(traditional)},
+                {"the user's list: HK", chinese, {u"zh-HK"_s}, traditional, u"取消"_s, told(traditional)},
+            },
+            [&](const QString &locale, const QStringList &stored, const QString &decided, const QString &cancel,
+                const QString &lastLine) {
+                init();
+                if (!stored.isEmpty())
+                    QSettings(u"wifitool"_s, u"wifitool"_s).setValue(u"AppleLanguages", stored);
+
+                QProcessEnvironment process = QProcessEnvironment::systemEnvironment();
+                for (const QString &variable : {u"LANGUAGE"_s, u"LC_ALL"_s, u"LC_MESSAGES"_s})
+                    process.remove(variable);
+                process.insert(u"LANG"_s, locale);
+                QProcess probe;
+                probe.setProcessEnvironment(process);
+                probe.start(QCoreApplication::applicationFilePath(), {probeArgument, m_folder.filePath(u"res"_s)});
+                QVERIFY(probe.waitForFinished());
+                const QStringList printed = QString::fromUtf8(probe.readAllStandardOutput()).trimmed().split(u'\n');
+                QVERIFY2(printed.size() > 4, probe.readAllStandardError().constData());
+                QCOMPARE(printed[0], decided);
+                QCOMPARE(printed[1], decided);
+                // The toolkit's own texts are to be in the language of the program's.
+                QCOMPARE(printed[2], printed[3] == u"Cancel"_s ? u"en"_s : decided);
+                QCOMPARE(printed[3], cancel);
+                QCOMPARE(printed.last(), lastLine);
+            });
+    }
+
+    void reordersPreferredLanguages()
+    {
+        eachRow(
+            {
+                {"the beginning of an entry", u"zh"_s, {u"zh-Hans-CN"_s, u"en"_s, u"zh-Hant-TW"_s}},
+            },
+            [&](const QString &code, const QStringList &languages) {
+                QSettings(u"wifitool"_s, u"wifitool"_s)
+                    .setValue(u"AppleLanguages", QStringList{u"en"_s, u"zh-Hans-CN"_s, u"zh-Hant-TW"_s});
+                QCOMPARE(BundleEx::setAppLanguage(code), languages);
+                QCOMPARE(BundleEx::getCurrentLanguage(), languages);
+            });
+    }
+
+    void storesOnlyWhatTheUserSet()
+    {
+        const QString settings = m_folder.filePath(u"config"_s);
+        BundleEx::getCurrentLanguage();
+        BundleEx::setAppLanguage(std::nullopt);
+        WTApp::shared().setAppLanguage(u"en"_s);
+        QVERIFY(!QFile::exists(settings));
+        BundleEx::setAppLanguage(u"ja"_s);
+        QVERIFY(QFile::exists(settings));
+    }
+
+    void looksUpInTheAttachedLanguage()
+    {
+        const BundleEx &bundle = BundleEx::mainBundle();
+        QCOMPARE(localized(u"取消"_s), u"取消"_s);
+        QCOMPARE(bundle.localizedStringForKey(u"取消"_s, u"default"_s, {}), u"default"_s);
+
+        QVERIFY(BundleEx::showLanguage(u"en"_s));
+        QCOMPARE(localized(u"取消"_s), u"Cancel"_s);
+        QCOMPARE(bundle.localizedStringForKey(u"取消"_s, u"default"_s, {}), u"Cancel"_s);
+        QCOMPARE(localized(u"没有这句话"_s), u"没有这句话"_s);
+        QCOMPARE(localized(u"用 %Text% 代替"_s), u"用 %@ 代替"_s);
+
+        QVERIFY(!BundleEx::showLanguage(u"xx"_s));
+        QCOMPARE(localized(u"取消"_s), u"取消"_s);
+
+        WTApp &app = WTApp::shared();
+        app.setAppLanguage(u"en"_s);
+        QCOMPARE(localized(u"取消"_s), u"Cancel"_s);
+        app.setAppLanguage(u"ja"_s);
+        app.setAppLanguage(u""_s);
+        QCOMPARE(app.appLanguage(), u"ja"_s);
+    }
 
 private:
     QTemporaryDir m_folder;
     FakeHostWiFi m_hostWiFi;
     FakeDesktop m_desktop;
 };
-
-void LanguageTests::initTestCase()
-{
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_folder.filePath(u"config"_s)));
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.filePath(u"config"_s));
-    WTApp::usePorts(m_hostWiFi, m_desktop, {});
-
-    for (const QString &language : {u"en"_s, u"zh-Hans"_s, u"zh-Hant"_s, u"ja"_s})
-        QVERIFY(QDir().mkpath(m_folder.filePath(u"res/%1.lproj"_s.arg(language))));
-    QVERIFY(QFile::copy(QStringLiteral(WT_RESOURCES "/en.lproj/wifitool.qm"),
-                        m_folder.filePath(u"res/en.lproj/wifitool.qm"_s)));
-    QVERIFY(QFile(m_folder.filePath(u"res/catalogue.json"_s)).open(QIODevice::WriteOnly));
-}
-
-void LanguageTests::init()
-{
-    QDir(m_folder.filePath(u"config"_s)).removeRecursively();
-    InfoList::setResourceFolder(m_folder.filePath(u"res"_s));
-    BundleEx::showLanguage(std::nullopt);
-}
-
-void LanguageTests::readsPreferredLanguages_data()
-{
-    const Rows<Environment, QStringList> row{"environment", "languages"};
-    row("nothing", {}, {});
-    row("the C locale", {{u"LANG"_s, u"C.UTF-8"_s}, {u"LC_ALL"_s, u"POSIX"_s}}, {});
-    row("script in front of territory alone", {{u"LANG"_s, u"zh_SG.UTF-8"_s}}, {u"zh-Hans-SG"_s, u"zh-SG"_s});
-    row("best first",
-        {{u"LANGUAGE"_s, u"zh_HK:de"_s}, {u"LC_MESSAGES"_s, u"fr_FR@euro"_s}, {u"LANG"_s, u"zh_HK.UTF-8"_s}},
-        {u"zh-Hant-HK"_s, u"de-Latn-DE"_s, u"fr-Latn-FR"_s, u"zh-HK"_s, u"de"_s, u"fr-FR"_s});
-    row("LC_ALL before LANG", {{u"LC_ALL"_s, u"ja_JP.UTF-8"_s}, {u"LANG"_s, u"en_US.UTF-8"_s}},
-        {u"ja-Jpan-JP"_s, u"en-Latn-US"_s, u"ja-JP"_s, u"en-US"_s});
-}
-
-void LanguageTests::readsPreferredLanguages()
-{
-    QFETCH(Environment, environment);
-    QProcessEnvironment process;
-    for (const QString &variable : environment.keys())
-        process.insert(variable, environment.value(variable));
-    QTEST(HostLanguages::preferred(process), "languages");
-}
-
-void LanguageTests::decidesByTheLocale_data()
-{
-    const auto told = [](const QString &decided) { return u"info: App Language:"_s + decided; };
-    const QString english = u"en"_s;
-    const QString simplified = u"zh-Hans"_s;
-    const QString traditional = u"zh-Hant"_s;
-    const QString otherLine = u"info: OS Language:fr, App Lang:en"_s;
-    const Rows<QString, QStringList, QString, QString, QString> row{"locale", "stored", "decided", "cancel",
-                                                                    "lastLine"};
-    row("English", u"en_GB.UTF-8"_s, {}, english, u"Cancel"_s, told(english));
-    row("the C locale", u"C"_s, {}, english, u"Cancel"_s, u"error: Error LanguageCode"_s);
-    row("mainland", u"zh_CN.UTF-8"_s, {}, simplified, u"取消"_s, told(simplified));
-    row("Hong Kong", u"zh_HK.UTF-8"_s, {}, traditional, u"取消"_s, told(traditional));
-    row("a folder without texts", u"ja_JP.UTF-8"_s, {}, u"ja"_s, u"取消"_s, told(u"ja"_s));
-    row("no folder", u"fr_FR.UTF-8"_s, {}, english, u"Cancel"_s, otherLine);
-    row("an entry that is no language", u"ca_ES.UTF-8"_s, {}, u"ca"_s, u"Cancel"_s, told(u"ca"_s));
-
-    const QString locale = u"zh_CN.UTF-8"_s;
-    row("the user's list: Hant", locale, {u"en"_s, u"zh-Hant-TW"_s, u"zh-CN"_s}, traditional, u"取消"_s,
-        told(traditional));
-    row("the user's list: CN", locale, {u"zh-CN"_s}, simplified, u"取消"_s, told(simplified));
-    row("the user's list: HK", locale, {u"zh-HK"_s}, traditional, u"取消"_s, told(traditional));
-    row("the user's list: no Chinese", locale, {u"en"_s, u"ja"_s}, english, u"Cancel"_s, told(english));
-}
-
-void LanguageTests::decidesByTheLocale()
-{
-    QFETCH(QString, locale);
-    QFETCH(QStringList, stored);
-    if (!stored.isEmpty())
-        QSettings(u"wifitool"_s, u"wifitool"_s).setValue(u"AppleLanguages", stored);
-
-    QProcessEnvironment process = QProcessEnvironment::systemEnvironment();
-    for (const QString &variable : {u"LANGUAGE"_s, u"LC_ALL"_s, u"LC_MESSAGES"_s})
-        process.remove(variable);
-    process.insert(u"LANG"_s, locale);
-    QProcess probe;
-    probe.setProcessEnvironment(process);
-    probe.start(QCoreApplication::applicationFilePath(), {probeArgument, m_folder.filePath(u"res"_s)});
-    QVERIFY(probe.waitForFinished());
-    const QStringList told = QString::fromUtf8(probe.readAllStandardOutput()).trimmed().split(u'\n');
-    QVERIFY2(told.size() > 4, probe.readAllStandardError().constData());
-    QTEST(told[0], "decided");
-    QTEST(told[1], "decided");
-    const QString decided = told[1];
-    // The toolkit's own texts are to be in the language of the program's.
-    QCOMPARE(told[2], told[3] == u"Cancel"_s ? u"en"_s : decided);
-    QTEST(told[3], "cancel");
-    QTEST(told.last(), "lastLine");
-}
-
-void LanguageTests::reordersPreferredLanguages_data()
-{
-    const Rows<QString, QStringList> row{"code", "languages"};
-    row("the beginning of an entry", u"zh"_s, {u"zh-Hans-CN"_s, u"en"_s, u"zh-Hant-TW"_s});
-    row("an entry", u"zh-Hant-TW"_s, {u"zh-Hant-TW"_s, u"en"_s, u"zh-Hans-CN"_s});
-    row("unknown", u"ja"_s, {u"ja"_s, u"en"_s, u"zh-Hans-CN"_s, u"zh-Hant-TW"_s});
-    row("empty", {}, {u"en"_s, u"zh-Hans-CN"_s, u"zh-Hant-TW"_s});
-}
-
-void LanguageTests::reordersPreferredLanguages()
-{
-    QFETCH(QString, code);
-    QFETCH(QStringList, languages);
-    QSettings(u"wifitool"_s, u"wifitool"_s)
-        .setValue(u"AppleLanguages", QStringList{u"en"_s, u"zh-Hans-CN"_s, u"zh-Hant-TW"_s});
-    QCOMPARE(BundleEx::setAppLanguage(code), languages);
-    QCOMPARE(BundleEx::getCurrentLanguage(), languages);
-}
-
-void LanguageTests::storesOnlyWhatTheUserSet()
-{
-    const QString settings = m_folder.filePath(u"config"_s);
-    BundleEx::getCurrentLanguage();
-    BundleEx::setAppLanguage(std::nullopt);
-    WTApp::shared().setAppLanguage(u"en"_s);
-    QVERIFY(!QFile::exists(settings));
-    BundleEx::setAppLanguage(u"ja"_s);
-    QVERIFY(QFile::exists(settings));
-}
-
-void LanguageTests::looksUpInTheAttachedLanguage()
-{
-    const BundleEx &bundle = BundleEx::mainBundle();
-    QCOMPARE(localized(u"取消"_s), u"取消"_s);
-    QCOMPARE(bundle.localizedStringForKey(u"取消"_s, u"default"_s, {}), u"default"_s);
-
-    QVERIFY(BundleEx::showLanguage(u"en"_s));
-    QCOMPARE(localized(u"取消"_s), u"Cancel"_s);
-    QCOMPARE(bundle.localizedStringForKey(u"取消"_s, u"default"_s, {}), u"Cancel"_s);
-    QCOMPARE(localized(u"没有这句话"_s), u"没有这句话"_s);
-    QCOMPARE(localized(u"用 %Text% 代替"_s), u"用 %@ 代替"_s);
-
-    QVERIFY(!BundleEx::showLanguage(u"xx"_s));
-    QCOMPARE(localized(u"取消"_s), u"取消"_s);
-
-    WTApp &app = WTApp::shared();
-    app.setAppLanguage(u"en"_s);
-    QCOMPARE(localized(u"取消"_s), u"Cancel"_s);
-    app.setAppLanguage(u"ja"_s);
-    app.setAppLanguage(u""_s);
-    QCOMPARE(app.appLanguage(), u"ja"_s);
-}
 
 int main(int argc, char **argv)
 {

@@ -14,130 +14,98 @@ class SerialQueueTests : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void runsJobsOfManyThreadsInTheirOrder();
-    void runsWhatIsQueuedBeforeItEnds();
-    void survivesItsEndOnItself();
-    void knowsWhereItRuns();
-    void lendsItselfWhileItHasNothingToDo();
-    void waitsForAGroupOverSeveralQueues();
-    void queuesForTheMainThread();
-    void dropsTheActionOfAGoneListener();
-};
-
-void SerialQueueTests::runsJobsOfManyThreadsInTheirOrder()
-{
-    constexpr int writers = 4, jobs = 2000;
-    SerialQueue queue;
-    std::vector<std::pair<int, int>> ran;
-    std::vector<std::thread> threads;
-    for (int writer = 0; writer < writers; ++writer) {
-        threads.emplace_back([&, writer] {
-            for (int job = 0; job < jobs; ++job)
-                queue.async([&, writer, job] { ran.emplace_back(writer, job); });
-        });
-    }
-    for (std::thread &thread : threads)
-        thread.join();
-    queue.sync([] {});
-
-    QCOMPARE(ran.size(), size_t{writers * jobs});
-    std::array<int, writers> next{};
-    for (const auto &[writer, job] : ran)
-        QCOMPARE(job, next.at(static_cast<size_t>(writer))++);
-}
-
-void SerialQueueTests::runsWhatIsQueuedBeforeItEnds()
-{
-    int ran = 0;
+    void runsJobsOfManyThreadsInTheirOrder()
     {
+        constexpr int writers = 4, jobs = 2000;
         SerialQueue queue;
-        for (int job = 0; job < 100; ++job)
-            queue.async([&] { ++ran; });
+        std::vector<std::pair<int, int>> ran;
+        std::vector<std::thread> threads;
+        for (int writer = 0; writer < writers; ++writer) {
+            threads.emplace_back([&, writer] {
+                for (int job = 0; job < jobs; ++job)
+                    queue.async([&, writer, job] { ran.emplace_back(writer, job); });
+            });
+        }
+        for (std::thread &thread : threads)
+            thread.join();
+        queue.sync([] {});
+
+        QCOMPARE(ran.size(), size_t{writers * jobs});
+        std::array<int, writers> next{};
+        for (const auto &[writer, job] : ran)
+            QCOMPARE(job, next.at(static_cast<size_t>(writer))++);
     }
-    QCOMPARE(ran, 100);
-}
 
-void SerialQueueTests::survivesItsEndOnItself()
-{
-    QSemaphore ranBehind;
-    auto queue = std::make_shared<SerialQueue>();
-    queue->async([&, kept = queue]() mutable {
-        kept->async([&] { ranBehind.release(); });
-        kept.reset();
-    });
-    queue.reset();
-    QVERIFY(ranBehind.tryAcquire(1, 5000));
-}
-
-void SerialQueueTests::knowsWhereItRuns()
-{
-    SerialQueue queue(u"a label that is longer than a thread's name"_s);
-    QVERIFY(!queue.isCurrent() && !queue.runsOnThread(gettid()));
-    QCOMPARE(SerialQueue::currentLabel(), u"main"_s);
-    queue.sync([&] {
-        QVERIFY(queue.isCurrent() && queue.runsOnThread(gettid()));
-        QCOMPARE(SerialQueue::currentLabel(), queue.label());
-    });
-    std::thread([] { QCOMPARE(SerialQueue::currentLabel(), QString()); }).join();
-}
-
-void SerialQueueTests::lendsItselfWhileItHasNothingToDo()
-{
-    SerialQueue queue(u"lent"_s);
-    QSemaphore ranBehind;
-    queue.syncInPlace([&] {
-        QVERIFY(queue.isCurrent() && queue.runsOnThread(gettid()));
-        queue.async([&] { ranBehind.release(); });
-        // Whoever runs a job in place keeps the queue's own thread from the next one.
-        QVERIFY(!ranBehind.tryAcquire(1, 50));
-    });
-    QVERIFY(ranBehind.tryAcquire(1, 5000));
-    QVERIFY(!queue.isCurrent() && !queue.runsOnThread(gettid()));
-
-    for (int round = 0; round < 500; ++round) {
-        QList<int> order;
-        queue.async([&] { order.append(1); });
-        queue.syncInPlace([&] { order.append(2); });
-        QCOMPARE(order, QList<int>({1, 2}));
+    void survivesItsEndOnItself()
+    {
+        QSemaphore ranBehind;
+        auto queue = std::make_shared<SerialQueue>();
+        queue->async([&, kept = queue]() mutable {
+            kept->async([&] { ranBehind.release(); });
+            kept.reset();
+        });
+        queue.reset();
+        QVERIFY(ranBehind.tryAcquire(1, 5000));
     }
-}
 
-void SerialQueueTests::waitsForAGroupOverSeveralQueues()
-{
-    std::array<SerialQueue, 3> queues;
-    for (int round = 0; round < 500; ++round) {
-        std::atomic<int> ran = 0;
-        DispatchGroup group;
-        for (SerialQueue &queue : queues)
-            queue.async(group, [&] { ++ran; });
-        group.wait();
-        QCOMPARE(ran.load(), 3);
+    void lendsItselfWhileItHasNothingToDo()
+    {
+        SerialQueue queue(u"lent"_s);
+        QSemaphore ranBehind;
+        queue.syncInPlace([&] {
+            QVERIFY(queue.isCurrent() && queue.runsOnThread(gettid()));
+            queue.async([&] { ranBehind.release(); });
+            // Whoever runs a job in place keeps the queue's own thread from the next one.
+            QVERIFY(!ranBehind.tryAcquire(1, 50));
+        });
+        QVERIFY(ranBehind.tryAcquire(1, 5000));
+        QVERIFY(!queue.isCurrent() && !queue.runsOnThread(gettid()));
+
+        for (int round = 0; round < 500; ++round) {
+            QList<int> order;
+            queue.async([&] { order.append(1); });
+            queue.syncInPlace([&] { order.append(2); });
+            QCOMPARE(order, QList<int>({1, 2}));
+        }
     }
-}
 
-void SerialQueueTests::queuesForTheMainThread()
-{
-    QThread *ranOn = nullptr;
-    std::thread([&] { onMainThread([&] { ranOn = QThread::currentThread(); }); }).join();
-    QVERIFY(!ranOn);
-    QTRY_COMPARE(ranOn, thread());
+    void waitsForAGroupOverSeveralQueues()
+    {
+        std::array<SerialQueue, 3> queues;
+        for (int round = 0; round < 500; ++round) {
+            std::atomic<int> ran = 0;
+            DispatchGroup group;
+            for (SerialQueue &queue : queues)
+                queue.async(group, [&] { ++ran; });
+            group.wait();
+            QCOMPARE(ran.load(), 3);
+        }
+    }
 
-    ranOn = nullptr;
-    onMainThread([&] { ranOn = QThread::currentThread(); });
-    QVERIFY2(!ranOn, "the main thread queues for itself as well");
-    QTRY_COMPARE(ranOn, thread());
-}
+    void queuesForTheMainThread()
+    {
+        QThread *ranOn = nullptr;
+        std::thread([&] { onMainThread([&] { ranOn = QThread::currentThread(); }); }).join();
+        QVERIFY(!ranOn);
+        QTRY_COMPARE(ranOn, thread());
 
-void SerialQueueTests::dropsTheActionOfAGoneListener()
-{
-    bool ran = false, ranAfter = false;
-    auto listener = std::make_unique<QObject>();
-    onMainThread(listener.get(), [&] { ran = true; });
-    listener.reset();
-    onMainThread([&] { ranAfter = true; });
-    QTRY_VERIFY(ranAfter);
-    QVERIFY(!ran);
-}
+        ranOn = nullptr;
+        onMainThread([&] { ranOn = QThread::currentThread(); });
+        QVERIFY2(!ranOn, "the main thread queues for itself as well");
+        QTRY_COMPARE(ranOn, thread());
+    }
+
+    void dropsTheActionOfAGoneListener()
+    {
+        bool ran = false, ranAfter = false;
+        auto listener = std::make_unique<QObject>();
+        onMainThread(listener.get(), [&] { ran = true; });
+        listener.reset();
+        onMainThread([&] { ranAfter = true; });
+        QTRY_VERIFY(ranAfter);
+        QVERIFY(!ran);
+    }
+};
 
 QTEST_GUILESS_MAIN(SerialQueueTests)
 #include "SerialQueueTests.moc"

@@ -121,28 +121,25 @@ class ProcessEndTests : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void bothCallbacksAreMade_data();
-    void bothCallbacksAreMade();
+    void bothCallbacksAreMade_data()
+    {
+        QTest::addColumn<QByteArray>("output");
+        for (const Role &role : roles)
+            QTest::newRow(role.name) << QByteArray(role.output);
+    }
+
+    void bothCallbacksAreMade()
+    {
+        QFETCH(QByteArray, output);
+        QProcess process;
+        process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        process.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(QTest::currentDataTag())});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.readAllStandardOutput(), output);
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(process.exitCode(), 0);
+    }
 };
-
-void ProcessEndTests::bothCallbacksAreMade_data()
-{
-    QTest::addColumn<QByteArray>("output");
-    for (const Role &role : roles)
-        QTest::newRow(role.name) << QByteArray(role.output);
-}
-
-void ProcessEndTests::bothCallbacksAreMade()
-{
-    QFETCH(QByteArray, output);
-    QProcess process;
-    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(QTest::currentDataTag())});
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(process.readAllStandardOutput(), output);
-    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(process.exitCode(), 0);
-}
 
 int main(int argc, char **argv)
 {
@@ -154,6 +151,7 @@ int main(int argc, char **argv)
             return role.play(*bus);
         }
     }
+
     QCoreApplication application(argc, argv);
     ProcessEndTests tests;
     return QTest::qExec(&tests, argc, argv);

@@ -1,6 +1,7 @@
 #include "LogBed.h"
 #include "LogFileNameDate.h"
 #include "LogFolder.h"
+#include "Rows.h"
 #include "WTLogFileManager.h"
 
 #include <QFile>
@@ -45,88 +46,69 @@ class LogFilesTests : public QObject
 private Q_SLOTS:
     void init() { setZone("UTC"); }
 
-    void datesInNames_data()
-    {
-        QTest::addColumn<QByteArray>("zone");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("universal");
-        const QByteArray berlin = "CET-1CEST,M3.5.0,M10.5.0/3";
-        QTest::newRow("universal") << berlin << u"2026-11-22--22-10-34-UTC"_s << u"2026-11-22T22:10:34Z"_s;
-        QTest::newRow("own zone") << berlin << u"2026-11-22--22-10-34-CET"_s << u"2026-11-22T21:10:34Z"_s;
-        QTest::newRow("repeated hour, first") << berlin << u"2026-10-25--02-30-00-CEST"_s << u"2026-10-25T00:30:00Z"_s;
-        QTest::newRow("repeated hour, then") << berlin << u"2026-10-25--02-30-00-CET"_s << u"2026-10-25T01:30:00Z"_s;
-        QTest::newRow("offset") << berlin << u"2026-11-22--22-10-34-+0530"_s << u"2026-11-22T16:40:34Z"_s;
-        QTest::newRow("hours west") << berlin << u"2026-11-22--22-10-34--03"_s << u"2026-11-23T01:10:34Z"_s;
-        QTest::newRow("somebody else's zone") << berlin << u"2026-11-22--22-10-34-PST"_s << QString();
-        QTest::newRow("no zone") << berlin << u"2026-11-22--22-10-34-"_s << QString();
-        QTest::newRow("no such day") << berlin << u"2026-02-30--22-10-34-UTC"_s << QString();
-        QTest::newRow("line end behind it") << berlin << u"2026-11-22--22-10-34-UTC\n"_s << QString();
-        QTest::newRow("a number") << berlin << u"2"_s << QString();
-    }
-
     void datesInNames()
     {
-        QFETCH(QByteArray, zone);
-        QFETCH(QString, text);
-        QFETCH(QString, universal);
-        setZone(zone);
-        const QDateTime parsed = LogFileNameDate::parse(text);
-        QCOMPARE(parsed.isValid() ? parsed.toUTC().toString(Qt::ISODate) : QString(), universal);
-        const bool isSpelledHere = text.endsWith(u"CET"_s) || text.endsWith(u"CEST"_s);
-        if (isSpelledHere)
-            QCOMPARE(LogFileNameDate::text(parsed), text);
-    }
-
-    void defaultFolder_data()
-    {
-        QTest::addColumn<QByteArray>("state");
-        QTest::addColumn<QByteArray>("home");
-        QTest::addColumn<QString>("folder");
-        QTest::newRow("state folder") << QByteArray("/s") << QByteArray("/h") << u"/s/Logs/log_file_tests"_s;
-        QTest::newRow("home") << QByteArray() << QByteArray("/h") << u"/h/.local/state/Logs/log_file_tests"_s;
-        QTest::newRow("relative") << QByteArray("s") << QByteArray("/h") << u"/h/.local/state/Logs/log_file_tests"_s;
+        const QByteArray berlin = "CET-1CEST,M3.5.0,M10.5.0/3";
+        eachRow(
+            {
+                {"own zone", berlin, u"2026-11-22--22-10-34-CET"_s, u"2026-11-22T21:10:34Z"_s},
+                {"repeated hour, first", berlin, u"2026-10-25--02-30-00-CEST"_s, u"2026-10-25T00:30:00Z"_s},
+                {"offset", berlin, u"2026-11-22--22-10-34-+0530"_s, u"2026-11-22T16:40:34Z"_s},
+                {"hours west", berlin, u"2026-11-22--22-10-34--03"_s, u"2026-11-23T01:10:34Z"_s},
+                {"no zone", berlin, u"2026-11-22--22-10-34-"_s, QString()},
+            },
+            [&](const QByteArray &zone, const QString &text, const QString &universal) {
+                setZone(zone);
+                const QDateTime parsed = LogFileNameDate::parse(text);
+                QCOMPARE(parsed.isValid() ? parsed.toUTC().toString(Qt::ISODate) : QString(), universal);
+                const bool isSpelledHere = text.endsWith(u"CET"_s) || text.endsWith(u"CEST"_s);
+                if (isSpelledHere)
+                    QCOMPARE(LogFileNameDate::text(parsed), text);
+            });
     }
 
     void defaultFolder()
     {
-        QFETCH(QByteArray, state);
-        QFETCH(QByteArray, home);
-        QTEST(defaultFolderWith(state, home), "folder");
-    }
-
-    void sharesNoTemporaryFolder_data()
-    {
-        QTest::addColumn<QByteArray>("state");
-        QTest::addColumn<bool>("isTaken");
-        QTest::newRow("our own") << QByteArray("own") << true;
-        QTest::newRow("open to others") << QByteArray("open") << false;
-        QTest::newRow("a link") << QByteArray("link") << false;
-        QTest::newRow("another user's") << QByteArray("foreign") << false;
+        eachRow(
+            {
+                {"state folder", QByteArray("/s"), QByteArray("/h"), u"/s/Logs/log_file_tests"_s},
+                {"home", QByteArray(), QByteArray("/h"), u"/h/.local/state/Logs/log_file_tests"_s},
+            },
+            [&](const QByteArray &state, const QByteArray &home, const QString &folder) {
+                QCOMPARE(defaultFolderWith(state, home), folder);
+            });
     }
 
     void sharesNoTemporaryFolder()
     {
-        QFETCH(QByteArray, state);
-        QFETCH(bool, isTaken);
-        if (state == "foreign" && geteuid() != 0)
-            QSKIP("this user cannot make another user's folder");
-        const QString logs = m_temporary.filePath(u"Logs"_s);
-        const QByteArray native = QFile::encodeName(logs);
-        static_cast<void>(std::remove(native));
-        if (state == "link")
-            QVERIFY(QFile::link(m_temporary.path(), logs));
-        else
-            QCOMPARE(mkdir(native, 0700), 0);
-        if (state == "open")
-            QCOMPARE(chmod(native, 0777), 0);
-        if (state == "foreign")
-            QCOMPARE(chown(native, 65534, 65534), 0);
-        const QByteArray before = qgetenv("TMPDIR");
-        qputenv("TMPDIR", QFile::encodeName(m_temporary.path()));
-        const QString folder = defaultFolderWith({}, {});
-        qputenv("TMPDIR", before);
-        QCOMPARE(folder.startsWith(logs + u'/'), isTaken);
-        QCOMPARE(permissionsOf(QFileInfo(folder).path()), 0700U);
+        eachRow(
+            {
+                {"our own", QByteArray("own"), true},
+                {"open to others", QByteArray("open"), false},
+                {"a link", QByteArray("link"), false},
+                {"another user's", QByteArray("foreign"), false},
+            },
+            [&](const QByteArray &state, bool isTaken) {
+                if (state == "foreign" && geteuid() != 0)
+                    QSKIP("this user cannot make another user's folder");
+                const QString logs = m_temporary.filePath(u"Logs"_s);
+                const QByteArray native = QFile::encodeName(logs);
+                static_cast<void>(std::remove(native));
+                if (state == "link")
+                    QVERIFY(QFile::link(m_temporary.path(), logs));
+                else
+                    QCOMPARE(mkdir(native, 0700), 0);
+                if (state == "open")
+                    QCOMPARE(chmod(native, 0777), 0);
+                if (state == "foreign")
+                    QCOMPARE(chown(native, 65534, 65534), 0);
+                const QByteArray before = qgetenv("TMPDIR");
+                qputenv("TMPDIR", QFile::encodeName(m_temporary.path()));
+                const QString folder = defaultFolderWith({}, {});
+                qputenv("TMPDIR", before);
+                QCOMPARE(folder.startsWith(logs + u'/'), isTaken);
+                QCOMPARE(permissionsOf(QFileInfo(folder).path()), 0700U);
+            });
     }
 
     void createsWithoutReplacing()
@@ -146,21 +128,6 @@ private Q_SLOTS:
         QCOMPARE(bed.console(), QString());
     }
 
-    void tellsWhyThereIsNoFile()
-    {
-        const LogBed bed;
-        QFile inTheWay(bed.home() + u"/Logs"_s);
-        QVERIFY(inTheWay.open(QIODevice::WriteOnly));
-        const auto manager = managerOf(bed);
-        const auto created = manager->createNewLogFileWithError();
-        QVERIFY(!created.path && created.error);
-        QCOMPARE(created.error->number, ENOTDIR);
-        const QString console = bed.console();
-        QCOMPARE(console.count(u"WTFileLogManagerDefault: Error creating logsDirectory: "_s), 1);
-        QCOMPARE(console.count(u"WTLogFileManagerDefault: Critical error while creating log file: "_s), 5);
-        QVERIFY(console.endsWith(u"WTLogFileManagerDefault: Bailing file creation, encountered 5 errors.\n"_s));
-    }
-
     void sortsByNameThenByBirth()
     {
         const LogBed bed;
@@ -171,48 +138,32 @@ private Q_SLOTS:
         QCOMPARE(managerOf(bed)->sortedLogFilePaths(), newestFirst);
     }
 
-    void prunes_data()
-    {
-        QTest::addColumn<quint64>("most");
-        QTest::addColumn<quint64>("quota");
-        QTest::addColumn<int>("files");
-        QTest::addColumn<qint64>("newestSize");
-        QTest::addColumn<bool>("newestIsArchived");
-        QTest::addColumn<int>("left");
-        const auto row = [](const char *name, quint64 most, quint64 quota, int files, qint64 newestSize, bool archived,
-                            int left) {
-            QTest::newRow(name) << most << quota << files << newestSize << archived << left;
-        };
-        row("the eighth of seven", 7, 20 * mebibyte, 8, mebibyte, false, 7);
-        row("no limits", 0, 0, 8, mebibyte, false, 8);
-        row("quota before number", 7, 3 * mebibyte, 8, mebibyte, false, 3);
-        row("quota alone", 0, 3 * mebibyte - 1, 8, mebibyte, false, 2);
-        row("newest over the quota", 7, 20 * mebibyte, 8, 100 * mebibyte, false, 1);
-        row("newest over the quota, archived", 7, 20 * mebibyte, 8, 100 * mebibyte, true, 0);
-    }
-
     void prunes()
     {
-        QFETCH(quint64, most);
-        QFETCH(quint64, quota);
-        QFETCH(int, files);
-        QFETCH(qint64, newestSize);
-        QFETCH(bool, newestIsArchived);
-        QFETCH(int, left);
-        const LogBed bed;
-        QStringList oldestFirst;
-        const QDateTime start(QDate(2026, 1, 1), QTime(0, 0), Qt::UTC);
-        for (int index = 0; index < files; ++index)
-            oldestFirst.append(bed.leaveFile(LogFileNameDate::text(start.addSecs(index)) + u".log"_s,
-                                             index == files - 1 ? newestSize : mebibyte));
-        const auto manager = managerOf(bed);
-        WTLogFileInfo(oldestFirst.last()).setIsArchived(newestIsArchived);
-        manager->setMaximumNumberOfLogFiles(most);
-        manager->setLogFilesDiskQuota(quota);
-        manager->deleteOldLogFiles();
-        QStringList paths = manager->sortedLogFilePaths();
-        std::reverse(paths.begin(), paths.end());
-        QCOMPARE(paths, oldestFirst.last(left));
+        eachRow(
+            {
+                {"the eighth of seven", 7, 20 * mebibyte, 8, mebibyte, false, 7},
+                {"no limits", 0, 0, 8, mebibyte, false, 8},
+                {"quota before number", 7, 3 * mebibyte, 8, mebibyte, false, 3},
+                {"newest over the quota", 7, 20 * mebibyte, 8, 100 * mebibyte, false, 1},
+                {"newest over the quota, archived", 7, 20 * mebibyte, 8, 100 * mebibyte, true, 0},
+            },
+            [&](quint64 most, quint64 quota, int files, qint64 newestSize, bool newestIsArchived, int left) {
+                const LogBed bed;
+                QStringList oldestFirst;
+                const QDateTime start(QDate(2026, 1, 1), QTime(0, 0), Qt::UTC);
+                for (int index = 0; index < files; ++index)
+                    oldestFirst.append(bed.leaveFile(LogFileNameDate::text(start.addSecs(index)) + u".log"_s,
+                                                     index == files - 1 ? newestSize : mebibyte));
+                const auto manager = managerOf(bed);
+                WTLogFileInfo(oldestFirst.last()).setIsArchived(newestIsArchived);
+                manager->setMaximumNumberOfLogFiles(most);
+                manager->setLogFilesDiskQuota(quota);
+                manager->deleteOldLogFiles();
+                QStringList paths = manager->sortedLogFilePaths();
+                std::reverse(paths.begin(), paths.end());
+                QCOMPARE(paths, oldestFirst.last(left));
+            });
     }
 
     void prunesOnNewLimitsAndNewFiles()
@@ -230,19 +181,6 @@ private Q_SLOTS:
         QCOMPARE(bed.names().size(), 3);
     }
 
-    void goesOnPastAFileThatCannotBeDeleted()
-    {
-        const LogBed bed;
-        const QString stubborn = WTLogFileManagerDefault::applicationName() + u" 2026-01-02--00-00-00-UTC.log"_s;
-        QVERIFY(QDir().mkpath(bed.path(stubborn)));
-        bed.leaveFile(u"2026-01-01--00-00-00-UTC.log"_s);
-        const QString newest = bed.leaveFile(u"2026-01-03--00-00-00-UTC.log"_s);
-        const auto manager = managerOf(bed);
-        manager->setMaximumNumberOfLogFiles(1);
-        QTRY_VERIFY(bed.console().contains(u"WTLogFileManagerDefault: Error deleting file "_s));
-        QTRY_COMPARE(bed.names(), QStringList({stubborn, QFileInfo(newest).fileName()}));
-    }
-
     void clockThatWasSetBackSparesTheFileInUse()
     {
         const LogBed bed;
@@ -255,89 +193,31 @@ private Q_SLOTS:
         QTRY_COMPARE(bed.names().size(), 6);
     }
 
-    void archivedMark_data()
-    {
-        QTest::addColumn<QByteArray>("value");
-        QTest::addColumn<bool>("isArchived");
-        QTest::newRow("absent") << QByteArray() << false;
-        QTest::newRow("one") << QByteArray(1, 1) << true;
-        QTest::newRow("another byte") << QByteArray("x") << true;
-        QTest::newRow("several bytes") << QByteArray("\1\1\1") << true;
-        QTest::newRow("empty") << QByteArray("") << true;
-    }
-
     void archivedMark()
     {
-        QFETCH(QByteArray, value);
-        QFETCH(bool, isArchived);
-        const LogBed bed;
-        const QString path = bed.leaveFile(u"a.log"_s);
-        const QByteArray native = QFile::encodeName(path);
-        if (!value.isNull())
-            QCOMPARE(setxattr(native, attributeName, value, static_cast<size_t>(value.size()), 0), 0);
-        WTLogFileInfo info(path);
-        QCOMPARE(info.isArchived(), isArchived);
-        char stored[8] = {};
-        QCOMPARE(getxattr(native, attributeName, stored, sizeof stored), isArchived ? 1 : -1);
-        QCOMPARE(stored[0], char(isArchived));
-        info.setIsArchived(false);
-        info.setIsArchived(false);
-        QVERIFY(!info.isArchived());
-        WTLogFileInfo(bed.path(u"missing"_s)).setIsArchived(true);
-        QCOMPARE(bed.console(), QString());
-    }
-
-    void renames()
-    {
-        const LogBed bed;
-        WTLogFileInfo info(bed.leaveFile(u"a.log"_s, 10));
-        bed.leaveFile(u"b.log"_s, 99);
-        info.setIsArchived(true);
-        QCOMPARE(info.fileSize(), 10U);
-        const QString newName = WTLogFileManagerDefault::applicationName() + u" b.log"_s;
-        info.renameFile(newName);
-        QCOMPARE(info, WTLogFileInfo(bed.path(newName)));
-        QCOMPARE(bed.names(), QStringList(newName));
-        QCOMPARE(info.fileSize(), 10U);
-        QVERIFY(info.isArchived());
-        QVERIFY(info.description().contains(u"fileName = \"%1\";"_s.arg(newName)));
-        QVERIFY(QFile::remove(info.filePath()));
-        info.renameFile(u"c.log"_s);
-        QVERIFY(bed.console().startsWith(u"WTLogFileInfo: Error renaming file (%1): "_s.arg(newName)));
-    }
-
-    void factsOfAMissingFile()
-    {
-        const LogBed bed;
-        const WTLogFileInfo missing(bed.path(u"a"_s)), present(bed.leaveFile(u"b"_s));
-        QVERIFY(!missing.creationDate().isValid());
-        QCOMPARE(missing.age(), 0.0);
-        QVERIFY(bed.console().startsWith(u"WTLogFileInfo: Failed to read file attributes: "_s));
-        QVERIFY(std::is_gt(missing.reverseCompareByCreationDate(present)));
-        QVERIFY(std::is_lt(present.reverseCompareByModificationDate(missing)));
-        QVERIFY(std::is_eq(missing.reverseCompareByCreationDate(missing)));
-    }
-
-    void datesOfAFile()
-    {
-        const LogBed bed;
-        const QDateTime start = QDateTime::currentDateTime().addSecs(-2), longAgo = start.addYears(-9);
-        QFile file(bed.leaveFile(u"a.log"_s));
-        QVERIFY(file.open(QIODevice::ReadWrite) && file.setFileTime(longAgo, QFileDevice::FileModificationTime));
-        const WTLogFileInfo info(file.fileName());
-        QCOMPARE(info.modificationDate(), longAgo);
-        if (!QFileInfo(file).birthTime().isValid())
-            QSKIP("this file system keeps no date of birth");
-        QVERIFY(info.creationDate() > start);
-    }
-
-    void fixedName()
-    {
-        const LogBed bed;
-        const auto manager = std::make_shared<WTLogFileManager>(bed.folder(), u"one.log"_s);
-        bed.leaveFile(u"2026-01-01--00-00-00-UTC.log"_s);
-        QCOMPARE(create(*manager), bed.path(u"one.log"_s));
-        QCOMPARE(manager->unsortedLogFileNames(), QStringList(u"one.log"_s));
+        eachRow(
+            {
+                {"absent", QByteArray(), false},
+                {"one", QByteArray(1, 1), true},
+                {"another byte", QByteArray("x"), true},
+            },
+            [&](const QByteArray &value, bool isArchived) {
+                const LogBed bed;
+                const QString path = bed.leaveFile(u"a.log"_s);
+                const QByteArray native = QFile::encodeName(path);
+                if (!value.isNull())
+                    QCOMPARE(setxattr(native, attributeName, value, static_cast<size_t>(value.size()), 0), 0);
+                WTLogFileInfo info(path);
+                QCOMPARE(info.isArchived(), isArchived);
+                char stored[8] = {};
+                QCOMPARE(getxattr(native, attributeName, stored, sizeof stored), isArchived ? 1 : -1);
+                QCOMPARE(stored[0], char(isArchived));
+                info.setIsArchived(false);
+                info.setIsArchived(false);
+                QVERIFY(!info.isArchived());
+                WTLogFileInfo(bed.path(u"missing"_s)).setIsArchived(true);
+                QCOMPARE(bed.console(), QString());
+            });
     }
 
 private:

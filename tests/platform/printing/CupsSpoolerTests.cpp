@@ -2,6 +2,7 @@
 #include "CupsSpooler.h"
 #include "LogCollector.h"
 #include "PrintQueueBusyCheck.h"
+#include "Rows.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -61,109 +62,88 @@ class CupsSpoolerTests : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
+    void initTestCase()
+    {
+        QVERIFY(m_bed.isReady());
+        QVERIFY(m_bed.addQueue(u"QZ100_USB"_s));
+        QVERIFY(m_bed.addQueue(u"QZ200_USB"_s));
+        QVERIFY(m_bed.holdInPrint(u"QZ100_USB"_s));
+    }
+
     void listsTheQueuesWithTheirStates_data() { addConnectionRows(); }
-    void listsTheQueuesWithTheirStates();
-    void tellsAPrintingPrinterFromAnIdleOne_data();
-    void tellsAPrintingPrinterFromAnIdleOne();
+
+    void listsTheQueuesWithTheirStates()
+    {
+        QFETCH(bool, onConnection);
+        auto queues = askFreshly(onConnection);
+        std::ranges::sort(queues, {}, &PrintDestination::name);
+        QCOMPARE(queues.size(), 2U);
+        QCOMPARE(queues[0].name, "QZ100_USB");
+        QCOMPARE(queues[0].printerState, QByteArray{"4"});
+        QCOMPARE(queues[1].name, "QZ200_USB");
+        QCOMPARE(queues[1].printerState, QByteArray{"3"});
+    }
+
     void answersNothingAtOnceWhereNobodyListens_data() { addConnectionRows(); }
-    void answersNothingAtOnceWhereNobodyListens();
-    void tellsWhetherAPrinterIsThere();
-    void aSpoolerThatNeverAnswersCountsAsIdle();
+
+    void answersNothingAtOnceWhereNobodyListens()
+    {
+        QFETCH(bool, onConnection);
+        const QByteArray server = qgetenv("CUPS_SERVER");
+        qputenv("CUPS_SERVER", server + ".nobody");
+        QElapsedTimer clock;
+        clock.start();
+        const auto queues = askFreshly(onConnection);
+        const qint64 milliseconds = clock.elapsed();
+        qputenv("CUPS_SERVER", server);
+        QVERIFY(queues.empty());
+        QVERIFY2(milliseconds < 5000, qPrintable(QString::number(milliseconds)));
+    }
+
+    void tellsWhetherAPrinterIsThere()
+    {
+        const int listener = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+        sockaddr_in place{};
+        place.sin_family = AF_INET;
+        place.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        socklen_t size = sizeof place;
+        QCOMPARE(bind(listener, reinterpret_cast<sockaddr *>(&place), size), 0);
+        QCOMPARE(listen(listener, 1), 0);
+        QCOMPARE(getsockname(listener, reinterpret_cast<sockaddr *>(&place), &size), 0);
+        // libcups reads its port once for each thread.
+        qputenv("IPP_PORT", QByteArray::number(ntohs(place.sin_port)));
+        const auto answers = [](const QString &address) {
+            return std::async(std::launch::async, [address] { return CupsSpooler{{}}.printerAnswers(address, 2s); })
+                .get();
+        };
+        QVERIFY(answers(u"127.0.0.1"_s));
+        QVERIFY(!answers(u"0.0.0.0"_s));
+        close(listener);
+        QVERIFY(!answers(u"127.0.0.1"_s));
+    }
+
+    void aSpoolerThatNeverAnswersCountsAsIdle()
+    {
+        const QTemporaryDir folder;
+        const SilentServer server(folder.filePath(u"cups.sock"_s));
+        const QByteArray real = qgetenv("CUPS_SERVER");
+        qputenv("CUPS_SERVER", folder.filePath(u"cups.sock"_s).toLocal8Bit());
+        // Outlives the question, which ends when the server goes.
+        static CupsSpooler spooler{{}};
+        const LogCollector log;
+        QElapsedTimer clock;
+        clock.start();
+        QVERIFY(!isWorkingWithPrintType(spooler, u"QZ100"_s, BusyCheckVariant::ManualEntry));
+        const qint64 milliseconds = clock.elapsed();
+        qputenv("CUPS_SERVER", real);
+        QVERIFY2(milliseconds >= 2000 && milliseconds < 10000, qPrintable(QString::number(milliseconds)));
+        QCOMPARE(log.lines().constLast(),
+                 u"warning: The print spooler has not answered for 2 s; the printer counts as idle."_s);
+    }
 
 private:
     CupsBed m_bed;
 };
-
-void CupsSpoolerTests::initTestCase()
-{
-    QVERIFY(m_bed.isReady());
-    QVERIFY(m_bed.addQueue(u"QZ100_USB"_s));
-    QVERIFY(m_bed.addQueue(u"QZ200_USB"_s));
-    QVERIFY(m_bed.holdInPrint(u"QZ100_USB"_s));
-}
-
-void CupsSpoolerTests::listsTheQueuesWithTheirStates()
-{
-    QFETCH(bool, onConnection);
-    auto queues = askFreshly(onConnection);
-    std::ranges::sort(queues, {}, &PrintDestination::name);
-    QCOMPARE(queues.size(), 2U);
-    QCOMPARE(queues[0].name, "QZ100_USB");
-    QCOMPARE(queues[0].printerState, QByteArray{"4"});
-    QCOMPARE(queues[1].name, "QZ200_USB");
-    QCOMPARE(queues[1].printerState, QByteArray{"3"});
-}
-
-void CupsSpoolerTests::tellsAPrintingPrinterFromAnIdleOne_data()
-{
-    QTest::addColumn<QString>("printerType");
-    QTest::addColumn<bool>("busy");
-    QTest::newRow("in print") << u"QZ100 series"_s << true;
-    QTest::newRow("idle") << u"QZ200 series"_s << false;
-    QTest::newRow("without a queue") << u"QZ300 series"_s << false;
-}
-
-void CupsSpoolerTests::tellsAPrintingPrinterFromAnIdleOne()
-{
-    QFETCH(QString, printerType);
-    QFETCH(bool, busy);
-    QCOMPARE(isWorking(askFreshly(true), printerType, u"Quillmark"_s, BusyCheckVariant::ManualEntry), busy);
-}
-
-void CupsSpoolerTests::answersNothingAtOnceWhereNobodyListens()
-{
-    QFETCH(bool, onConnection);
-    const QByteArray server = qgetenv("CUPS_SERVER");
-    qputenv("CUPS_SERVER", server + ".nobody");
-    QElapsedTimer clock;
-    clock.start();
-    const auto queues = askFreshly(onConnection);
-    const qint64 milliseconds = clock.elapsed();
-    qputenv("CUPS_SERVER", server);
-    QVERIFY(queues.empty());
-    QVERIFY2(milliseconds < 5000, qPrintable(QString::number(milliseconds)));
-}
-
-void CupsSpoolerTests::aSpoolerThatNeverAnswersCountsAsIdle()
-{
-    const QTemporaryDir folder;
-    const SilentServer server(folder.filePath(u"cups.sock"_s));
-    const QByteArray real = qgetenv("CUPS_SERVER");
-    qputenv("CUPS_SERVER", folder.filePath(u"cups.sock"_s).toLocal8Bit());
-    // Outlives the question, which ends when the server goes.
-    static CupsSpooler spooler{{}};
-    const LogCollector log;
-    QElapsedTimer clock;
-    clock.start();
-    QVERIFY(!isWorkingWithPrintType(spooler, u"QZ100"_s, BusyCheckVariant::ManualEntry));
-    const qint64 milliseconds = clock.elapsed();
-    qputenv("CUPS_SERVER", real);
-    QVERIFY2(milliseconds >= 2000 && milliseconds < 10000, qPrintable(QString::number(milliseconds)));
-    QCOMPARE(log.lines().constLast(),
-             u"warning: The print spooler has not answered for 2 s; the printer counts as idle."_s);
-}
-
-void CupsSpoolerTests::tellsWhetherAPrinterIsThere()
-{
-    const int listener = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    sockaddr_in place{};
-    place.sin_family = AF_INET;
-    place.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof place;
-    QCOMPARE(bind(listener, reinterpret_cast<sockaddr *>(&place), size), 0);
-    QCOMPARE(listen(listener, 1), 0);
-    QCOMPARE(getsockname(listener, reinterpret_cast<sockaddr *>(&place), &size), 0);
-    // libcups reads its port once for each thread.
-    qputenv("IPP_PORT", QByteArray::number(ntohs(place.sin_port)));
-    const auto answers = [](const QString &address) {
-        return std::async(std::launch::async, [address] { return CupsSpooler{{}}.printerAnswers(address, 2s); }).get();
-    };
-    QVERIFY(answers(u"127.0.0.1"_s));
-    QVERIFY(!answers(u"0.0.0.0"_s));
-    close(listener);
-    QVERIFY(!answers(u"127.0.0.1"_s));
-}
 
 QTEST_GUILESS_MAIN(CupsSpoolerTests)
 #include "CupsSpoolerTests.moc"

@@ -15,226 +15,186 @@ using SlicedReply = std::pair<int, std::vector<qsizetype>>;
 
 } // namespace
 
-Q_DECLARE_METATYPE(PrinterFault)
-
 class TransferTests : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void aReplyInAnySlices_data();
-    void aReplyInAnySlices();
-    void writesOfAnySize_data();
-    void writesOfAnySize();
-    void transferFailures_data();
-    void transferFailures();
-    void aStallIsCleared();
-    void cancelEndsTheTransferAndAllLaterOnes_data();
-    void cancelEndsTheTransferAndAllLaterOnes();
-    void drainedInputIsGone();
-};
-
-void TransferTests::aReplyInAnySlices_data()
-{
-    using Slices = std::vector<qsizetype>;
-    QTest::addColumn<int>("packetSize");
-    QTest::addColumn<std::vector<SlicedReply>>("replies");
-    const auto one = [](const char *name, int packetSize, int dataSize, const Slices &slices) {
-        QTest::newRow(name) << packetSize << std::vector<SlicedReply>{{dataSize, slices}};
-    };
-    one("whole", 512, 176, {});
-    one("header apart", 512, 176, {16});
-    one("zero-length packets", 512, 4, {0, 0, 7, 0, 9, 0, 4, 0});
-    one("a byte at a time", 64, 4, Slices(20, 1));
-    one("whole packets only", 64, 112, {64});
-    one("larger than one transfer", 512, 65000, {});
-    QRandomGenerator random(20);
-    for (const int packetSize : {64, 512}) {
-        std::vector<SlicedReply> replies(20);
-        for (auto &[dataSize, slices] : replies) {
-            dataSize = random.bounded(1, 2000);
-            for (qsizetype rest = dataSize + 16; rest > 0; rest -= slices.back())
-                slices.push_back(random.bounded(0, int(std::min<qsizetype>(rest, 200)) + 1));
+    void aReplyInAnySlices_data()
+    {
+        using Slices = std::vector<qsizetype>;
+        QTest::addColumn<int>("packetSize");
+        QTest::addColumn<std::vector<SlicedReply>>("replies");
+        const auto one = [](const char *name, int packetSize, int dataSize, const Slices &slices) {
+            QTest::newRow(name) << packetSize << std::vector<SlicedReply>{{dataSize, slices}};
+        };
+        one("zero-length packets", 512, 4, {0, 0, 7, 0, 9, 0, 4, 0});
+        one("a byte at a time", 64, 4, Slices(20, 1));
+        one("larger than one transfer", 512, 65000, {});
+        QRandomGenerator random(20);
+        for (const int packetSize : {64, 512}) {
+            std::vector<SlicedReply> replies(20);
+            for (auto &[dataSize, slices] : replies) {
+                dataSize = random.bounded(1, 2000);
+                for (qsizetype rest = dataSize + 16; rest > 0; rest -= slices.back())
+                    slices.push_back(random.bounded(0, int(std::min<qsizetype>(rest, 200)) + 1));
+            }
+            QTest::addRow("twenty at random, packets of %d", packetSize) << packetSize << replies;
         }
-        QTest::addRow("twenty at random, packets of %d", packetSize) << packetSize << replies;
     }
-}
 
-void TransferTests::aReplyInAnySlices()
-{
-    QFETCH(int, packetSize);
-    QFETCH(std::vector<SlicedReply>, replies);
-    UsbShape shape;
-    shape.packetSize = quint16(packetSize);
-    PrinterBed bed({}, shape);
-    for (const auto &[dataSize, slices] : replies) {
+    void aReplyInAnySlices()
+    {
+        QFETCH(int, packetSize);
+        QFETCH(std::vector<SlicedReply>, replies);
+        UsbShape shape;
+        shape.packetSize = quint16(packetSize);
+        PrinterBed bed({}, shape);
+        for (const auto &[dataSize, slices] : replies) {
+            PrinterFault fault;
+            fault.data = someData(dataSize);
+            fault.slices = slices;
+            bed.answer(fault);
+            QByteArray slicing = "slices:";
+            for (const qsizetype slice : slices)
+                slicing += ' ' + QByteArray::number(slice);
+
+            const auto connection = bed.connect();
+            QVERIFY(!bed.write(*connection));
+            QByteArray header;
+            QByteArray data;
+            const auto headerFailure = bed.read(*connection, 16, header);
+            const auto dataFailure = bed.read(*connection, dataSize, data);
+            QVERIFY2(!headerFailure && !dataFailure, slicing);
+            QVERIFY2(header.startsWith(QByteArray::fromHex("00ACFF21")), slicing);
+            QVERIFY2(data == someData(dataSize), slicing);
+        }
+    }
+
+    void writesOfAnySize()
+    {
+        eachRow(
+            {
+                {"one frame", 1},
+                {"larger than one transfer", 2000},
+            },
+            [&](int frames) {
+                PrinterFault fault;
+                fault.silent = true;
+                PrinterBed bed(fault);
+                const auto connection = bed.connect();
+                QVERIFY(!bed.await([&] { return connection->write(commandFrame(wakeUp).repeated(frames)); }));
+                QCOMPARE(bed.bus.record().count(wakeUp), frames);
+                QVERIFY(bed.bus.record().allSound());
+            });
+    }
+
+    void transferFailures()
+    {
+        using enum PrinterScript::PulledPlug;
+        const int unplugged = code(UsbErrorCode::Unplugged);
+        const int stalled = code(UsbErrorCode::Stalled);
+        const QString leftWriting = u"writing to %1: unplugged"_s;
+        const QString leftReading = u"reading from %1: unplugged"_s;
+        const QString stalledReading = u"reading from %1: stalled"_s;
+        // Error codes, 0 for none and -1 where nothing is read; then how much was received.
+        eachRow(
+            {
+                {"unplugged while it is written to", {.unplugOut = 20}, AtOnce, unplugged, unplugged, 0, leftWriting},
+                {"unplugged before it answers", {.unplugIn = 0}, AtOnce, 0, unplugged, 0, leftReading},
+                {"the same, bus errors first ", {.unplugIn = 0}, BusErrors, 0, unplugged, 0, leftReading},
+                {"the same, stalls first ", {.unplugIn = 0}, Stalls, 0, unplugged, 0, leftReading},
+                {"unplugged in the data", {.unplugIn = 20}, AtOnce, 0, unplugged, 20, leftReading},
+                {"takes nothing but stalls", {.stallOut = true}, AtOnce, stalled, -1, 0, u"writing to %1: stalled"_s},
+                {"stalls in the header", {.cutAt = 10, .stallIn = true}, AtOnce, 0, stalled, 10, stalledReading},
+            },
+            [&](PrinterFault fault, const PrinterScript::PulledPlug &pulled, int written, int read, int received,
+                const QString &message) {
+                fault.data = someData(100);
+                PrinterBed bed;
+                bed.answer(fault, pulled);
+                const auto connection = bed.connect();
+                const QString expected = message.arg(bed.bus.nodePath());
+
+                auto failure = bed.write(*connection);
+                QCOMPARE(codeOf(failure), written);
+                QByteArray reply;
+                if (read >= 0) {
+                    const auto readFailure = bed.read(*connection, 116, reply);
+                    QCOMPARE(codeOf(readFailure), read);
+                    if (!failure)
+                        failure = readFailure;
+                }
+                QCOMPARE(reply.size(), received);
+                QCOMPARE(failure->domain, QString(usbErrorDomain));
+                QCOMPARE(failure->message, expected);
+            });
+    }
+
+    void aStallIsCleared()
+    {
+        PrinterFault stallOut;
+        stallOut.occurrence = 1;
+        stallOut.stallOut = true;
+        PrinterBed bed(stallOut);
+        const auto connection = bed.connect();
+        QCOMPARE(codeOf(bed.write(*connection)), code(UsbErrorCode::Stalled));
+        QVERIFY(!bed.write(*connection));
+        QByteArray reply;
+        QVERIFY(!bed.read(*connection, 16, reply));
+
+        PrinterFault stallIn;
+        stallIn.occurrence = 3;
+        stallIn.stallIn = true;
+        bed.answer(stallIn);
+        QVERIFY(!bed.write(*connection));
+        QCOMPARE(codeOf(bed.read(*connection, 32, reply)), code(UsbErrorCode::Stalled));
+        QVERIFY(!bed.write(*connection));
+        QVERIFY(!bed.read(*connection, 32, reply));
+    }
+
+    void cancelEndsTheTransferAndAllLaterOnes()
+    {
+        const int cancelled = code(UsbErrorCode::Cancelled);
+        eachRow(
+            {
+                {"while writing", {.acceptOnly = 10}, cancelled, 0},
+                {"while reading, a whole packet came", {.cutAt = 64}, 0, 64},
+            },
+            [&](PrinterFault fault, int written, int received) {
+                fault.data = someData(100);
+                UsbShape shape;
+                shape.packetSize = 64;
+                PrinterBed bed(fault, shape);
+                const auto connection = bed.connect();
+                const auto cancel = bed.time.after(1s, [&] { connection->cancel(); });
+                QCOMPARE(codeOf(bed.write(*connection)), written);
+                QByteArray reply;
+                QCOMPARE(codeOf(bed.read(*connection, 116, reply)), code(UsbErrorCode::Cancelled));
+                QCOMPARE(reply.size(), received);
+                QCOMPARE(codeOf(bed.write(*connection)), code(UsbErrorCode::Cancelled));
+                QCOMPARE(codeOf(bed.read(*connection, 116, reply)), code(UsbErrorCode::Cancelled));
+            });
+    }
+
+    void drainedInputIsGone()
+    {
         PrinterFault fault;
-        fault.data = someData(dataSize);
-        fault.slices = slices;
-        bed.answer(fault);
-        QByteArray slicing = "slices:";
-        for (const qsizetype slice : slices)
-            slicing += ' ' + QByteArray::number(slice);
-
+        fault.occurrence = 1;
+        fault.trailingGarbage = QByteArray(5000, 'x');
+        fault.slices = {16, 1000, 0, 7};
+        PrinterBed bed(fault);
         const auto connection = bed.connect();
         QVERIFY(!bed.write(*connection));
-        QByteArray header;
-        QByteArray data;
-        const auto headerFailure = bed.read(*connection, 16, header);
-        const auto dataFailure = bed.read(*connection, dataSize, data);
-        QVERIFY2(!headerFailure && !dataFailure, slicing);
-        QVERIFY2(header.startsWith(QByteArray::fromHex("00ACFF21")), slicing);
-        QVERIFY2(data == someData(dataSize), slicing);
+        QByteArray reply;
+        QVERIFY(!bed.read(*connection, 16, reply));
+        QCOMPARE(bed.await([&] { return connection->drainInput(); }), fault.trailingGarbage);
+        QVERIFY(!bed.write(*connection));
+        QByteArray second;
+        QVERIFY(!bed.read(*connection, 16, second));
+        QCOMPARE(second, reply);
     }
-}
-
-void TransferTests::writesOfAnySize_data()
-{
-    QTest::addColumn<int>("frames");
-    QTest::newRow("nothing") << 0;
-    QTest::newRow("one frame") << 1;
-    QTest::newRow("larger than one transfer") << 2000;
-}
-
-void TransferTests::writesOfAnySize()
-{
-    QFETCH(int, frames);
-    PrinterFault fault;
-    fault.silent = true;
-    PrinterBed bed(fault);
-    const auto connection = bed.connect();
-    QVERIFY(!bed.await([&] { return connection->write(commandFrame(wakeUp).repeated(frames)); }));
-    QCOMPARE(bed.bus.record().count(wakeUp), frames);
-    QVERIFY(bed.bus.record().allSound());
-}
-
-void TransferTests::transferFailures_data()
-{
-    using enum PrinterScript::PulledPlug;
-    const int unplugged = code(UsbErrorCode::Unplugged);
-    const int stalled = code(UsbErrorCode::Stalled);
-    const QString leftWriting = u"writing to %1: unplugged"_s;
-    const QString leftReading = u"reading from %1: unplugged"_s;
-    const QString stalledReading = u"reading from %1: stalled"_s;
-    // Error codes, 0 for none and -1 where nothing is read; then how much was received.
-    const Rows<PrinterFault, PrinterScript::PulledPlug, int, int, int, QString> row{"fault", "pulled",   "written",
-                                                                                    "read",  "received", "message"};
-    row("unplugged while it is written to", {.unplugOut = 20}, AtOnce, unplugged, unplugged, 0, leftWriting);
-    row("the same, bus errors first", {.unplugOut = 20}, BusErrors, unplugged, unplugged, 0, leftWriting);
-    row("the same, stalls first", {.unplugOut = 20}, Stalls, unplugged, unplugged, 0, leftWriting);
-    row("unplugged before it answers", {.unplugIn = 0}, AtOnce, 0, unplugged, 0, leftReading);
-    row("the same, bus errors first ", {.unplugIn = 0}, BusErrors, 0, unplugged, 0, leftReading);
-    row("the same, stalls first ", {.unplugIn = 0}, Stalls, 0, unplugged, 0, leftReading);
-    row("unplugged in the header", {.unplugIn = 7}, AtOnce, 0, unplugged, 7, leftReading);
-    row("unplugged in the data", {.unplugIn = 20}, AtOnce, 0, unplugged, 20, leftReading);
-    row("takes nothing but stalls", {.stallOut = true}, AtOnce, stalled, -1, 0, u"writing to %1: stalled"_s);
-    row("stalls in place of a reply", {.stallIn = true}, AtOnce, 0, stalled, 0, stalledReading);
-    row("stalls in the header", {.cutAt = 10, .stallIn = true}, AtOnce, 0, stalled, 10, stalledReading);
-}
-
-void TransferTests::transferFailures()
-{
-    QFETCH(PrinterFault, fault);
-    QFETCH(PrinterScript::PulledPlug, pulled);
-    QFETCH(int, written);
-    QFETCH(int, read);
-    QFETCH(int, received);
-    QFETCH(QString, message);
-    fault.data = someData(100);
-    PrinterBed bed;
-    bed.answer(fault, pulled);
-    const auto connection = bed.connect();
-    const QString expected = message.arg(bed.bus.nodePath());
-
-    auto failure = bed.write(*connection);
-    QCOMPARE(codeOf(failure), written);
-    QByteArray reply;
-    if (read >= 0) {
-        const auto readFailure = bed.read(*connection, 116, reply);
-        QCOMPARE(codeOf(readFailure), read);
-        if (!failure)
-            failure = readFailure;
-    }
-    QCOMPARE(reply.size(), received);
-    QCOMPARE(failure->domain, QString(usbErrorDomain));
-    QCOMPARE(failure->message, expected);
-}
-
-void TransferTests::aStallIsCleared()
-{
-    PrinterFault stallOut;
-    stallOut.occurrence = 1;
-    stallOut.stallOut = true;
-    PrinterBed bed(stallOut);
-    const auto connection = bed.connect();
-    QCOMPARE(codeOf(bed.write(*connection)), code(UsbErrorCode::Stalled));
-    QVERIFY(!bed.write(*connection));
-    QByteArray reply;
-    QVERIFY(!bed.read(*connection, 16, reply));
-
-    PrinterFault stallIn;
-    stallIn.occurrence = 3;
-    stallIn.stallIn = true;
-    bed.answer(stallIn);
-    QVERIFY(!bed.write(*connection));
-    QCOMPARE(codeOf(bed.read(*connection, 32, reply)), code(UsbErrorCode::Stalled));
-    QVERIFY(!bed.write(*connection));
-    QVERIFY(!bed.read(*connection, 32, reply));
-}
-
-void TransferTests::cancelEndsTheTransferAndAllLaterOnes_data()
-{
-    QTest::addColumn<PrinterFault>("fault");
-    QTest::addColumn<int>("written"); // error code
-    QTest::addColumn<int>("received");
-    const int cancelled = code(UsbErrorCode::Cancelled);
-    PrinterFault fault;
-    fault.acceptOnly = 10;
-    QTest::newRow("while writing") << fault << cancelled << 0;
-    fault = {};
-    fault.silent = true;
-    QTest::newRow("while reading, nothing came") << fault << 0 << 0;
-    fault = {};
-    fault.cutAt = 64;
-    QTest::newRow("while reading, a whole packet came") << fault << 0 << 64;
-}
-
-void TransferTests::cancelEndsTheTransferAndAllLaterOnes()
-{
-    QFETCH(PrinterFault, fault);
-    QFETCH(int, written);
-    QFETCH(int, received);
-    fault.data = someData(100);
-    UsbShape shape;
-    shape.packetSize = 64;
-    PrinterBed bed(fault, shape);
-    const auto connection = bed.connect();
-    const auto cancel = bed.time.after(1s, [&] { connection->cancel(); });
-    QCOMPARE(codeOf(bed.write(*connection)), written);
-    QByteArray reply;
-    QCOMPARE(codeOf(bed.read(*connection, 116, reply)), code(UsbErrorCode::Cancelled));
-    QCOMPARE(reply.size(), received);
-    QCOMPARE(codeOf(bed.write(*connection)), code(UsbErrorCode::Cancelled));
-    QCOMPARE(codeOf(bed.read(*connection, 116, reply)), code(UsbErrorCode::Cancelled));
-}
-
-void TransferTests::drainedInputIsGone()
-{
-    PrinterFault fault;
-    fault.occurrence = 1;
-    fault.trailingGarbage = QByteArray(5000, 'x');
-    fault.slices = {16, 1000, 0, 7};
-    PrinterBed bed(fault);
-    const auto connection = bed.connect();
-    QVERIFY(!bed.write(*connection));
-    QByteArray reply;
-    QVERIFY(!bed.read(*connection, 16, reply));
-    QCOMPARE(bed.await([&] { return connection->drainInput(); }), fault.trailingGarbage);
-    QVERIFY(!bed.write(*connection));
-    QByteArray second;
-    QVERIFY(!bed.read(*connection, 16, second));
-    QCOMPARE(second, reply);
-}
+};
 
 QTEST_GUILESS_MAIN(TransferTests)
 #include "TransferTests.moc"
