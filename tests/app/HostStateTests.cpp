@@ -42,21 +42,6 @@ private Q_SLOTS:
         QCOMPARE(WTApp::_qualityStringWithRSSI(0), 100);
     }
 
-    void labelsSecurity()
-    {
-        WTWiFi wifi;
-        wifi.setAuthModeLabel(u"something else"_s);
-        const auto label = [&](qint64 security) {
-            wifi.security = security;
-            return wifi.authModeLabel();
-        };
-        QCOMPARE(label(-1), std::nullopt);
-        QCOMPARE(label(0), u"Other"_s);
-        QCOMPARE(label(9), u"WPA2/WPA3-Personal"_s);
-        QCOMPARE(label(13), u"OWE"_s);
-        QCOMPARE(label(14), std::nullopt);
-    }
-
     void knowsTheJoinedNetwork()
     {
         const auto isJoined = [](const QString &name, qint64 security, const QString &joined, qint64 joinedSecurity) {

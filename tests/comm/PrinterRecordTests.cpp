@@ -2,7 +2,6 @@
 #include "JsonInteger.h"
 #include "LogCollector.h"
 #include "ModelCatalogue.h"
-#include "PrintQueueBusyCheck.h"
 #include "ResourceFolder.h"
 #include "Rows.h"
 #include "VirtualTime.h"
@@ -15,7 +14,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-
 WTCDevice device(const QString &type, quint32 locationID)
 {
     return {.printerType = type,
@@ -118,11 +116,7 @@ private Q_SLOTS:
         QCOMPARE(integer("\"-99999999999999999999\""), Limits::min());
     }
 
-    void initTestCase()
-    {
-        m_spooler.queues = {{.name = "QZ200", .printerState = "3"}, {.name = "QZ100", .printerState = "4"}};
-        WTManager::usePorts(m_time, m_spooler);
-    }
+    void initTestCase() { WTManager::usePorts(m_time, m_spooler); }
 
     void derivesTextsOfTheUsbSide()
     {
@@ -190,19 +184,6 @@ private Q_SLOTS:
         QCOMPARE(printer->wifiCode, 0);
         QVERIFY(manager.oldAclPrinter(u"LX-1"_s));
         QVERIFY(log.lines().constFirst().startsWith("warning: "_L1));
-    }
-
-    void asksTheSpoolerForThePrintersQueue()
-    {
-        const LogCollector log;
-        QVERIFY(isWorkingWithPrintType(WTManager::shared().spooler(), u"quillmark QZ-100"_s,
-                                       BusyCheckVariant::ManualEntry));
-        QCOMPARE(log.lines(), QStringList{});
-        QVERIFY(isWorkingWithPrintType(WTManager::shared().spooler(), u"quillmark QZ100"_s, BusyCheckVariant::List));
-        QCOMPARE(log.lines(),
-                 (QStringList{u"info: 查看本地是否有打印作业,打印机名称quillmark QZ100"_s,
-                              u"info: 打印机正在打印中,当前打印机为QZ200"_s,
-                              u"info: 打印机正在打印中,当前打印机为QZ100"_s, u"info: 打印机正在打印中"_s}));
     }
 
 private:

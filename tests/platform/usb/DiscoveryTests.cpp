@@ -1,46 +1,11 @@
 #include "Rows.h"
 #include "UsbTestBed.h"
 
-#include <mutex>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-
 const std::vector<quint16> ourVendors{0x6A1B, 0x6A1C};
-
-/// Keeps the lists that a watcher was told.
-class ReportedLists
-{
-public:
-    UsbPort::ListChanged listener()
-    {
-        return [this](const UsbDeviceList &list) {
-            const std::lock_guard lock(m_mutex);
-            m_lists.push_back(list);
-        };
-    }
-
-    std::vector<UsbDeviceList> all() const
-    {
-        const std::lock_guard lock(m_mutex);
-        return m_lists;
-    }
-
-    /// How long each list was.
-    std::vector<std::size_t> sizes() const
-    {
-        std::vector<std::size_t> sizes;
-        for (const UsbDeviceList &list : all())
-            sizes.push_back(list.size());
-        return sizes;
-    }
-
-private:
-    mutable std::mutex m_mutex;
-    std::vector<UsbDeviceList> m_lists;
-};
 
 enum class Access { Free, Denied, Held };
 
@@ -110,55 +75,6 @@ private Q_SLOTS:
         bed.bus.replug();
         QCOMPARE(list().size(), 1U);
         QCOMPARE(bed.bus.deviceIDQuestions(), 2);
-    }
-
-    void onlyAskedVendorsInOrderOfLocation()
-    {
-        UsbTestBed bed;
-        ModelIdentity stranger;
-        stranger.vendorID = 0x1234;
-        ModelIdentity sister;
-        sister.vendorID = 0x6A1C;
-        bed.bus.addPrinter();
-        bed.bus.addPrinter(PrinterModel(stranger));
-        bed.bus.addPrinter(PrinterModel(sister));
-        for (const int printer : {2, 1, 0})
-            bed.bus.plug(printer);
-        const auto devices = bed.await([&] { return bed.port.devices(ourVendors); });
-        QCOMPARE(devices.size(), 2U);
-        QCOMPARE(devices[0].locationID, 0x01100000U);
-        QCOMPARE(devices[1].locationID, 0x01300000U);
-        QCOMPARE(devices[1].vendorID, sister.vendorID);
-    }
-
-    void everyChangeIsReportedOnce()
-    {
-        UsbTestBed bed;
-        bed.bus.addPrinter();
-        bed.bus.addPrinter();
-        ReportedLists reports;
-        std::vector<std::size_t> expected;
-        const auto reported = [&](std::size_t size) {
-            expected.push_back(size);
-            return bed.runUntil([&] { return reports.sizes() == expected; });
-        };
-
-        bed.port.watch(ourVendors, reports.listener());
-        QVERIFY(reported(0));
-        bed.bus.plug(0);
-        QVERIFY(reported(1));
-        bed.bus.plug(1);
-        QVERIFY(reported(2));
-        bed.bus.unplug(0);
-        QVERIFY(reported(1));
-        QCOMPARE(reports.all().back().front().locationID, 0x01200000U);
-        bed.bus.plug(0);
-        QVERIFY(reported(2));
-        QVERIFY(reports.all().back() == reports.all().at(2));
-        bed.bus.unplug(0);
-        QVERIFY(reported(1));
-        bed.bus.unplug(1);
-        QVERIFY(reported(0));
     }
 };
 

@@ -9,7 +9,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-
 /// The size of a reply's data, and the sizes of the transfers that the reply comes in.
 using SlicedReply = std::pair<int, std::vector<qsizetype>>;
 
@@ -69,66 +68,6 @@ private Q_SLOTS:
             QVERIFY2(header.startsWith(QByteArray::fromHex("00ACFF21")), slicing);
             QVERIFY2(data == someData(dataSize), slicing);
         }
-    }
-
-    void writesOfAnySize()
-    {
-        eachRow(
-            {
-                {"one frame", 1},
-                {"larger than one transfer", 2000},
-            },
-            [&](int frames) {
-                PrinterFault fault;
-                fault.silent = true;
-                PrinterBed bed(fault);
-                const auto connection = bed.connect();
-                QVERIFY(!bed.await([&] { return connection->write(commandFrame(wakeUp).repeated(frames)); }));
-                QCOMPARE(bed.bus.record().count(wakeUp), frames);
-                QVERIFY(bed.bus.record().allSound());
-            });
-    }
-
-    void transferFailures()
-    {
-        using enum PrinterScript::PulledPlug;
-        const int unplugged = code(UsbErrorCode::Unplugged);
-        const int stalled = code(UsbErrorCode::Stalled);
-        const QString leftWriting = u"writing to %1: unplugged"_s;
-        const QString leftReading = u"reading from %1: unplugged"_s;
-        const QString stalledReading = u"reading from %1: stalled"_s;
-        // Error codes, 0 for none and -1 where nothing is read; then how much was received.
-        eachRow(
-            {
-                {"unplugged while it is written to", {.unplugOut = 20}, AtOnce, unplugged, unplugged, 0, leftWriting},
-                {"unplugged before it answers", {.unplugIn = 0}, AtOnce, 0, unplugged, 0, leftReading},
-                {"the same, bus errors first ", {.unplugIn = 0}, BusErrors, 0, unplugged, 0, leftReading},
-                {"the same, stalls first ", {.unplugIn = 0}, Stalls, 0, unplugged, 0, leftReading},
-                {"unplugged in the data", {.unplugIn = 20}, AtOnce, 0, unplugged, 20, leftReading},
-                {"takes nothing but stalls", {.stallOut = true}, AtOnce, stalled, -1, 0, u"writing to %1: stalled"_s},
-                {"stalls in the header", {.cutAt = 10, .stallIn = true}, AtOnce, 0, stalled, 10, stalledReading},
-            },
-            [&](PrinterFault fault, const PrinterScript::PulledPlug &pulled, int written, int read, int received,
-                const QString &message) {
-                fault.data = someData(100);
-                PrinterBed bed;
-                bed.answer(fault, pulled);
-                const auto connection = bed.connect();
-                const QString expected = message.arg(bed.bus.nodePath());
-
-                auto failure = bed.write(*connection);
-                QCOMPARE(codeOf(failure), written);
-                QByteArray reply;
-                if (read >= 0) {
-                    const auto readFailure = bed.read(*connection, 116, reply);
-                    QCOMPARE(codeOf(readFailure), read);
-                    if (!failure)
-                        failure = readFailure;
-                }
-                QCOMPARE(reply.size(), received);
-                QCOMPARE(failure->domain, QString(usbErrorDomain));
-                QCOMPARE(failure->message, expected);
-            });
     }
 
     void aStallIsCleared()
