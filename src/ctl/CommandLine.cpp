@@ -18,9 +18,28 @@ Puts printers that are connected by USB onto a wireless network.
 
   printers            list the printers that are plugged in
   networks            list the wireless networks that this computer sees
+  join                tell printers a network, and wait until they have an address
+  check               ask a printer whether it can be configured
+  address             ask a printer for its address
+  information-page    have a printer print its wireless-network page
+
+join:
+  --network NAME          the network (required)
+  --password-file FILE    its password is the only line of FILE; - is standard input
+  --stored                its password is the one that NetworkManager has stored
+  --open                  it has no password
+  --printer URI           this printer; may be repeated
+  --all                   all printers that are plugged in
+  --watch                 every printer that is plugged in from now on, until ended
+  --again                 with --watch: also a printer that was done in this watch
+
+check, address, information-page:
+  --printer URI           this printer; may be left out when only one is plugged in
 
   --json                  one JSON object a line
-  --help, --version)"_L1;
+  --help, --version
+
+The manual page wifitoolctl(1) tells the exit status, the JSON and more.)"_L1;
 
 struct Name {
     QLatin1StringView text;
@@ -28,8 +47,9 @@ struct Name {
 };
 
 constexpr std::array names{
-    Name{"printers"_L1, Subcommand::Printers},
-    Name{"networks"_L1, Subcommand::Networks},
+    Name{"printers"_L1, Subcommand::Printers}, Name{"networks"_L1, Subcommand::Networks},
+    Name{"join"_L1, Subcommand::Join},         Name{"check"_L1, Subcommand::Check},
+    Name{"address"_L1, Subcommand::Address},   Name{"information-page"_L1, Subcommand::InformationPage},
 };
 
 /// The options of all subcommands; `Join` takes all of them, the questions to one printer the first, others none.

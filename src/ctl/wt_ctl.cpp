@@ -1,8 +1,10 @@
 #include "wt_ctl.h"
 
+#include "JoinCommand.h"
 #include "Log.h"
 #include "NetworksCommand.h"
 #include "Output.h"
+#include "PrinterQuestion.h"
 #include "PrintersCommand.h"
 #include "TerminationRequest.h"
 
@@ -21,10 +23,11 @@ std::unique_ptr<Command> commandFor(const CommandLine &line, const CommandPorts 
     case CommandLine::Subcommand::Networks:
         return std::make_unique<NetworksCommand>(ports, output);
     case CommandLine::Subcommand::Join:
+        return std::make_unique<JoinCommand>(line, ports, output);
     case CommandLine::Subcommand::Check:
     case CommandLine::Subcommand::Address:
     case CommandLine::Subcommand::InformationPage:
-        break;
+        return std::make_unique<PrinterQuestion>(line, ports, output);
     }
     Q_UNREACHABLE();
 }
