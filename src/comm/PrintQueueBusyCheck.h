@@ -12,7 +12,7 @@ enum class BusyCheckVariant {
 };
 
 /// Whether a print queue of this printer is printing, as the spooler sees it. Blocks until the spooler has answered,
-/// but no longer than two seconds: where there is no answer, nothing is printing. Main thread.
+/// but no longer than two seconds: where there is no answer, nothing is printing. Always from one and the same thread.
 /// @param spooler outlives the question, which may go on after that.
 bool isWorkingWithPrintType(SpoolerPort &spooler, const QString &printerType, BusyCheckVariant variant);
 

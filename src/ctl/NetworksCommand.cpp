@@ -53,7 +53,8 @@ void NetworksCommand::tell(const WTWiFi &network)
     const QString security = network.authModeLabel().value_or(QString());
     const QString hint = hintOf(name, network);
     const QString band = network.only5GHz ? u"5 GHz"_s : u"2.4 GHz"_s;
-    QString text = u"%1 %2 %  %3  %4  "_s.arg(isOwn ? u'*' : u' ').arg(network.quality, 3).arg(band, -7).arg(security);
+    QString text =
+        u"%1 %2 %  %3  %4  "_s.arg(isOwn ? u"*"_s : u" "_s).arg(network.quality, 3).arg(band, -7).arg(security);
     text += name + (hint.isEmpty() ? QString() : u"  ("_s + hint + u')');
     m_output.say(text, {{u"event"_s, u"network"_s},
                         {u"name"_s, name},

@@ -165,7 +165,7 @@ void PrinterQuestion::fail(const std::optional<WTError> &cause, const QString &o
         told = causeText(*cause, commandOf(m_line.subcommand), m_ports.desktop.deviceAccess());
     if (told.cause.isEmpty())
         told = {otherwise, advice};
-    m_output.say(nameOf(*m_printer) + u": "_s + told.cause + u' ' + told.advice,
+    m_output.say(QString(nameOf(*m_printer) + u": "_s + told.cause + u' ' + told.advice).trimmed(),
                  {{u"event"_s, eventOf(m_line.subcommand)},
                   {u"printer"_s, jsonOf(*m_printer)},
                   {u"result"_s, u"failed"_s},

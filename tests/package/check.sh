@@ -62,6 +62,12 @@ finds_its_resources() {
     grep -rqs 'cfgPath:/usr/share/wifitool/catalogue.json' "$tree/home/user/.local/state/Logs" &&
     [ -f "$tree/usr/share/wifitool/catalogue.json" ]
 }
+# Where neither a display nor a library for one is in its reach.
+runs_without_display() {
+  in_tree wifitoolctl --version | grep -q '^wifitoolctl 1' &&
+    ! chroot "$tree" ldd /usr/bin/wifitoolctl | grep -E 'Qt6Gui|Qt6Widgets|libX11|wayland' &&
+    { in_tree su user -c 'wifitoolctl printers'; [ $? = 3 ]; }
+}
 leaves_nothing() { in_tree apt-get -qq purge wifitool && files_of_tree >"$work/after" && diff "$work/before" "$work/after"; }
 
 clean_tree
@@ -84,11 +90,15 @@ id=com.quillmark.wifitool
 check 'desktop entry' desktop-file-validate "$unpacked/usr/share/applications/$id.desktop"
 check 'metainfo' appstreamcli validate --no-net "$unpacked/usr/share/metainfo/$id.metainfo.xml"
 check 'lintian' lintian --fail-on error,warning --allow-root "$package"
-check 'manual page' sh -c "man --warnings -E UTF-8 -l '$unpacked/usr/share/man/man1/wifitool.1.gz' 2>&1 >/dev/null | (! grep .)"
-check 'hardening' "$here/hardening_test.py" "$unpacked/usr/bin/wifitool"
+for program in wifitool wifitoolctl; do
+  check "manual page of $program" sh -c "man --warnings -E UTF-8 -l '$unpacked/usr/share/man/man1/$program.1.gz' 2>&1 >/dev/null | (! grep .)"
+  check "hardening of $program" "$here/hardening_test.py" "$unpacked/usr/bin/$program"
+done
+check 'completion' bash -n "$unpacked/usr/share/bash-completion/completions/wifitoolctl"
 check 'installs' in_tree dpkg --install /tmp/wifitool.deb
 check 'version' sh -c "chroot '$tree' wifitool --version | grep -q '^Wi-Fi Tool 1'"
 check 'starts as an ordinary user' starts_as_user
+check 'the command line runs without a display' runs_without_display
 check 'finds its resources' finds_its_resources
 check 'leaves nothing behind' leaves_nothing
 echo "Totals: $passed passed, $failed failed"

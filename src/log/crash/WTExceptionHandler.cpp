@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
@@ -29,6 +30,8 @@ struct Fault {
 };
 
 thread_local Fault lastFault;
+
+std::atomic<int> statusAfterFault = EXIT_SUCCESS;
 
 /// Whether an instruction of the thread caused the signal; nobody sent it.
 bool comesFromInstruction(const siginfo_t &info)
@@ -72,7 +75,7 @@ void handleSignal(int signal, siginfo_t *info, void * /*context*/)
     crash.signal = signal;
     CrashReporter::report(crash);
     if (signal == SIGSEGV)
-        _exit(EXIT_SUCCESS);
+        _exit(statusAfterFault);
     if (signal == SIGTRAP && comesFromInstruction(*info))
         abortWithoutReport();
     errno = savedError;
@@ -99,7 +102,7 @@ QString reasonOfCurrentException()
     crash.exceptionReason = reasonOfCurrentException();
     CrashReporter::report(crash);
     if (crash.exceptionReason.contains(u"SIGSEGV"_s))
-        std::_Exit(EXIT_SUCCESS);
+        std::_Exit(statusAfterFault);
     abortWithoutReport();
 }
 
@@ -131,6 +134,11 @@ void WTExceptionHandler::uncaughtExceptionHandler()
     sigfillset(&action.sa_mask);
     for (const int signal : reportedSignals)
         sigaction(signal, &action, nullptr);
+}
+
+void WTExceptionHandler::setStatusAfterFault(int status)
+{
+    statusAfterFault = status;
 }
 
 QStringList WTExceptionHandler::backtrace()
