@@ -91,6 +91,8 @@ void JoinReport::tellStep(const PrinterJob &job)
 void JoinReport::tellEnd(const PrinterJob &job)
 {
     std::erase(m_moving, &job);
+    if (m_hasBlock)
+        draw();
     const JobResult &result = job.result();
     QJsonObject object{{u"event"_s, u"result"_s},
                        {u"printer"_s, jsonOf(*job.printer())},
@@ -122,8 +124,6 @@ void JoinReport::tellEnd(const PrinterJob &job)
         break;
     }
     m_output.say(text.trimmed(), object);
-    if (m_hasBlock)
-        draw();
 }
 
 void JoinReport::tellSum(bool isWorthwhile)

@@ -10,7 +10,6 @@
 #include <QPointer>
 #include <QStringDecoder>
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -126,9 +125,8 @@ void PasswordSource::fetch(const CommandLine &line, const Done &done)
     if (!fault.isEmpty())
         return done(refused(fault));
     const bool mayBeEmpty = TerminalPassword::isTerminal();
-    if (mayBeEmpty)
-        std::fputs(qUtf8Printable(u"Password of "_s + visibleText(line.network) + u" (empty: none): "_s), stderr);
-    m_input.read([done, mayBeEmpty](const QByteArray &bytes) {
+    const QString prompt = u"Password of "_s + visibleText(line.network) + u" (empty: none): "_s;
+    m_input.read(prompt, [done, mayBeEmpty](const QByteArray &bytes) {
         const PasswordAnswer answer = judged(bytes);
         done(mayBeEmpty ? answer : withoutEmpty(answer));
     });

@@ -1,6 +1,7 @@
 #include "TerminalPassword.h"
 
 #include <array>
+#include <cstdio>
 #include <unistd.h>
 #include <utility>
 
@@ -21,7 +22,7 @@ bool TerminalPassword::isTerminal()
     return isatty(STDIN_FILENO) == 1;
 }
 
-void TerminalPassword::read(std::function<void(const QByteArray &)> done)
+void TerminalPassword::read(const QString &prompt, std::function<void(const QByteArray &)> done)
 {
     m_done = std::move(done);
     termios settings{};
@@ -29,7 +30,9 @@ void TerminalPassword::read(std::function<void(const QByteArray &)> done)
         m_before = settings;
         settings.c_lflag &= ~tcflag_t(ECHO);
         settings.c_lflag |= ECHONL;
+        // What was typed ahead is dropped with this, so the question comes after it.
         tcsetattr(STDIN_FILENO, TCSAFLUSH, &settings);
+        std::fputs(qUtf8Printable(prompt), stderr);
     }
     m_notifier = std::make_unique<QSocketNotifier>(STDIN_FILENO, QSocketNotifier::Read);
     QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [this] { readMore(); });

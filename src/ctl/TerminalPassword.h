@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QSocketNotifier>
+#include <QString>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -20,8 +21,9 @@ public:
 
     static bool isTerminal();
 
-    /// @param done gets the bytes, as soon as they are there; more than a password can have are cut.
-    void read(std::function<void(const QByteArray &)> done);
+    /// @param prompt asks for it on a terminal. @param done gets the bytes, as soon as they are there; more than a
+    /// password can have are cut.
+    void read(const QString &prompt, std::function<void(const QByteArray &)> done);
 
 private:
     void readMore();

@@ -124,9 +124,7 @@ QString UsbfsBed::sysfsPath(int printer) const
 
 quint32 UsbfsBed::locationID(int printer) const
 {
-    return m_bus->of<quint32>(printer, [](const UsbfsDevice &device) {
-        return static_cast<quint32>(UsbfsSysfs::busNumber) << 24 | static_cast<quint32>(device.port()) << 20;
-    });
+    return m_bus->of<quint32>(printer, [](const UsbfsDevice &device) { return device.sysfs().locationID(); });
 }
 
 int UsbfsBed::claims(int printer) const

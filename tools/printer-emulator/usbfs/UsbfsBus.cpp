@@ -11,7 +11,7 @@ namespace
 /// After this time without a request a program counts as asleep or gone: nothing is on its way to it any more.
 constexpr std::chrono::seconds patience{1};
 
-constexpr int lastUsableDeviceNumber = 127;
+constexpr int lastUsableDeviceNumber = 99;
 
 void check(bool succeeded, GError *error)
 {
@@ -95,7 +95,7 @@ void UsbfsBus::unplug(int printer)
 
 void UsbfsBus::plugNow(int printer)
 {
-    QByteArray description;
+    QByteArray hub, description;
     QString node;
     UsbfsDevice *device = nullptr;
     {
@@ -107,9 +107,12 @@ void UsbfsBus::plugNow(int printer)
         device->sysfs().createInterfaces(device->shape());
         device->interfacesChanged();
         node = UsbfsSysfs::nodePath(device->deviceNumber());
+        hub = device->sysfs().hub();
         description = device->sysfs().device(device->model().identity(), device->shape(), device->deviceNumber());
     }
     GError *error = nullptr;
+    if (!hub.isEmpty() && m_hubs.insert(hub).second)
+        check(umockdev_testbed_add_from_string(m_testbed.get(), hub.constData(), &error), error);
     check(umockdev_testbed_attach_ioctl(m_testbed.get(), node.toUtf8().constData(), device->handler(), &error), error);
     check(umockdev_testbed_add_from_string(m_testbed.get(), description.constData(), &error), error);
 }

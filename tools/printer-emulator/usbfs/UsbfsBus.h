@@ -11,6 +11,7 @@
 #include <functional>
 #include <map>
 #include <mutex>
+#include <set>
 #include <vector>
 
 /// The bus behind UsbfsBed: the test bed of umockdev, the devices on it, their lock and their timer.
@@ -57,7 +58,7 @@ private:
     void received(UsbfsDevice &device, const ReceivedFrame &frame) override;
     void scheduled(UsbfsDevice &device, const BusEvent &event) override;
 
-    int numberOf(const UsbfsDevice &device) const { return device.port() - 1; }
+    int numberOf(const UsbfsDevice &device) const { return device.number() - 1; }
     void scheduleStart(int printer, const PrinterScript &script);
     void apply(int printer, BusEvent::Action action);
     void post(std::function<void()> job);
@@ -75,6 +76,7 @@ private:
     Agenda m_agenda;
     Listener m_listener;
     int m_lastDeviceNumber = 1;
+    std::set<QByteArray> m_hubs; ///< Those that are on the bus; they stay.
     /// When a program last asked for something, or something was last made ready for one. Real time, not the port's:
     /// see `busy`.
     std::chrono::steady_clock::time_point m_lastMove;

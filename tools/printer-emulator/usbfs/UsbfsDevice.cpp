@@ -20,11 +20,11 @@ constexpr quint32 capabilities = USBDEVFS_CAP_ZERO_PACKET | USBDEVFS_CAP_NO_PACK
 
 } // namespace
 
-UsbfsDevice::UsbfsDevice(Bus &bus, const QString &root, int port, PrinterModel model, UsbShape shape)
+UsbfsDevice::UsbfsDevice(Bus &bus, const QString &root, int number, PrinterModel model, UsbShape shape)
     : m_bus(bus)
-    , m_port(port)
+    , m_number(number)
     , m_shape(std::move(shape))
-    , m_sysfs(root, port)
+    , m_sysfs(root, number)
     , m_root(root.toStdString())
     , m_handler(umockdev_ioctl_base_new())
     , m_interfaces(m_shape)

@@ -34,14 +34,14 @@ public:
         ~Bus() = default;
     };
 
-    UsbfsDevice(Bus &bus, const QString &root, int port, PrinterModel model, UsbShape shape);
+    UsbfsDevice(Bus &bus, const QString &root, int number, PrinterModel model, UsbShape shape);
     ~UsbfsDevice();
 
     PrinterModel &model() { return m_pipes.model(); }
     const PrinterModel &model() const { return m_pipes.model(); }
     const UsbShape &shape() const { return m_shape; }
     const UsbfsSysfs &sysfs() const { return m_sysfs; }
-    int port() const { return m_port; }
+    int number() const { return m_number; }
     UMockdevIoctlBase *handler() const { return m_handler.get(); }
 
     void arrive(int deviceNumber);
@@ -92,7 +92,7 @@ private:
     void complete(Urbs::iterator urb, int status);
 
     Bus &m_bus;
-    const int m_port;
+    const int m_number;
     const UsbShape m_shape;
     const UsbfsSysfs m_sysfs;
     const std::filesystem::path m_root;

@@ -18,20 +18,45 @@ QByteArray hex(quint16 number, int digits)
 {
     return QByteArray::number(number, 16).rightJustified(digits, '0');
 }
+
+/// Devices have the numbers below.
+constexpr int firstHubNumber = 100;
+
+QByteArray hubDescription(const QByteArray &path, int deviceNumber)
+{
+    const QByteArray number = QByteArray::number(deviceNumber), digits = number.rightJustified(3, '0');
+    return "P: " + path + "\nE: SUBSYSTEM=usb\nE: DEVTYPE=usb_device\nE: BUSNUM=001\nE: DEVNUM=" + digits +
+           "\nE: DEVNAME=/dev/bus/usb/001/" + digits + "\nA: busnum=1\\n\nA: devnum=" + number +
+           "\\n\nA: bConfigurationValue=1\\n\nA: speed=480\\n\nH: descriptors=12010002090001406B1D0020150603020101"
+           "09021900010100E0000904000001090000000705810304000C\n";
+}
 } // namespace
 
-UsbfsSysfs::UsbfsSysfs(const QString &root, int port)
+UsbfsSysfs::UsbfsSysfs(const QString &root, int number)
     : m_sys(fs::path(root.toStdString()) / "sys")
-    , m_name(u"%1-%2"_s.arg(busNumber).arg(port))
+    , m_hub(number <= directDevices ? 0 : directDevices + 1 + (number - directDevices - 1) / portsOfHub)
+    , m_port(m_hub == 0 ? number : 1 + (number - directDevices - 1) % portsOfHub)
+    , m_name(m_hub == 0 ? u"%1-%2"_s.arg(busNumber).arg(m_port) : u"%1-%2.%3"_s.arg(busNumber).arg(m_hub).arg(m_port))
 {
+    Q_ASSERT(number <= mostDevices);
 }
 
 QByteArray UsbfsSysfs::rootHub()
 {
-    return "P: /devices/usb1\nE: SUBSYSTEM=usb\nE: DEVTYPE=usb_device\nE: BUSNUM=001\nE: DEVNUM=001\n"
-           "E: DEVNAME=/dev/bus/usb/001/001\nA: busnum=1\\n\nA: devnum=1\\n\nA: bConfigurationValue=1\\n\n"
-           "A: speed=480\\n\nH: descriptors=12010002090001406B1D0020150603020101"
-           "09021900010100E0000904000001090000000705810304000C\n";
+    return hubDescription("/devices/usb1", 1);
+}
+
+QByteArray UsbfsSysfs::hub() const
+{
+    return m_hub == 0 ? QByteArray()
+                      : hubDescription("/devices/usb1/1-" + QByteArray::number(m_hub), firstHubNumber + m_hub);
+}
+
+quint32 UsbfsSysfs::locationID() const
+{
+    const quint32 bus = static_cast<quint32>(busNumber) << 24;
+    return m_hub == 0 ? bus | static_cast<quint32>(m_port) << 20
+                      : bus | static_cast<quint32>(m_hub) << 20 | static_cast<quint32>(m_port) << 16;
 }
 
 QByteArray UsbfsSysfs::device(const ModelIdentity &identity, const UsbShape &shape, int deviceNumber) const
@@ -85,14 +110,16 @@ void UsbfsSysfs::showDriver(int interface, const QString &driver, const ModelIde
     fs::remove(folder / "driver");
     fs::remove(folder / "ieee1284_id");
     if (!driver.isEmpty())
-        fs::create_symlink("../../../../bus/usb/drivers/" + driver.toStdString(), folder / "driver");
+        fs::create_symlink((m_sys / "bus/usb/drivers" / driver.toStdString()).lexically_relative(folder),
+                           folder / "driver");
     if (driver == u"usblp" && identity.hasDeviceID)
         write(folder / "ieee1284_id", identity.deviceID());
 }
 
 QByteArray UsbfsSysfs::path() const
 {
-    return "/sys/devices/usb1/" + m_name.toUtf8();
+    return "/sys/devices/usb1/" + (m_hub == 0 ? QByteArray() : "1-" + QByteArray::number(m_hub) + '/') +
+           m_name.toUtf8();
 }
 
 QString UsbfsSysfs::nodePath(int deviceNumber)
@@ -102,6 +129,6 @@ QString UsbfsSysfs::nodePath(int deviceNumber)
 
 fs::path UsbfsSysfs::interfaceFolder(int interface) const
 {
-    const std::string device = m_name.toStdString();
-    return m_sys / "devices/usb1" / device / (device + ":1." + std::to_string(interface));
+    const std::string inSys = path().sliced(QByteArrayView("/sys/").size()).toStdString();
+    return m_sys / inSys / (m_name.toStdString() + ":1." + std::to_string(interface));
 }
