@@ -32,16 +32,6 @@ private Q_SLOTS:
         m_app.checkPcNetState();
     }
 
-    void ratesSignals()
-    {
-        QCOMPARE(WTApp::_qualityStringWithRSSI(std::numeric_limits<qint64>::min()), 0);
-        QCOMPARE(WTApp::_qualityStringWithRSSI(-100), 0);
-        QCOMPARE(WTApp::_qualityStringWithRSSI(-99), 2);
-        QCOMPARE(WTApp::_qualityStringWithRSSI(-51), 98);
-        QCOMPARE(WTApp::_qualityStringWithRSSI(-50), 100);
-        QCOMPARE(WTApp::_qualityStringWithRSSI(0), 100);
-    }
-
     void knowsTheJoinedNetwork()
     {
         const auto isJoined = [](const QString &name, qint64 security, const QString &joined, qint64 joinedSecurity) {
@@ -156,10 +146,8 @@ private Q_SLOTS:
         const auto steps = [](const char *list) { return QString::fromLatin1(list).split(u", "_s); };
         eachRow(
             {
-                {"stays", steps("join Quill House"), u"secret of Quill House"_s},
                 {"joins another", steps("join Next Door"), std::nullopt},
                 {"joins another, whose prompt is open", steps("join Next Door, fetch, ask"), std::nullopt},
-                {"joins an open one of the same name", steps("open Quill House"), std::nullopt},
                 {"comes back while another's prompt is open",
                  steps("join Next Door, fetch, ask, join Quill House, answer"), std::nullopt},
                 {"the network is open when the prompt is answered",

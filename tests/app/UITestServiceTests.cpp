@@ -22,7 +22,6 @@ private Q_SLOTS:
         eachRow(
             {
                 {"without UITest", {"printing", "passwordError"}, false, false, u""_s, u""_s},
-                {"not a whole argument", {"UITests"}, false, false, u""_s, u""_s},
                 {"UITest", {"UITest"}, true, false, right, {}},
                 {"printing", {"printing", "UITest"}, true, true, right, {}},
                 {"wrong password", {"UITest", "passwordError"}, true, false, wrong, {}},
@@ -52,25 +51,6 @@ private Q_SLOTS:
             qputenv("NETPrinterInfo", value);
             QVERIFY_THROWS_EXCEPTION(std::invalid_argument, WTUITestService::environmentDataForNet());
         }
-    }
-
-    void readsSwitches()
-    {
-        using Switch = std::pair<const char *, bool (*)()>;
-        for (const auto &[variable, isOn] : {Switch{"wifiConfig", WTUITestService::testWiFiConfig},
-                                             Switch{"wifiConfigFailure", WTUITestService::testWiFiConfigFailure},
-                                             Switch{"wifiConfigSuccess", WTUITestService::testWiFiConfigSuccess},
-                                             Switch{"WiFiError", WTUITestService::testWiFiError},
-                                             Switch{"UpdatingError", WTUITestService::testUpdatingError},
-                                             Switch{"NotInstallError", WTUITestService::testNotInstallError},
-                                             Switch{"OtherError", WTUITestService::testOtherError},
-                                             Switch{"ManualInstall", WTUITestService::testManualInstall}}) {
-            qputenv(variable, "yes");
-            QVERIFY2(!isOn(), variable);
-            qputenv(variable, "YES");
-            QVERIFY2(isOn(), variable);
-        }
-        QVERIFY(!WTUITestService::checkUITestValues(8));
     }
 };
 

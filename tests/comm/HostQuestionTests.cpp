@@ -27,7 +27,6 @@ private Q_SLOTS:
             {
                 {"two lines", u"echo 网络; echo two"_s, u"网络\ntwo\n"_s},
                 {"more than one read takes", u"head -c 60000 /dev/zero | tr '\\0' x"_s, QString(60000, u'x')},
-                {"failure after output", u"echo said; exit 3"_s, u"said\n"_s},
                 {"no UTF-8", u"printf '\\377\\376'"_s, std::nullopt},
             },
             [&](const QString &commandLine, const std::optional<QString> &output) {
@@ -54,19 +53,16 @@ private Q_SLOTS:
         eachRow(
             {
                 {"printing", u"QZ100"_s, printing, true, true},
-                {"idle", u"QZ100"_s, {queue("QZ100_USB", "3")}, false, false},
                 {"another printer is printing", u"QZ200"_s, printing, false, false},
                 {"the second queue is printing",
                  u"QZ100"_s,
                  {queue("QZ100_A", "3"), queue("QZ100_B", "4")},
                  true,
                  true},
-                {"name in another case", u"QZ100"_s, {queue("qz100_usb", "4")}, true, true},
                 {"spaces are removed from the type", u"Q Z 100"_s, {queue("QZ100", "4")}, true, true},
                 {"series is cut off", u"M1234 series"_s, {queue("M1234 USB", "4")}, true, true},
                 {"Series is not", u"M1234 Series"_s, {queue("M1234 USB", "4")}, false, false},
                 {"vendor in front, not in lower case", u"Quillmark QZ100"_s, printing, false, false},
-                {"vendor twice", u"quillmark quillmark QZ100"_s, printing, true, true},
                 {"nothing is left of the type", u"series"_s, printing, false, false},
                 {"queue name beyond ASCII", u"QZ100"_s, {queue("QZ100_\xE5\x8A\x9E", "4")}, false, false},
                 {"hyphen in the type only", u"QZ-100"_s, printing, false, true},

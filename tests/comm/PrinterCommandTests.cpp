@@ -45,7 +45,6 @@ private Q_SLOTS:
                 {"wrong echo", {.echo = 0xFF22}, none, unanswered},
                 {"silent", {.silent = true}, none, unanswered},
                 {"short header", {.cutAt = 10}, none, unanswered},
-                {"stalls the frame", {.stallOut = true}, none, unanswered},
                 {"unplugged in the reply", {.unplugIn = 8}, none, lost},
                 {"held by another", {}, held, lost},
                 {"not on the bus", {}, absent, lost},
@@ -99,10 +98,8 @@ private Q_SLOTS:
         eachRow(
             {
                 {"wake-up", Operation::WakeUp, 6},
-                {"capability", Operation::Capability, 60},
                 {"configuration", Operation::Configuration, 180},
                 {"address", Operation::Address, 60},
-                {"information page", Operation::InformationPage, 60},
             },
             [&](Operation operation, int seconds) {
                 m_bed.reset(scriptWith(operation, {.silent = true}));
@@ -125,27 +122,6 @@ private Q_SLOTS:
         const PrinterRecord told = m_bed.bus.record();
         QCOMPARE(told.networkName, networkName.toUtf8());
         QCOMPARE(told.password, networkPassword.toUtf8());
-    }
-
-    void findsPrintersOfBothVendorsUntilTheSearchEnds()
-    {
-        auto &manager = WTManager::shared();
-        ModelIdentity sister;
-        sister.vendorID = 0x6A1C;
-        const int second = m_bed.bus.addPrinter(PrinterModel(sister));
-        m_bed.bus.plug(second);
-        manager.wt_startDiscoverPrinter();
-        QVERIFY(m_bed.runUntil([&] { return manager.printerList().count() == 2; }));
-        QCOMPARE(manager.printerList().objectAtIndex(1)->usbObj->VID, 0x6A1C);
-        manager.wt_stopDiscoverPrinter();
-        const LogCollector log;
-        m_bed.bus.unplug(second);
-        m_bed.time.advance(1s);
-        manager.wt_startDiscoverPrinter();
-        QVERIFY(m_bed.runUntil([&] { return manager.printerList().count() == 1; }));
-        manager.wt_stopDiscoverPrinter();
-        // Only the search that was started anew has told of the change.
-        QCOMPARE(log.lines().filter(u"USB Printers count"_s).size(), 1);
     }
 
     void logsTheExchange()

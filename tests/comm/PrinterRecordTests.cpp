@@ -61,8 +61,6 @@ private Q_SLOTS:
                 {"dialect null", model(R"("supportWifi": 1, "isOldACL": null)"), name, true, true, false, 1},
                 {"beyond 32 bits", model(R"("supportWifi": 4294967296, "isOldACL": 4294967296)"), name, true, true,
                  false, 4294967296},
-                {"the first of two entries counts", model(R"("supportWifi": 0)") + ',' + plain, name, true, false,
-                 false, 0},
                 {"names that are no text never match", unnamed, name, false, false, false, {}},
             },
             [&](const QByteArray &entries, const QString &printerType, bool valid, bool wifi, bool oldAcl,
@@ -84,7 +82,6 @@ private Q_SLOTS:
                 {"missing", std::nullopt, CatalogueErrorCode::Unreadable},
                 {"cut short", R"({"printer_info": [)", CatalogueErrorCode::NotJson},
                 {"a megabyte of open brackets", QByteArray(1 << 20, '['), CatalogueErrorCode::NotJson},
-                {"an array", R"([{"device_name": "QZ100"}])", CatalogueErrorCode::WrongShape},
             },
             [&](const std::optional<QByteArray> &file, const CatalogueErrorCode &error) {
                 m_resources.removeCatalogue();
@@ -125,7 +122,6 @@ private Q_SLOTS:
             {
                 {"plain", u"AB12CD"_s, u"usb://Quillmark/QZ100%20series?serial=AB12CD"_s,
                  u"00000000-0000-4142-3132-4344"_s},
-                {"absent", std::nullopt, u"usb://Quillmark/QZ100%20series?serial=(null)"_s, std::nullopt},
                 {"to be encoded", u"%\"#Ω"_s, u"usb://Quillmark/QZ100%20series?serial=%25%22%23%CE%A9"_s,
                  u"00000000-0000-2522-233A9-"_s},
             },

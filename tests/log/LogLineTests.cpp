@@ -15,7 +15,6 @@ using namespace std::chrono_literals;
 
 namespace
 {
-
 /// 2026-03-09 08:05:07.089 in central Europe, standard time.
 constexpr std::chrono::system_clock::time_point winterMorning{std::chrono::milliseconds{1773039907089}};
 
@@ -78,8 +77,6 @@ private Q_SLOTS:
                 {"error", quint64{1}, head + u"\u274C"_s + place},
                 {"warning", quint64{2}, head + u"\u26A0\uFE0F 文本"_s},
                 {"info", quint64{4}, head + u"\U0001F7E2 文本"_s},
-                {"debug", quint64{8}, head + u"\U0001F468\U0001F3FB\U0001F4BB 文本"_s},
-                {"none", quint64{0}, head + u"(null) 文本"_s},
             },
             [&](quint64 flag, const QString &expected) {
                 QCOMPARE(WTLogFormatter().formatLogMessage(messageWith(flag, u"文本"_s)).value(), expected);

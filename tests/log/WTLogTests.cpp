@@ -1,12 +1,9 @@
 #include "Log.h"
 #include "RecordingLogger.h"
 #include "Rows.h"
-#include "WTAbstractLogger.h"
 
 #include <QSemaphore>
 #include <QTest>
-#include <thread>
-#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 

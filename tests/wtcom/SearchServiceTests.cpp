@@ -8,7 +8,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-
 using DeviceList = std::vector<WTCDevice>;
 
 class Delegate : public WTCServerDelegate
@@ -78,16 +77,6 @@ private Q_SLOTS:
         QVERIFY(isTold(5, 0));
         server.removeUSBSearchService();
         WTCServer::sharedWithDelegate(nullptr, 0, {}, {}, {});
-    }
-
-    void vendorsAreGivenAsText()
-    {
-        UsbTestBed bed;
-        WTCServer::usePorts(bed.port, bed.time);
-        WTCServer &server = WTCServer::shared();
-        server.registerUSBSearchServiceWithVIDs({u"0x6A1B"_s, u"no number"_s, u"0x12345"_s, u"0x6a1c"_s});
-        server.removeUSBSearchService();
-        QCOMPARE(server.vendorIDs(), (std::vector<quint16>{0x6A1B, 0x6A1C}));
     }
 };
 

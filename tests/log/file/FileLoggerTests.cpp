@@ -15,7 +15,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-
 constexpr double day = 24 * 60 * 60;
 
 /// A default manager that keeps what it is told.
@@ -82,7 +81,6 @@ private Q_SLOTS:
                 {"fresh", 99LL, 0.0, QByteArray(), true, false},
                 {"full", 1048576LL, 0.0, QByteArray(), false, true},
                 {"too old", 99LL, day, QByteArray(), false, true},
-                {"clock was set back", 99LL, -9 * day, QByteArray(), true, false},
                 {"archived", 99LL, 0.0, QByteArray("archived"), false, false},
                 {"a symbolic link", 99LL, 0.0, QByteArray("link"), false, false},
                 {"a pipe", 99LL, 0.0, QByteArray("pipe"), false, false},
@@ -184,20 +182,6 @@ private Q_SLOTS:
                     QTest::qWait(500);
                 QCOMPARE(manager->told().size(), rolls ? 1 : 0);
             });
-    }
-
-    void leavesAFileThatAnotherProcessArchived()
-    {
-        const LogBed bed;
-        const auto logger = loggerOf<WTFileLogger>(std::make_shared<WTLogFileManagerDefault>(bed.folder()));
-        logTo(logger, u"one"_s);
-        const QString first = bed.path(bed.names().first());
-        WTLogFileInfo(first).setIsArchived(true);
-        const QString second = logger->currentLogFileInfo().value().filePath();
-        QVERIFY(second != first);
-        logTo(logger, u"two"_s);
-        QCOMPARE(QFileInfo(first).size(), 4);
-        QCOMPARE(QFileInfo(second).size(), 4);
     }
 
     void endsWithoutArchiving()

@@ -1,5 +1,4 @@
 #include "LogBed.h"
-#include "LogFileNameDate.h"
 #include "PrivateMount.h"
 #include "Rows.h"
 #include "WTFileLogger.h"
@@ -12,9 +11,11 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QTest>
+#include <cerrno>
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -93,7 +94,35 @@ QStringList linesOf(const QByteArray &output)
     return QString::fromLatin1(output).split(u'\n', Qt::SkipEmptyParts);
 }
 
+std::atomic<int> lockRefusal = 0, locksAsked = 0, synchronizations = 0;
+std::atomic<bool> hasNoWatches = false;
+
+int refuse(int error)
+{
+    errno = error;
+    return -1;
+}
+
 } // namespace
+
+// In place of the C library's: the same calls of the system, which here are refused on command.
+
+extern "C" int flock(int descriptor, int operation) noexcept
+{
+    ++locksAsked;
+    return lockRefusal ? refuse(lockRefusal) : static_cast<int>(syscall(SYS_flock, descriptor, operation));
+}
+
+extern "C" int fsync(int descriptor)
+{
+    ++synchronizations;
+    return static_cast<int>(syscall(SYS_fsync, descriptor));
+}
+
+extern "C" int inotify_init1(int flags) noexcept
+{
+    return hasNoWatches ? refuse(EMFILE) : static_cast<int>(syscall(SYS_inotify_init1, flags));
+}
 
 /// Everything that may befall the folder, the file and the process, tried on real ones.
 class LogFaultsTests : public QObject
@@ -108,6 +137,12 @@ public:
 
 private Q_SLOTS:
     void initTestCase() { std::signal(SIGXFSZ, SIG_IGN); }
+
+    void cleanup()
+    {
+        lockRefusal = 0;
+        hasNoWatches = false;
+    }
 
     void fileGoesAway()
     {
@@ -276,6 +311,43 @@ private Q_SLOTS:
         QVERIFY(missing.size() >= after);
         missing.subtract(QSet<QString>(written.begin(), written.end()));
         QCOMPARE(missing, QSet<QString>());
+    }
+
+    void writesWithoutALock()
+    {
+        const LogBed bed;
+        lockRefusal = EOPNOTSUPP;
+        locksAsked = 0;
+        const BedLogger logger(bed);
+        QStringList logged;
+        for (int number = 0; number < 100; ++number)
+            logger.log(logged.emplace_back(QString::number(number)));
+        QCOMPARE(bed.lines(), logged);
+        QVERIFY2(locksAsked < 4, "the refusal is remembered");
+        QCOMPARE(bed.console().count(u'\n'), 1);
+    }
+
+    void noticesADeletionWithoutAWatch()
+    {
+        const LogBed bed;
+        hasNoWatches = true;
+        const BedLogger logger(bed);
+        for (const QString &text : {u"one"_s, u"two"_s, u"three"_s}) {
+            logger.log(text);
+            QCOMPARE(bed.lines(), QStringList(text));
+            QVERIFY(QFile::remove(bed.path(bed.names().first())));
+        }
+        QCOMPARE(bed.console().count(u"cannot be watched"_s), 1);
+    }
+
+    void flushesToTheDisk()
+    {
+        const LogBed bed;
+        const BedLogger logger(bed);
+        logger.log(u"one"_s);
+        synchronizations = 0;
+        WTLog::flushLog();
+        QVERIFY(synchronizations > 0);
     }
 
 private:

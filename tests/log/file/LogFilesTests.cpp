@@ -1,6 +1,5 @@
 #include "LogBed.h"
 #include "LogFileNameDate.h"
-#include "LogFolder.h"
 #include "Rows.h"
 #include "WTLogFileManager.h"
 

@@ -1,6 +1,5 @@
 #include "Rows.h"
 #include "SystemTime.h"
-#include "VirtualTime.h"
 
 #include <QTest>
 #include <atomic>

@@ -1,4 +1,5 @@
 #include "Palette.h"
+#include "Rows.h"
 #include "WTHoverView.h"
 
 #include <QAccessible>
@@ -9,7 +10,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-
 class CountingDelegate : public WTHoverViewDelegate
 {
 public:
@@ -42,98 +42,76 @@ class TileTests : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void choosingTellsTheDelegateElseTheTarget_data();
-    void choosingTellsTheDelegateElseTheTarget();
-    void bordersFollowChoiceAndPointer_data();
-    void bordersFollowChoiceAndPointer();
-    void isARadioButtonToScreenReaders();
-};
+    void choosingTellsTheDelegateElseTheTarget()
+    {
+        eachRow(
+            {
+                {"mouse", u"mouse"_s, true},
+                {"space", u"space"_s, true},
+                {"screen reader", u"screen reader"_s, true},
+                {"mouse released elsewhere", u"release outside"_s, false},
+            },
+            [&](const QString &how, bool chosen) {
+                WTHoverView alone(u"usb"_s, u"Title"_s, u"Help"_s);
+                alone.show();
+                QSignalSpy action(&alone, &QAbstractButton::clicked);
+                press(alone, how);
+                QCOMPARE(alone.isSelect(), chosen);
+                QCOMPARE(action.count(), chosen ? 1 : 0);
 
-void TileTests::choosingTellsTheDelegateElseTheTarget_data()
-{
-    QTest::addColumn<QString>("how");
-    QTest::addColumn<bool>("chosen");
-
-    QTest::newRow("mouse") << u"mouse"_s << true;
-    QTest::newRow("space") << u"space"_s << true;
-    QTest::newRow("return") << u"return"_s << true;
-    QTest::newRow("screen reader") << u"screen reader"_s << true;
-    QTest::newRow("mouse released elsewhere") << u"release outside"_s << false;
-}
-
-void TileTests::choosingTellsTheDelegateElseTheTarget()
-{
-    QFETCH(QString, how);
-    QFETCH(bool, chosen);
-
-    WTHoverView alone(u"usb"_s, u"Title"_s, u"Help"_s);
-    alone.show();
-    QSignalSpy action(&alone, &QAbstractButton::clicked);
-    press(alone, how);
-    QCOMPARE(alone.isSelect(), chosen);
-    QCOMPARE(action.count(), chosen ? 1 : 0);
-
-    CountingDelegate delegate;
-    WTHoverView tile(u"usb"_s, u"Title"_s, u"Help"_s);
-    tile.setDelegate(&delegate);
-    tile.show();
-    QSignalSpy unused(&tile, &QAbstractButton::clicked);
-    press(tile, how);
-    QCOMPARE(tile.isSelect(), chosen);
-    QCOMPARE(delegate.chosen, chosen ? QList{&tile} : QList<WTHoverView *>());
-    QCOMPARE(unused.count(), 0);
-}
-
-void TileTests::bordersFollowChoiceAndPointer_data()
-{
-    QTest::addColumn<bool>("reacts");
-    QTest::addColumn<bool>("selected");
-    QTest::addColumn<bool>("pointerOver");
-    QTest::addColumn<QColor>("border");
-    QTest::addColumn<QColor>("innerBorder");
-
-    QTest::newRow("at rest") << true << false << false << Palette::lightBlue << Palette::white;
-    QTest::newRow("pointer over") << true << false << true << Palette::focusBlue << Palette::white;
-    QTest::newRow("selected") << true << true << false << Palette::lightBlue << Palette::focusBlue;
-    QTest::newRow("selected, pointer over") << true << true << true << Palette::lightBlue << Palette::focusBlue;
-    QTest::newRow("pointer ignored") << false << false << true << Palette::lightBlue << Palette::white;
-}
-
-void TileTests::bordersFollowChoiceAndPointer()
-{
-    QFETCH(bool, reacts);
-    QFETCH(bool, selected);
-    QFETCH(bool, pointerOver);
-    WTHoverView tile(u"usb"_s, u"Title"_s, u"Help"_s);
-    tile.setIsHover(reacts);
-    tile.setIsSelect(selected);
-    if (pointerOver) {
-        QEnterEvent enter({}, {}, {});
-        QCoreApplication::sendEvent(&tile, &enter);
+                CountingDelegate delegate;
+                WTHoverView tile(u"usb"_s, u"Title"_s, u"Help"_s);
+                tile.setDelegate(&delegate);
+                tile.show();
+                QSignalSpy unused(&tile, &QAbstractButton::clicked);
+                press(tile, how);
+                QCOMPARE(tile.isSelect(), chosen);
+                QCOMPARE(delegate.chosen, chosen ? QList{&tile} : QList<WTHoverView *>());
+                QCOMPARE(unused.count(), 0);
+            });
     }
-    QTEST(tile.borderColor(), "border");
-    QTEST(tile.cLayerColor(), "innerBorder");
-    QCOMPARE(tile.bLayerColor(), selected ? Palette::lightBlue : Palette::white);
-    QCOMPARE(tile.radioImageName(), selected ? u"icon_selected"_s : u"icon_select_bg"_s);
 
-    // A tile that is not selected and does not react to the pointer keeps its border as it is.
-    tile.setIsHover(false);
-    tile.setIsSelect(false);
-    QTEST(tile.borderColor(), "border");
-}
+    void bordersFollowChoiceAndPointer()
+    {
+        eachRow(
+            {
+                {"at rest", true, false, false, Palette::lightBlue, Palette::white},
+                {"pointer over", true, false, true, Palette::focusBlue, Palette::white},
+                {"selected", true, true, false, Palette::lightBlue, Palette::focusBlue},
+            },
+            [&](bool reacts, bool selected, bool pointerOver, const QColor &border, const QColor &innerBorder) {
+                WTHoverView tile(u"usb"_s, u"Title"_s, u"Help"_s);
+                tile.setIsHover(reacts);
+                tile.setIsSelect(selected);
+                if (pointerOver) {
+                    QEnterEvent enter({}, {}, {});
+                    QCoreApplication::sendEvent(&tile, &enter);
+                }
+                QCOMPARE(tile.borderColor(), border);
+                QCOMPARE(tile.cLayerColor(), innerBorder);
+                QCOMPARE(tile.bLayerColor(), selected ? Palette::lightBlue : Palette::white);
+                QCOMPARE(tile.radioImageName(), selected ? u"icon_selected"_s : u"icon_select_bg"_s);
 
-void TileTests::isARadioButtonToScreenReaders()
-{
-    WTHoverView tile(u"usb"_s, u"USB cable"_s, u"For the first time."_s);
-    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&tile);
-    QVERIFY(interface);
-    QCOMPARE(interface->role(), QAccessible::RadioButton);
-    QCOMPARE(interface->text(QAccessible::Name), u"USB cable"_s);
-    QCOMPARE(interface->text(QAccessible::Description), u"For the first time."_s);
-    QVERIFY(!interface->state().checked);
-    tile.setIsSelect(true);
-    QVERIFY(interface->state().checkable && interface->state().checked && interface->state().focusable);
-}
+                // A tile that is not selected and does not react to the pointer keeps its border as it is.
+                tile.setIsHover(false);
+                tile.setIsSelect(false);
+                QCOMPARE(tile.borderColor(), border);
+            });
+    }
+
+    void isARadioButtonToScreenReaders()
+    {
+        WTHoverView tile(u"usb"_s, u"USB cable"_s, u"For the first time."_s);
+        QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&tile);
+        QVERIFY(interface);
+        QCOMPARE(interface->role(), QAccessible::RadioButton);
+        QCOMPARE(interface->text(QAccessible::Name), u"USB cable"_s);
+        QCOMPARE(interface->text(QAccessible::Description), u"For the first time."_s);
+        QVERIFY(!interface->state().checked);
+        tile.setIsSelect(true);
+        QVERIFY(interface->state().checkable && interface->state().checked && interface->state().focusable);
+    }
+};
 
 QTEST_MAIN(TileTests)
 #include "TileTests.moc"

@@ -150,119 +150,113 @@ class FaultMatrixTests : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void run_data();
-    void run();
-    void cleanupTestCase();
+    void initTestCase()
+    {
+        m_usb->bus.addPrinter();
+        // The first run makes what a process keeps until its end; the figures are taken after it.
+        walk({.name = "no fault"}, Entry::List);
+        walk({.name = "no fault"}, Entry::Manual);
+        m_usb->bus.unplug();
+        m_descriptors = descriptorsWithoutScannerLocks();
+        m_threads = ProcessFigures::threads();
+    }
+
+    void run_data()
+    {
+        QTest::addColumn<FaultCase>("faultCase");
+        QTest::addColumn<Entry>("entry");
+
+        int rows = 0;
+        const auto addRow = [&rows](const FaultCase &faultCase, Entry entry) {
+            const char *screen = entry == Entry::List ? "list" : "manual";
+            QTest::addRow("%d, %s, %s", ++rows, screen, faultCase.name.constData()) << faultCase << entry;
+        };
+        if (wantedRuns() == 0) {
+            for (const FaultCase &faultCase : FaultMatrix::everyPlace()) {
+                const bool byHand = faultCase.place == FaultPlace::InformationPage || rows % 2 == 0;
+                addRow(faultCase, byHand ? Entry::Manual : Entry::List);
+            }
+            return;
+        }
+        while (rows < wantedRuns()) {
+            for (const FaultCase &faultCase : FaultMatrix::everyAttempt()) {
+                addRow(faultCase, Entry::Manual);
+                if (faultCase.place != FaultPlace::InformationPage)
+                    addRow(faultCase, Entry::List);
+            }
+        }
+    }
+
+    void run()
+    {
+        QFETCH(FaultCase, faultCase);
+        QFETCH(Entry, entry);
+        walk(faultCase, entry);
+        m_usb->bus.unplug();
+        // The emulated bus closes its end of a connection a little later, and a worker may not have ended yet, now or
+        // when the first figures were taken. So the least that was ever seen counts.
+        QTRY_VERIFY2(
+            descriptorsWithoutScannerLocks().size() <= m_descriptors.size(),
+            qPrintable(u"%1\nbefore: %2"_s.arg(ProcessFigures::descriptors().join(u' '), m_descriptors.join(u' '))));
+        m_descriptors = descriptorsWithoutScannerLocks();
+        QTRY_VERIFY(ProcessFigures::threads() <= m_threads);
+        m_threads = ProcessFigures::threads();
+        // The cache of pictures has a limit of its own, so what it holds is no leak.
+        QPixmapCache::clear();
+        m_heap.push_back(ProcessFigures::heap());
+    }
+
+    void cleanupTestCase()
+    {
+        if (m_heap.size() < runsUntilSettled)
+            return;
+        const std::size_t settled = m_heap[m_heap.size() / 2];
+        const auto growth = (qint64(m_heap.back()) - qint64(settled)) / qint64(m_heap.size() - m_heap.size() / 2);
+        qInfo("%zu runs; descriptors %lld, threads %d before and after; heap %zu, %zu, %zu KiB after the first, the "
+              "middle "
+              "and the last, %lld bytes a run in the second half",
+              m_heap.size(), qint64(m_descriptors.size()), m_threads, m_heap.front() / 1024, settled / 1024,
+              m_heap.back() / 1024, qint64(growth));
+        QVERIFY(growth < bytesThatARunMayKeep);
+    }
 
 private:
-    void walk(const FaultCase &faultCase, Entry entry);
+    void walk(const FaultCase &faultCase, Entry entry)
+    {
+        m_usb->bus.replacePrinter(PrinterModel({.model = u"QZ200"_s}));
+        m_usb->bus.plug();
+        Person person(m_usb, entry);
+        ListBed &bed = person.bed();
+        person.reachEntryScreen();
+        bed.bus().setScript(faultCase.script);
+        // A fault before the first frame must have happened before the run begins.
+        bool isOver = false;
+        const auto pause = bed.time().after(2s, [&isOver] { isOver = true; });
+        QVERIFY(bed.waitFor([&isOver] { return isOver; }));
+        if (faultCase.place == FaultPlace::InformationPage)
+            QVERIFY(person.askForInformationPage().startsWith(u"已将无线网络信息页发送给打印机"_s));
+        for (int refusal = 0; refusal < faultCase.refusals; ++refusal) {
+            QVERIFY(person.run());
+            QCOMPARE(person.seen(), expectedAt(Ending::ConfigFailed));
+            person.goBack();
+        }
+        QVERIFY(person.run());
+        QCOMPARE(person.seen(), expectedAt(faultCase.ending));
+        if (faultCase.ending == Ending::Complete) {
+            QCOMPARE(bed.bus().record().networkName, networkName.toUtf8());
+            QCOMPARE(bed.bus().record().password, "secret of Home");
+        }
+        bed.bus().release();
+        QVERIFY(bed.waitFor([] { return SendWorkers::shared().isIdle(); }));
+        QCOMPARE(bed.bus().claims(), 0);
+        QCOMPARE(bed.bus().boundDriver(), bed.bus().isPlugged() ? u"usblp"_s : QString());
+    }
 
     const std::shared_ptr<UsbTestBed> m_usb = std::make_shared<UsbTestBed>();
     QStringList m_descriptors;
     int m_threads = 0;
     std::vector<std::size_t> m_heap; ///< After each run.
 };
-
-void FaultMatrixTests::initTestCase()
-{
-    m_usb->bus.addPrinter();
-    // The first run makes what a process keeps until its end; the figures are taken after it.
-    walk({.name = "no fault"}, Entry::List);
-    walk({.name = "no fault"}, Entry::Manual);
-    m_usb->bus.unplug();
-    m_descriptors = descriptorsWithoutScannerLocks();
-    m_threads = ProcessFigures::threads();
-}
-
-void FaultMatrixTests::run_data()
-{
-    QTest::addColumn<FaultCase>("faultCase");
-    QTest::addColumn<Entry>("entry");
-
-    int rows = 0;
-    const auto addRow = [&rows](const FaultCase &faultCase, Entry entry) {
-        const char *screen = entry == Entry::List ? "list" : "manual";
-        QTest::addRow("%d, %s, %s", ++rows, screen, faultCase.name.constData()) << faultCase << entry;
-    };
-    if (wantedRuns() == 0) {
-        for (const FaultCase &faultCase : FaultMatrix::everyPlace()) {
-            const bool byHand = faultCase.place == FaultPlace::InformationPage || rows % 2 == 0;
-            addRow(faultCase, byHand ? Entry::Manual : Entry::List);
-        }
-        return;
-    }
-    while (rows < wantedRuns()) {
-        for (const FaultCase &faultCase : FaultMatrix::everyAttempt()) {
-            addRow(faultCase, Entry::Manual);
-            if (faultCase.place != FaultPlace::InformationPage)
-                addRow(faultCase, Entry::List);
-        }
-    }
-}
-
-void FaultMatrixTests::walk(const FaultCase &faultCase, Entry entry)
-{
-    m_usb->bus.replacePrinter(PrinterModel({.model = u"QZ200"_s}));
-    m_usb->bus.plug();
-    Person person(m_usb, entry);
-    ListBed &bed = person.bed();
-    person.reachEntryScreen();
-    bed.bus().setScript(faultCase.script);
-    // A fault before the first frame must have happened before the run begins.
-    bool isOver = false;
-    const auto pause = bed.time().after(2s, [&isOver] { isOver = true; });
-    QVERIFY(bed.waitFor([&isOver] { return isOver; }));
-    if (faultCase.place == FaultPlace::InformationPage)
-        QVERIFY(person.askForInformationPage().startsWith(u"已将无线网络信息页发送给打印机"_s));
-    for (int refusal = 0; refusal < faultCase.refusals; ++refusal) {
-        QVERIFY(person.run());
-        QCOMPARE(person.seen(), expectedAt(Ending::ConfigFailed));
-        person.goBack();
-    }
-    QVERIFY(person.run());
-    QCOMPARE(person.seen(), expectedAt(faultCase.ending));
-    if (faultCase.ending == Ending::Complete) {
-        QCOMPARE(bed.bus().record().networkName, networkName.toUtf8());
-        QCOMPARE(bed.bus().record().password, "secret of Home");
-    }
-    bed.bus().release();
-    QVERIFY(bed.waitFor([] { return SendWorkers::shared().isIdle(); }));
-    QCOMPARE(bed.bus().claims(), 0);
-    QCOMPARE(bed.bus().boundDriver(), bed.bus().isPlugged() ? u"usblp"_s : QString());
-}
-
-void FaultMatrixTests::run()
-{
-    QFETCH(FaultCase, faultCase);
-    QFETCH(Entry, entry);
-    walk(faultCase, entry);
-    m_usb->bus.unplug();
-    // The emulated bus closes its end of a connection a little later, and a worker may not have ended yet, now or when
-    // the first figures were taken. So the least that was ever seen counts.
-    QTRY_VERIFY2(
-        descriptorsWithoutScannerLocks().size() <= m_descriptors.size(),
-        qPrintable(u"%1\nbefore: %2"_s.arg(ProcessFigures::descriptors().join(u' '), m_descriptors.join(u' '))));
-    m_descriptors = descriptorsWithoutScannerLocks();
-    QTRY_VERIFY(ProcessFigures::threads() <= m_threads);
-    m_threads = ProcessFigures::threads();
-    // The cache of pictures has a limit of its own, so what it holds is no leak.
-    QPixmapCache::clear();
-    m_heap.push_back(ProcessFigures::heap());
-}
-
-void FaultMatrixTests::cleanupTestCase()
-{
-    if (m_heap.size() < runsUntilSettled)
-        return;
-    const std::size_t settled = m_heap[m_heap.size() / 2];
-    const auto growth = (qint64(m_heap.back()) - qint64(settled)) / qint64(m_heap.size() - m_heap.size() / 2);
-    qInfo("%zu runs; descriptors %lld, threads %d before and after; heap %zu, %zu, %zu KiB after the first, the middle "
-          "and the last, %lld bytes a run in the second half",
-          m_heap.size(), qint64(m_descriptors.size()), m_threads, m_heap.front() / 1024, settled / 1024,
-          m_heap.back() / 1024, qint64(growth));
-    QVERIFY(growth < bytesThatARunMayKeep);
-}
 
 QTEST_MAIN(FaultMatrixTests)
 #include "FaultMatrixTests.moc"

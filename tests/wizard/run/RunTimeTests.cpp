@@ -1,6 +1,7 @@
 #include "InfoList.h"
 #include "Localized.h"
 #include "LogCollector.h"
+#include "Rows.h"
 #include "RunBed.h"
 #include "WTManager.h"
 #include "WTProgressView.h"
@@ -14,7 +15,6 @@ using namespace EmulatedCommand;
 
 namespace
 {
-
 const auto networkName = u"Home 网络"_s;
 const auto password = u"correct horse"_s;
 
@@ -26,131 +26,90 @@ class RunTimeTests : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void asksSevenTimesTwoSecondsApart();
-    void countsProgressFromTheFirstSend();
-    void secondProgressTimerSurvivesTheEnd();
-    void saysSoWhereARunWaitsForEver_data();
-    void saysSoWhereARunWaitsForEver();
+    void initTestCase() { InfoList::setResourceFolder(QStringLiteral(WT_RESOURCE_FOLDER)); }
+
+    void asksSevenTimesTwoSecondsApart()
+    {
+        LogCollector log;
+        RunBed bed(m_time, {.addressTime = 3600s});
+        const WTPrinterPtr printer = bed.findPrinter();
+        QCOMPARE(printer->wifiCode, 1);
+        bed.push(printer, networkName, password);
+        QVERIFY(bed.waitFor([&] { return bed.sends(Configuration) == 1; }));
+        const TimePort::Instant sent = m_time.now();
+        QCOMPARE(bed.screenAtEnd(), &bed.failed());
+
+        // Five seconds of the command's own pause, and one pause after each of seven failed answers.
+        const auto waited = m_time.now() - sent;
+        QVERIFY2(waited >= 19s && waited < 20s, QByteArray::number(qint64(waited / 1ms)));
+        QCOMPARE(bed.bus().record().commands(), (std::vector<quint16>{WakeUp, Configuration, Address, Address, Address,
+                                                                      Address, Address, Address, Address}));
+        QVERIFY(!bed.failed().showInterfaceError());
+        QCOMPARE(log.firstMissing({u"info: Support Wi-Fi Config"_s, u"info: 🏷：7"_s, u"error: Too many times"_s,
+                                   u"info: 🏷 result：5"_s, u"info: go to 👉🏻WTFailedView"_s}),
+                 QString());
+    }
+
+    void countsProgressFromTheFirstSend()
+    {
+        RunBed bed(m_time, {.joinTime = 60s});
+        std::vector<std::pair<TimePort::Instant, int>> shown;
+        connect(&bed.run(), &WTConfigurationRun::progressChanged, this,
+                [&](int progress) { shown.emplace_back(m_time.now(), progress); });
+        const auto *bar = bed.installing().findChild<WTProgressView *>(u"progressView"_s);
+        bed.push(bed.findPrinter(), networkName, password);
+        QVERIFY(bed.waitFor([&] { return bar->progress() == 100; }));
+
+        const auto first = std::ranges::find_if(shown, [](const auto &entry) { return entry.second == 1; }) - 1;
+        QCOMPARE(first->second, 0);
+        QCOMPARE(shown.end() - first, 101);
+        for (int progress = 0; progress <= 100; ++progress) {
+            QCOMPARE(first[progress].second, progress);
+            QCOMPARE((first[progress].first - first->first) / 1ms, progress * 200);
+        }
+        QCOMPARE(bed.screen(), &bed.installing());
+        QCOMPARE(bed.screenAtEnd(), &bed.complete());
+    }
+
+    void saysSoWhereARunWaitsForEver()
+    {
+        using Commands = std::vector<quint16>;
+        eachRow(
+            {
+                {"configuration never sent", 1, u"  "_s, QByteArray(), Commands{WakeUp},
+                 u"sending the configuration"_s},
+                {"address data too short", 1, networkName, QByteArray("192.168.1.7"),
+                 Commands{WakeUp, Configuration, Address}, u"waiting for the printer's address"_s},
+            },
+            [&](int wifiCode, const QString &name, const QByteArray &addressData, const std::vector<quint16> &commands,
+                const QString &step) {
+                PrinterScript script;
+                if (!addressData.isEmpty())
+                    script.faults.push_back({.command = Address, .data = addressData});
+                LogCollector log;
+                RunBed bed(m_time, script);
+                const WTPrinterPtr printer = bed.findPrinter();
+                printer->wifiCode = wifiCode;
+                const auto *line = bed.installing().findChild<QLabel *>(u"progressLabel"_s);
+                TimePort::Instant lastStep;
+                connect(&bed.run(), &WTConfigurationRun::stepChanged, this, [&] { lastStep = m_time.now(); });
+                bed.push(printer, name, password);
+
+                QVERIFY(bed.waitFor([&] { return WTManager::shared().closeEnable() == WTManager::CloseIgnored; }));
+                QVERIFY(bed.waitFor([&] { return WTManager::shared().closeEnable() == WTManager::CloseAsks; }));
+                QCOMPARE((m_time.now() - lastStep) / 1ms, 240'000);
+                QCOMPARE(line->text(), localized(u"打印机没有应答，您现在可以关闭此窗口。"_s));
+                QVERIFY(log.lines().contains(u"error: No step for 240 seconds: "_s + step));
+                m_time.advance(600s);
+                QCoreApplication::processEvents();
+                QCOMPARE(bed.screen(), &bed.installing());
+                QCOMPARE(bed.bus().record().commands(), commands);
+            });
+    }
 
 private:
     VirtualTime m_time;
 };
-
-void RunTimeTests::initTestCase()
-{
-    InfoList::setResourceFolder(QStringLiteral(WT_RESOURCE_FOLDER));
-}
-
-void RunTimeTests::asksSevenTimesTwoSecondsApart()
-{
-    LogCollector log;
-    RunBed bed(m_time, {.addressTime = 3600s});
-    const WTPrinterPtr printer = bed.findPrinter();
-    QCOMPARE(printer->wifiCode, 1);
-    bed.push(printer, networkName, password);
-    QVERIFY(bed.waitFor([&] { return bed.sends(Configuration) == 1; }));
-    const TimePort::Instant sent = m_time.now();
-    QCOMPARE(bed.screenAtEnd(), &bed.failed());
-
-    // Five seconds of the command's own pause, and one pause after each of seven failed answers.
-    const auto waited = m_time.now() - sent;
-    QVERIFY2(waited >= 19s && waited < 20s, QByteArray::number(qint64(waited / 1ms)));
-    QCOMPARE(bed.bus().record().commands(), (std::vector<quint16>{WakeUp, Configuration, Address, Address, Address,
-                                                                  Address, Address, Address, Address}));
-    QVERIFY(!bed.failed().showInterfaceError());
-    QCOMPARE(log.firstMissing({u"info: Support Wi-Fi Config"_s, u"info: 🏷：7"_s, u"error: Too many times"_s,
-                               u"info: 🏷 result：5"_s, u"info: go to 👉🏻WTFailedView"_s}),
-             QString());
-}
-
-void RunTimeTests::countsProgressFromTheFirstSend()
-{
-    RunBed bed(m_time, {.joinTime = 60s});
-    std::vector<std::pair<TimePort::Instant, int>> shown;
-    connect(&bed.run(), &WTConfigurationRun::progressChanged, this,
-            [&](int progress) { shown.emplace_back(m_time.now(), progress); });
-    const auto *bar = bed.installing().findChild<WTProgressView *>(u"progressView"_s);
-    bed.push(bed.findPrinter(), networkName, password);
-    QVERIFY(bed.waitFor([&] { return bar->progress() == 100; }));
-
-    const auto first = std::ranges::find_if(shown, [](const auto &entry) { return entry.second == 1; }) - 1;
-    QCOMPARE(first->second, 0);
-    QCOMPARE(shown.end() - first, 101);
-    for (int progress = 0; progress <= 100; ++progress) {
-        QCOMPARE(first[progress].second, progress);
-        QCOMPARE((first[progress].first - first->first) / 1ms, progress * 200);
-    }
-    QCOMPARE(bed.screen(), &bed.installing());
-    QCOMPARE(bed.screenAtEnd(), &bed.complete());
-}
-
-void RunTimeTests::secondProgressTimerSurvivesTheEnd()
-{
-    RunBed bed(m_time, {.faults = {{.command = Configuration, .silent = true}}});
-    bed.push(bed.findPrinter(), networkName, password);
-    QVERIFY(bed.waitFor([&] { return bed.run().progress() == 10; }));
-    bed.installing().confingWiFiStart();
-    QVERIFY(bed.waitFor([&] { return bed.run().progress() == 20; }));
-    bed.installing().closeTimer(0);
-    QCOMPARE(bed.screen(), &bed.failed());
-    QCOMPARE(bed.run().progress(), 100);
-    // The first timer counts on as if nothing had happened, up to its own end.
-    QVERIFY(bed.waitFor([&] { return bed.run().progress() == 30; }));
-    QVERIFY(bed.waitFor([&] { return bed.run().progress() == 100; }));
-    bed.installing().setProgress(0);
-    const TimePort::Instant full = m_time.now();
-    QVERIFY(bed.waitFor([&] { return m_time.now() > full + 10s; }));
-    QCOMPARE(bed.run().progress(), 0);
-}
-
-void RunTimeTests::saysSoWhereARunWaitsForEver_data()
-{
-    QTest::addColumn<int>("wifiCode");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("addressData");
-    QTest::addColumn<std::vector<quint16>>("commands");
-    QTest::addColumn<QString>("step");
-
-    using Commands = std::vector<quint16>;
-    QTest::newRow("support 0") << 0 << networkName << QByteArray() << Commands{WakeUp}
-                               << u"checking the printer's Wi-Fi capability"_s;
-    QTest::newRow("configuration never sent")
-        << 1 << u"  "_s << QByteArray() << Commands{WakeUp} << u"sending the configuration"_s;
-    QTest::newRow("address data too short")
-        << 1 << networkName << QByteArray("192.168.1.7") << Commands{WakeUp, Configuration, Address}
-        << u"waiting for the printer's address"_s;
-}
-
-void RunTimeTests::saysSoWhereARunWaitsForEver()
-{
-    QFETCH(int, wifiCode);
-    QFETCH(QString, name);
-    QFETCH(QByteArray, addressData);
-    QFETCH(QString, step);
-
-    PrinterScript script;
-    if (!addressData.isEmpty())
-        script.faults.push_back({.command = Address, .data = addressData});
-    LogCollector log;
-    RunBed bed(m_time, script);
-    const WTPrinterPtr printer = bed.findPrinter();
-    printer->wifiCode = wifiCode;
-    const auto *line = bed.installing().findChild<QLabel *>(u"progressLabel"_s);
-    TimePort::Instant lastStep;
-    connect(&bed.run(), &WTConfigurationRun::stepChanged, this, [&] { lastStep = m_time.now(); });
-    bed.push(printer, name, password);
-
-    QVERIFY(bed.waitFor([&] { return WTManager::shared().closeEnable() == WTManager::CloseIgnored; }));
-    QVERIFY(bed.waitFor([&] { return WTManager::shared().closeEnable() == WTManager::CloseAsks; }));
-    QCOMPARE((m_time.now() - lastStep) / 1ms, 240'000);
-    QCOMPARE(line->text(), localized(u"打印机没有应答，您现在可以关闭此窗口。"_s));
-    QVERIFY(log.lines().contains(u"error: No step for 240 seconds: "_s + step));
-    m_time.advance(600s);
-    QCoreApplication::processEvents();
-    QCOMPARE(bed.screen(), &bed.installing());
-    QTEST(bed.bus().record().commands(), "commands");
-}
 
 QTEST_MAIN(RunTimeTests)
 #include "RunTimeTests.moc"

@@ -54,21 +54,19 @@ class WpsProcessEndTests : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void endsAtOnceWithTheLogWritten();
+    void endsAtOnceWithTheLogWritten()
+    {
+        QProcess child;
+        child.start(QCoreApplication::applicationFilePath(), {asChild});
+        QVERIFY(child.waitForFinished());
+        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(child.exitCode(), 0);
+        QStringList lines;
+        for (int line = 0; line < lineCount; ++line)
+            lines << u"line %1"_s.arg(line);
+        QCOMPARE(QString::fromUtf8(child.readAllStandardOutput()).trimmed().split(u'\n'), lines);
+    }
 };
-
-void WpsProcessEndTests::endsAtOnceWithTheLogWritten()
-{
-    QProcess child;
-    child.start(QCoreApplication::applicationFilePath(), {asChild});
-    QVERIFY(child.waitForFinished());
-    QCOMPARE(child.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(child.exitCode(), 0);
-    QStringList lines;
-    for (int line = 0; line < lineCount; ++line)
-        lines << u"line %1"_s.arg(line);
-    QCOMPARE(QString::fromUtf8(child.readAllStandardOutput()).trimmed().split(u'\n'), lines);
-}
 
 int main(int argc, char **argv)
 {
