@@ -38,8 +38,10 @@ endfunction()
 # The rule above for a test of any other making (a script that prints the same totals line).
 function(wt_judge_by_totals name)
   cmake_parse_arguments(TEST "" "TIMEOUT" "ENVIRONMENT;LABELS" ${ARGN})
+  # Those that may take longest begin first, so that none is left running alone.
   set_tests_properties(${name} PROPERTIES
     TIMEOUT ${TEST_TIMEOUT}
+    COST ${TEST_TIMEOUT}
     LABELS "${TEST_LABELS}"
     PASS_REGULAR_EXPRESSION "Totals: [1-9][0-9]* passed, 0 failed"
     FAIL_REGULAR_EXPRESSION

@@ -18,6 +18,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
+
 const QString probeArgument = u"--tell-language"_s;
 
 /// What the program does when it is started as the child process of the locale test: it prints what it made of its

@@ -9,6 +9,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
+
 QByteArray bytes(const char *hex)
 {
     return QByteArray::fromHex(hex);

@@ -14,6 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
+
 WTCDevice device(const QString &type, quint32 locationID)
 {
     return {.printerType = type,

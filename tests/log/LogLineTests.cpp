@@ -15,6 +15,7 @@ using namespace std::chrono_literals;
 
 namespace
 {
+
 /// 2026-03-09 08:05:07.089 in central Europe, standard time.
 constexpr std::chrono::system_clock::time_point winterMorning{std::chrono::milliseconds{1773039907089}};
 

@@ -14,6 +14,7 @@ using namespace std::chrono_literals;
 
 namespace
 {
+
 /// One thing that a person does at the keyboard, and the screen that shows then.
 struct Stroke {
     const char *widget;         ///< Reached by Tab first; null: the keyboard stays where it is.

@@ -8,6 +8,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
+
 using DeviceList = std::vector<WTCDevice>;
 
 class Delegate : public WTCServerDelegate

@@ -17,6 +17,7 @@ using Step = PermissionAnswer::Step;
 
 namespace
 {
+
 constexpr qint64 wpa2OfThePlatform = 4;
 
 WTC_WLAN network(const QString &name, qint64 security = 7)

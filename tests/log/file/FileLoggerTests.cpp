@@ -15,6 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
+
 constexpr double day = 24 * 60 * 60;
 
 /// A default manager that keeps what it is told.

@@ -22,6 +22,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
+
 /// A logger without a formatter in the bed's folder, registered while this lives.
 class BedLogger
 {

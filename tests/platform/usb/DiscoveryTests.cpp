@@ -5,6 +5,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
+
 const std::vector<quint16> ourVendors{0x6A1B, 0x6A1C};
 
 enum class Access { Free, Denied, Held };

@@ -9,6 +9,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
+
 /// The size of a reply's data, and the sizes of the transfers that the reply comes in.
 using SlicedReply = std::pair<int, std::vector<qsizetype>>;
 

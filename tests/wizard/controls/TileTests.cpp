@@ -10,6 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
+
 class CountingDelegate : public WTHoverViewDelegate
 {
 public:

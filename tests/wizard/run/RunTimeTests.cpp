@@ -15,6 +15,7 @@ using namespace EmulatedCommand;
 
 namespace
 {
+
 const auto networkName = u"Home 网络"_s;
 const auto password = u"correct horse"_s;
 
