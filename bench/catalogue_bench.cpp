@@ -2,6 +2,7 @@
 /// table.
 #include "ModelCatalogue.h"
 #include "Samples.h"
+#include "timesToRepeat.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -13,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 
-constexpr std::size_t rounds = 21;
+const std::size_t rounds = timesToRepeat(21);
 
 QString modelName(int number)
 {

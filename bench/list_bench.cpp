@@ -11,17 +11,20 @@
 #include "WTManager.h"
 #include "WTWiFiListView.h"
 #include "WTWindow.h"
+#include "timesToRepeat.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QScrollBar>
 #include <cstdio>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace
 {
 
-constexpr std::size_t rounds = 51, scrollSteps = 200;
+const std::size_t rounds = timesToRepeat(51), scrollSteps = timesToRepeat(200);
 
 /// Counts how often a widget was painted.
 class PaintCounter : public QObject
@@ -39,11 +42,12 @@ protected:
     }
 };
 
-std::vector<VisibleNetwork> networks(int count)
+/// Other names in each round, so that the rows change whenever a search ends.
+std::vector<VisibleNetwork> networks(int count, std::size_t round)
 {
     std::vector<VisibleNetwork> made;
     for (int number = 0; number < count; ++number)
-        made.push_back({u"Network %1 of the house"_s.arg(number), number % 14, 100 - number % 100});
+        made.push_back({u"Network %1 of house %2"_s.arg(number).arg(round), number % 14, 100 - number % 100});
     return made;
 }
 
@@ -66,12 +70,14 @@ public:
     WTWiFiListView &screen() { return *m_screen; }
     QScrollBar &scrollBar() { return *m_list->verticalScrollBar(); }
 
-    /// Everything that waits is done, and the list has been painted.
+    /// Everything that waits is done, and the list has been painted. Ends the program when the list is not.
     void paint()
     {
         const int before = m_counter->paints;
-        while (m_counter->paints == before)
-            QCoreApplication::processEvents();
+        for (const QDeadlineTimer patience(10s); m_counter->paints == before; QCoreApplication::processEvents()) {
+            if (patience.hasExpired())
+                qFatal("the list was not painted");
+        }
     }
 
 private:
@@ -92,11 +98,11 @@ void printRow(int count, Samples &arrival, Samples &scroll)
 
 void measure(ListScreen &list, FakeHostWiFi &hostWiFi, int count)
 {
-    hostWiFi.networks = networks(count);
     Samples arrival(rounds), scroll(scrollSteps);
     for (std::size_t round = 0; round < rounds; ++round) {
+        hostWiFi.networks = networks(count, round);
         list.screen().fetchWIFIList();
-        list.paint();
+        QCoreApplication::processEvents();
         arrival.measure([&] {
             hostWiFi.answerScans();
             list.paint();

@@ -7,6 +7,7 @@
 #include "WTLogFileManagerDefault.h"
 #include "WTLogFormatter.h"
 #include "WTOSLogger.h"
+#include "timesToRepeat.h"
 
 #include <QTemporaryDir>
 #include <cstdio>
@@ -21,9 +22,9 @@ namespace
 {
 
 constexpr std::size_t maximumFileSize = 0x6400000, maximumNumberOfFiles = 7;
-constexpr std::size_t burst = 100000, idleCalls = 2000, rounds = 5;
+const std::size_t burst = timesToRepeat(100000), idleCalls = timesToRepeat(2000), rounds = timesToRepeat(5);
 /// As many as spdlog's queue takes without letting its callers wait.
-constexpr std::size_t smallBurst = 8000, smallBursts = 10;
+const std::size_t smallBurst = timesToRepeat(8000), smallBursts = timesToRepeat(10);
 
 enum class Sinks { File, FileAndJournal };
 
@@ -145,7 +146,7 @@ double linesPerSecond(const Log &log)
     for (std::size_t number = 0; number < burst; ++number)
         log.log(number);
     log.waitUntilWritten();
-    return burst / std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    return static_cast<double>(burst) / std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
 void printCell(double own, double spdlog)

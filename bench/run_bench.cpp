@@ -11,6 +11,7 @@
 #include "WiFiConfigurationPayload.h"
 #include "WizardVisit.h"
 #include "startLogging.h"
+#include "timesToRepeat.h"
 
 #include <cstdio>
 #include <future>
@@ -20,8 +21,10 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 
-constexpr std::size_t exchanges = 1000, runs = 100, runsBeforeCounting = 5, visitsByHand = 20, visitsByList = 5;
-constexpr std::size_t allRuns = runs + runsBeforeCounting + visitsByHand + visitsByList;
+const std::size_t exchanges = timesToRepeat(1000), runs = timesToRepeat(100), visitsByHand = timesToRepeat(20),
+                  visitsByList = timesToRepeat(5);
+constexpr std::size_t runsBeforeCounting = 5;
+const std::size_t allRuns = runs + runsBeforeCounting + visitsByHand + visitsByList;
 constexpr int timeLimit = 5000; // Milliseconds.
 
 void exchangeByLibrary(const QString &uri, const QByteArray &frame)

@@ -3,7 +3,7 @@
 # where it is installed, on an X server, a session bus and with a home of their own.
 # usage: tools/bench-startup.sh [turns]
 set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/../build/release/bin"
+cd "${WT_BENCH_PROGRAMS:-$(dirname "${BASH_SOURCE[0]}")/../build/release/bin}"
 
 state=$(mktemp -d)
 trap 'rm -rf "$state"' EXIT
