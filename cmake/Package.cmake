@@ -18,7 +18,7 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # The linked libraries come with Qt's plug-ins and a font; what nothing links is the permission rule's package
 # and the spooler's library, which is loaded while the program starts.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "udev, libcups2")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "network-manager")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "network-manager, qt6-wayland")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "fonts-noto-cjk, system-config-printer | gnome-control-center | plasma-desktop")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS

@@ -9,6 +9,7 @@ import pathlib
 import subprocess
 import sys
 import tempfile
+import time
 
 from cases import Cases
 
@@ -34,16 +35,38 @@ LAST_PICTURES = {
 }
 
 
-def walk(demo, story):
+def walk(demo, story, **session):
     with tempfile.TemporaryDirectory() as folder:
         pictures = pathlib.Path(folder, "pictures")
-        environment = dict(os.environ, XDG_STATE_HOME=folder)
+        environment = dict(os.environ, XDG_STATE_HOME=folder, **session)
         command = [demo, "--story", story, "--speed", SPEED, "--autopilot", pictures]
         subprocess.run(command, env=environment, check=True, timeout=100)
         names = sorted(picture.name for picture in pictures.iterdir())
         assert names and names[0] == "01-WTStartView.png", names
         assert names[-1].endswith(f"-{LAST_PICTURES[story]}.png"), names
         assert all(picture.read_bytes().startswith(PNG_MAGIC) for picture in pictures.iterdir()), names
+
+
+def walk_on_wayland(demo, story):
+    """The compositor draws into memory; its runtime folder must be this user's alone."""
+    with tempfile.TemporaryDirectory() as folder:
+        session = {"XDG_RUNTIME_DIR": folder, "WAYLAND_DISPLAY": "wayland-test", "QT_QPA_PLATFORM": "wayland"}
+        command = ["weston", "--backend=headless-backend.so", "--use-pixman", "--socket=wayland-test", "--idle-time=0"]
+        weston = subprocess.Popen(command, env=dict(os.environ, **session), stderr=subprocess.DEVNULL,
+                                  stdout=subprocess.DEVNULL)
+        try:
+            wait_until(pathlib.Path(folder, "wayland-test").exists)
+            walk(demo, story, **session)
+        finally:
+            weston.terminate()
+            weston.wait()
+
+
+def wait_until(condition):
+    give_up = time.monotonic() + 20
+    while not condition():
+        assert time.monotonic() < give_up, "the compositor does not start"
+        time.sleep(0.05)
 
 
 def compare(actual, expected):
@@ -63,6 +86,7 @@ def main():
     cases.run("the list of stories", compare, sorted(stories), sorted(LAST_PICTURES))
     for story in stories:
         cases.run(story, walk, demo, story)
+    cases.run("a Wayland session", walk_on_wayland, demo, "success")
     cases.run("an unknown story", refuse, demo, "--story", "nobody-told-it")
     cases.run("an unknown option", refuse, demo, "--fly")
     cases.run("a speed of nothing", refuse, demo, "--speed", "0")

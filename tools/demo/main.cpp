@@ -2,6 +2,7 @@
 #include "DemoMachine.h"
 #include "wt_main.h"
 
+#include <QThread>
 #include <cstdio>
 #include <memory>
 #include <string_view>
@@ -106,6 +107,8 @@ int main(int argc, char **argv)
         printStories();
         return 0;
     }
+    // The toolkit takes the first thread that it meets for the main one, and the machine begins some work on others.
+    QThread::currentThread();
     // Never destroyed: a printer command may be under way until the process ends.
     static auto *demo =
         new DemoMachine(arguments.story->printer, arguments.story->host, arguments.story->model, arguments.speed);
