@@ -13,7 +13,7 @@ namespace
 /// What speaks against the network whatever its password is.
 QString hintOf(const QString &name, const WTWiFi &network)
 {
-    const QString error = NetworkRules::nameError(name);
+    QString error = NetworkRules::nameError(name);
     if (!error.isEmpty())
         return error;
     const NetworkHint hint = networkHint({.name = name, .password = u"any"_s}, &network);

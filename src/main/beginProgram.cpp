@@ -30,7 +30,7 @@ QString beginProgram(const Machine &machine)
 {
     InfoList::setResourceFolder(resourceFolder());
     usePorts(machine);
-    const QString logFolder = startLogging(machine.capabilities);
+    QString logFolder = startLogging(machine.capabilities);
     for (const char *line : startBanner)
         logInfo("%@", line);
     WTApp::wt_systemLog();
