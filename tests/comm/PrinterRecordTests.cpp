@@ -14,7 +14,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-
 WTCDevice device(const QString &type, quint32 locationID)
 {
     return {.printerType = type,
@@ -115,26 +114,6 @@ private Q_SLOTS:
     }
 
     void initTestCase() { WTManager::usePorts(m_time, m_spooler); }
-
-    void derivesTextsOfTheUsbSide()
-    {
-        using Text = std::optional<QString>;
-        eachRow(
-            {
-                {"plain", u"AB12CD"_s, u"usb://Quillmark/QZ100%20series?serial=AB12CD"_s,
-                 u"00000000-0000-4142-3132-4344"_s},
-                {"to be encoded", u"%\"#Ω"_s, u"usb://Quillmark/QZ100%20series?serial=%25%22%23%CE%A9"_s,
-                 u"00000000-0000-2522-233A9-"_s},
-            },
-            [&](const Text &serialNumber, const QString &uri, const Text &uuid) {
-                WTUSB usb;
-                usb.manufacturer = u"Quillmark"_s;
-                usb.printerName = u"QZ100 series"_s;
-                usb.serialNumber = serialNumber;
-                QCOMPARE(usb.URI(), uri);
-                QCOMPARE(usb.UUID(), uuid);
-            });
-    }
 
     void listsKnownPrintersWithWiFi()
     {

@@ -19,7 +19,7 @@ namespace
 /// 2026-03-09 08:05:07.089 in central Europe, standard time.
 constexpr std::chrono::system_clock::time_point winterMorning{std::chrono::milliseconds{1773039907089}};
 
-WTLogMessage messageWith(quint64 flag, const QString &text, const QString &file = u"src/a.cpp"_s,
+WTLogMessage messageWith(quint64 flag, const QString &text, const QString &file = u"s.rc/a.b.cpp"_s,
                          std::chrono::system_clock::time_point date = winterMorning)
 {
     return WTLogMessage::initWithMessage(text, WTLogLevelAll, flag, 0, {file, u"void f()"_s, 12}, {}, 0, date)
@@ -72,7 +72,7 @@ private Q_SLOTS:
     void laysOutLines()
     {
         const QString head = u"[2026-03-09 08:05:07.089 TID:    42] "_s;
-        const QString place = u" <FileName: a> <Function: void f()> <Line: 12> 文本"_s;
+        const QString place = u" <FileName: a.b> <Function: void f()> <Line: 12> 文本"_s;
         eachRow(
             {
                 {"error", quint64{1}, head + u"\u274C"_s + place},

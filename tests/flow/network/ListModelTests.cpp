@@ -1,6 +1,5 @@
 #include "FakeHost.h"
 #include "FakeSpooler.h"
-#include "PermissionAnswer.h"
 #include "ResourceFolder.h"
 #include "Rows.h"
 #include "VirtualTime.h"
@@ -12,8 +11,6 @@
 #include <sys/file.h>
 
 using namespace Qt::Literals::StringLiterals;
-
-using Step = PermissionAnswer::Step;
 
 namespace
 {
@@ -61,24 +58,6 @@ private Q_SLOTS:
             });
     }
 
-    void choiceFillsTheFields()
-    {
-        const auto model = makeModel(u"Home"_s, u"secret"_s);
-        NetworkChoice &choice = model->choice();
-        const auto filled = [&] { return choice.filledFields(model->list_WIFI(), {u"Typed"_s, u"typed"_s}); };
-        QCOMPARE(filled(), (NetworkEntry{u"Home"_s, u"secret"_s}));
-        choice.chooseRow(2);
-        QCOMPARE(filled(), (NetworkEntry{u"Office"_s, {}}));
-        // A typed name is the choice until a row is chosen again.
-        choice.nameTyped();
-        QCOMPARE(filled(), (NetworkEntry{u"Typed"_s, {}}));
-        QCOMPARE(choice.selectedWiFi(model->list_WIFI(), {u"Typed"_s, {}})->security, 0);
-        choice.chooseRow(2);
-        QCOMPARE(filled(), (NetworkEntry{u"Office"_s, {}}));
-        QCOMPARE(choice.selectedWiFi(model->list_WIFI(), {})->security, 5);
-        QVERIFY(!choice.filledFields({}, {u"Typed"_s, {}}));
-    }
-
     void chosenRowStaysWithItsNetwork()
     {
         using Networks = std::vector<WTC_WLAN>;
@@ -116,31 +95,6 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         QCOMPARE(answered, QStringList{u"second"_s});
         m_host.holdsScans = false;
-    }
-
-    void permission()
-    {
-        eachRow(
-            {
-                {"not determined", 0, Step::AskPerson},
-                {"denied", 2, Step::AskPerson},
-                {"allowed", 3, Step::Look},
-                {"unknown", 4, Step::LookAnyway},
-            },
-            [&](int status, const Step &step) { QCOMPARE(permissionAnswer(status).step, step); });
-    }
-
-    void mustFetchPassword()
-    {
-        using Name = std::optional<QString>;
-        eachRow(
-            {
-                {"the same network", true, u"Home"_s, u"Home"_s, false},
-                {"another network", true, u"Home"_s, u"Cafe"_s, true},
-            },
-            [&](bool connected, const Name &joined, const Name &current, bool fetches) {
-                QCOMPARE(WTWiFiListViewModel::mustFetchPassword(connected, joined, current), fetches);
-            });
     }
 
     void latePassword()

@@ -1,5 +1,4 @@
 #include "CauseText.h"
-#include "FailureText.h"
 #include "PrinterAnswer.h"
 #include "PrinterCommand.h"
 #include "Rows.h"
@@ -67,27 +66,6 @@ private Q_SLOTS:
                 const WTError denied{wtcErrorDomain, 31, {}, UsbCause{UsbErrorCode::PermissionDenied}};
                 const CauseText told = causeText(denied, PrinterCommand::informationPage, {ruleInstalled, isOnSeat});
                 QVERIFY2(told.cause.contains(said), qPrintable(told.cause));
-            });
-    }
-
-    void headline()
-    {
-        const QString any = u"配网失败"_s;
-        const QString networkOff = u"打印机配置失败，当前打印机网络未开启，无法进行配网。"_s;
-        const QString notFitted = u"打印机配置失败，当前打印机Wi-Fi模块未装配，无法进行配网。"_s;
-        eachRow(
-            {
-                {"nothing said", false, false, 0, any},
-                {"interface", true, false, 0, networkOff},
-                {"not fitted", false, true, 0, notFitted},
-                {"fault", false, true, 1, u"Wi-Fi故障，打印机配置失败。"_s},
-                {"update", false, true, 2, u"打印机配置失败，系统升级过程中，不允许配置网络。"_s},
-                {"capability wins", true, true, 0, notFitted},
-            },
-            [&](bool interfaceError, bool capabilityError, quint64 reason, const QString &text) {
-                const FailureText failure = failureText(interfaceError, capabilityError, CapabilityReason(reason));
-                QCOMPARE(failure.text, text);
-                QVERIFY(!failure.advice.isEmpty());
             });
     }
 };

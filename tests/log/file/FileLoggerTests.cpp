@@ -174,9 +174,12 @@ private Q_SLOTS:
                 const auto manager = std::make_shared<ToldManager>(bed.folder(), clock);
                 const auto logger = loggerOf<WTFileLogger>(manager);
                 logTo(logger, u"one"_s);
+                const QString first = bed.path(bed.names().first());
                 milliseconds = static_cast<qint64>(clockAhead * 1000);
                 logger->setRollingFrequency(frequency);
                 QCOMPARE(logger->rollingFrequency(), frequency);
+                // What is due, or is within a second, does not wait for the timer.
+                QCOMPARE(WTLogFileInfo(first).isArchived(), rolls && clockAhead > 0);
                 if (rolls)
                     QTRY_COMPARE(manager->told().size(), 1);
                 else
