@@ -51,7 +51,7 @@ private Q_SLOTS:
                                      u"nm-connection-editor"_s, u"xdg-open"_s};
         eachRow(
             {
-                {"GNOME", QByteArray{"GNOME"}, everything, u"gnome-control-center printers"_s,
+                {"GNOME", QByteArray{"ubuntu:Gnome"}, everything, u"gnome-control-center printers"_s,
                  u"gnome-control-center wifi"_s},
                 {"KDE Plasma 6", QByteArray{"KDE"}, QStringList{u"kcmshell5"_s, u"kcmshell6"_s},
                  u"kcmshell6 kcm_printer_manager"_s, u"kcmshell6 kcm_networkmanagement"_s},

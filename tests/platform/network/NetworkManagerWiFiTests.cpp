@@ -63,7 +63,10 @@ QByteArray describe(const std::vector<VisibleNetwork> &networks)
 {
     QStringList lines;
     for (const VisibleNetwork &network : networks)
-        lines += u"%1/%2/%3"_s.arg(network.ssid).arg(network.security).arg(network.quality);
+        lines += u"%1/%2/%3%4"_s.arg(network.ssid)
+                     .arg(network.security)
+                     .arg(network.quality)
+                     .arg(network.only5GHz ? u" 5 GHz"_s : QString());
     return lines.join(u", ").toUtf8();
 }
 
@@ -151,11 +154,11 @@ private Q_SLOTS:
                 {"strongest first, then by name",
                  Operations{{u"ap"_s, u"wlan0"_s, u"a"_s, hex("weak"), 10},
                             {u"ap"_s, u"wlan0"_s, u"b"_s, hex("twin B"), 60},
-                            {u"ap"_s, u"wlan0"_s, u"c"_s, hex("twin A"), 60}},
-                 QByteArray("twin A/7/60, twin B/7/60, weak/7/10")},
+                            {u"ap"_s, u"wlan0"_s, u"c"_s, hex("twin A"), 60, 5180}},
+                 QByteArray("twin A/7/60 5 GHz, twin B/7/60, weak/7/10")},
                 {"one per name and security, the best signal",
-                 Operations{{u"ap"_s, u"wlan0"_s, u"a"_s, hex("Home"), 20},
-                            {u"ap"_s, u"wlan0"_s, u"b"_s, hex("Home"), 70, 5180},
+                 Operations{{u"ap"_s, u"wlan0"_s, u"a"_s, hex("Home"), 70},
+                            {u"ap"_s, u"wlan0"_s, u"b"_s, hex("Home"), 20, 5180},
                             {u"ap"_s, u"wlan0"_s, u"c"_s, hex("Home"), 50, 2412, 0, 0, 0}},
                  QByteArray("Home/7/70, Home/1/50")},
                 {"hidden ones are left out",
