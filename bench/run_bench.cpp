@@ -30,11 +30,12 @@ constexpr int timeLimit = 5000; // Milliseconds.
 void exchangeByLibrary(const QString &uri, const QByteArray &frame)
 {
     std::promise<QString> fault;
-    WTCUSBPrinter::IOKit_sendACLWithURI(uri, frame, kACLHeadSize, timeLimit,
-                                        PrinterExchange::usualHeadCallback(PrinterCommand::wakeUp, nullptr),
-                                        [&](const std::optional<QByteArray> &, const std::optional<WTError> &error) {
-                                            fault.set_value(error ? error->message : QString());
-                                        });
+    WTCUSBPrinter::IOKit_sendACLWithURI(
+        uri, frame, kACLHeadSize, timeLimit,
+        PrinterExchange::usualHeadCallback(PrinterCommand::wakeUp, std::make_shared<PrinterExchange::ReplyHead>()),
+        [&](const std::optional<QByteArray> &, const std::optional<WTError> &error) {
+            fault.set_value(error ? error->message : QString());
+        });
     if (const QString text = fault.get_future().get(); !text.isEmpty())
         qFatal("%s", qPrintable(text));
 }
