@@ -62,6 +62,7 @@ private Q_SLOTS:
                 {"spaces are removed from the type", u"Q Z 100"_s, {queue("QZ100", "4")}, true, true},
                 {"series is cut off", u"M1234 series"_s, {queue("M1234 USB", "4")}, true, true},
                 {"Series is not", u"M1234 Series"_s, {queue("M1234 USB", "4")}, false, false},
+                {"vendor twice", u"quillmark quillmark QZ100"_s, printing, true, true},
                 {"vendor in front, not in lower case", u"Quillmark QZ100"_s, printing, false, false},
                 {"nothing is left of the type", u"series"_s, printing, false, false},
                 {"queue name beyond ASCII", u"QZ100"_s, {queue("QZ100_\xE5\x8A\x9E", "4")}, false, false},

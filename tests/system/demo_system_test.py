@@ -14,7 +14,7 @@ import time
 from cases import Cases
 
 PNG_MAGIC = b"\x89PNG"
-SPEED = "3"
+SPEED = "6"
 LAST_PICTURES = {
     "success": "WTCompleteView",
     "busy": "alert",
