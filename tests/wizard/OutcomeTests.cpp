@@ -151,6 +151,7 @@ void OutcomeTests::completionOpensThePanelOnlyWhenTicked()
     QFETCH(int, ticks);
     WizardBed bed;
     bed.window().setContentView(bed.screen<WTCompleteView>());
+    QVERIFY(bed.widget("complateBtn")->hasFocus());
     QCOMPARE(bed.widget("title")->findChild<QLabel *>(u"message"_s)->text(), u"恭喜，您完成了无线网络配置！"_s);
     for (int tick = 0; tick < ticks; ++tick)
         bed.click("addPrinter");
