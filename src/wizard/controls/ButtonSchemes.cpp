@@ -26,7 +26,9 @@ void ButtonSchemes::applyRed(WTButton &button)
 
 void ButtonSchemes::applyBack(WTButton &button)
 {
+    button.hoverColor = Palette::redTint;
     button.hoverBorderColor = Palette::redHover;
+    button.pressedColor = Palette::redTintPressed;
     button.pressedBorderColor = Palette::redPressed;
     button.setImages(u"icon_back"_s);
     button.awakeFromNib();
@@ -38,6 +40,8 @@ void ButtonSchemes::applyBlue(WTButton &button)
     button.borderOffColor = button.borderOnColor = Palette::blue;
     button.onBlackColor = Palette::blue;
     button.defaultBorderColor = Palette::blue;
+    button.hoverColor = Palette::listHover;
+    button.pressedColor = Palette::tileRing;
     button.hoverBorderColor = button.pressedBorderColor = Palette::blueHover;
     button.awakeFromNib();
 }
@@ -56,5 +60,6 @@ void ButtonSchemes::applyCheckBox(WTButton &button)
 void ButtonSchemes::showChecked(WTButton &checkBox, bool checked)
 {
     checkBox.setChecked(checked);
-    checkBox.setImages(checked ? checkedPicture : uncheckedPicture);
+    const QString &picture = checked ? checkedPicture : uncheckedPicture;
+    checkBox.setImages(picture, picture + u" hover"_s);
 }

@@ -7,6 +7,7 @@
 #include <QAction>
 #include <QIcon>
 #include <QKeyEvent>
+#include <QToolButton>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -44,7 +45,9 @@ QString KSPasswordSecureTextFieldCell::markAction() const
 KSPasswordField::KSPasswordField(QWidget *parent)
     : WTTextfield(parent)
     , m_mark(addAction(QIcon(), TrailingPosition))
+    , m_markButton(findChild<QToolButton *>())
 {
+    m_markButton->installEventFilter(this);
     connect(m_mark, &QAction::triggered, this, &KSPasswordField::showHidePressed);
     setShowsText(false);
 }
@@ -67,7 +70,20 @@ void KSPasswordField::setShowsText(bool shows)
     setInputMethodHints(privacyHints);
     m_mark->setText(ButtonLook::spokenTitle(m_cell->markAction()));
     m_mark->setToolTip(m_mark->text());
-    m_mark->setIcon(Picture(m_cell->markName()).pixmap({markSize, markSize}, devicePixelRatioF()));
+    showMark();
+}
+
+void KSPasswordField::showMark()
+{
+    const QString picture = m_cell->markName() + (m_markButton->underMouse() ? u" hover"_s : QString());
+    m_mark->setIcon(Picture(picture).pixmap({markSize, markSize}, devicePixelRatioF()));
+}
+
+bool KSPasswordField::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_markButton && (event->type() == QEvent::Enter || event->type() == QEvent::Leave))
+        showMark();
+    return WTTextfield::eventFilter(watched, event);
 }
 
 void KSPasswordField::setCapsLock(bool on)

@@ -5,6 +5,7 @@
 #include <memory>
 
 class QAction;
+class QToolButton;
 
 /// How a password field shows its text.
 class KSPasswordCell
@@ -70,11 +71,15 @@ Q_SIGNALS:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void setCapsLock(bool on);
+    /// Draws the mark for what the cell does, darker under the pointer.
+    void showMark();
 
     std::unique_ptr<KSPasswordCell> m_cell;
     QAction *m_mark;
+    QToolButton *m_markButton; ///< What the toolkit shows for the action.
     bool m_capsLock = false;
 };

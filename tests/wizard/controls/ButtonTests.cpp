@@ -1,13 +1,15 @@
+#include "ButtonSchemes.h"
 #include "InfoList.h"
+#include "KSPasswordField.h"
 #include "Palette.h"
 #include "WTApp.h"
 #include "WTButton.h"
 #include "WTDefaultStyleBtn.h"
 
-#include <QDir>
+#include <QEnterEvent>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
+#include <QToolButton>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -28,9 +30,8 @@ private Q_SLOTS:
     void defaultStyleFollowsInteraction();
     void coloursFromText_data();
     void coloursFromText();
-
-private:
-    QTemporaryDir m_resources;
+    void answersThePointer_data();
+    void answersThePointer();
 };
 
 namespace
@@ -43,13 +44,38 @@ QColor fillOf(QWidget &button)
     return picture.pixelColor(12, picture.height() / 2);
 }
 
+using Make = QAbstractButton *(*)(QWidget &window);
+
+template <void (*Apply)(WTButton &)>
+QAbstractButton *makeButton(QWidget &window)
+{
+    auto *button = new WTButton(&window);
+    button->setTitle(u"Title"_s);
+    Apply(*button);
+    button->adjustSize();
+    return button;
+}
+
+QAbstractButton *makeEye(QWidget &window)
+{
+    return (new KSPasswordField(&window))->findChild<QToolButton *>();
+}
+
+int countDifferences(const QImage &one, const QImage &other)
+{
+    int different = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x)
+            different += one.pixel(x, y) != other.pixel(x, y);
+    }
+    return different;
+}
+
 } // namespace
 
 void ButtonTests::initTestCase()
 {
-    for (const QLatin1StringView language : {"zh-Hans"_L1, "ja"_L1, "ko"_L1, "en"_L1, "de"_L1})
-        QVERIFY(QDir(m_resources.path()).mkdir(language + ".lproj"_L1));
-    InfoList::setResourceFolder(m_resources.path());
+    InfoList::setResourceFolder(QStringLiteral(WT_RESOURCE_FOLDER));
 }
 
 void ButtonTests::titleIsPaddedByLanguage_data()
@@ -176,6 +202,34 @@ void ButtonTests::coloursFromText()
 {
     QFETCH(QByteArray, text);
     QTEST(Palette::color(text.toStdString()), "color");
+}
+
+void ButtonTests::answersThePointer_data()
+{
+    QTest::addColumn<Make>("make");
+    QTest::addColumn<int>("changed"); ///< Pixels, at least: a fill is more than a border.
+
+    QTest::newRow("back") << Make(makeButton<ButtonSchemes::applyBack>) << 4000;
+    QTest::newRow("refresh") << Make(makeButton<ButtonSchemes::applyBlue>) << 4000;
+    QTest::newRow("check box") << Make(makeButton<ButtonSchemes::applyCheckBox>) << 50;
+    QTest::newRow("eye") << Make(makeEye) << 20;
+}
+
+void ButtonTests::answersThePointer()
+{
+    QFETCH(Make, make);
+    QFETCH(int, changed);
+    QWidget window;
+    QAbstractButton *button = make(window);
+    const QImage atRest = button->grab().toImage();
+    QEnterEvent enter({}, {}, {});
+    QCoreApplication::sendEvent(button, &enter);
+    const int different = countDifferences(button->grab().toImage(), atRest);
+    QVERIFY2(different >= changed, qPrintable(QString::number(different)));
+    QCOMPARE(button->cursor().shape(), Qt::ArrowCursor);
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(button, &leave);
+    QCOMPARE(button->grab().toImage(), atRest);
 }
 
 QTEST_MAIN(ButtonTests)
