@@ -15,6 +15,13 @@ struct PrintDestination {
     std::optional<QByteArray> printerState;
 };
 
+/// What a printer's address does when this computer knocks.
+enum class PrinterReach {
+    Answers,
+    Refuses, ///< Something is there, but takes no print jobs.
+    Silent,  ///< Nothing is there, or something keeps the two apart.
+};
+
 /// The host's print spooler, and its way to printers on the network.
 class SpoolerPort
 {
@@ -28,7 +35,7 @@ public:
     /// Why this host cannot ask any spooler; absent where it can.
     virtual std::optional<WTError> problem() { return std::nullopt; }
 
-    /// Whether a printer answers at this IP address on the port of the printing protocol (RFC 8010, 631). Blocks, but
-    /// not much longer than `atMost`.
-    virtual bool printerAnswers(const QString &address, std::chrono::milliseconds atMost) = 0;
+    /// What this IP address does on the port of the printing protocol (RFC 8010, 631). Blocks, but not much longer than
+    /// `atMost`.
+    virtual PrinterReach printerReach(const QString &address, std::chrono::milliseconds atMost) = 0;
 };

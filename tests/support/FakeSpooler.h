@@ -7,8 +7,8 @@ class FakeSpooler : public SpoolerPort
 {
 public:
     std::vector<PrintDestination> queues;
-    bool answers = true; ///< Every printer's address does.
+    PrinterReach reach = PrinterReach::Answers; ///< Of every printer.
 
     std::vector<PrintDestination> destinations() override { return queues; }
-    bool printerAnswers(const QString &, std::chrono::milliseconds) override { return answers; }
+    PrinterReach printerReach(const QString &, std::chrono::milliseconds) override { return reach; }
 };

@@ -29,7 +29,10 @@ private:
         {
         }
         std::vector<PrintDestination> destinations() override;
-        bool printerAnswers(const QString &, std::chrono::milliseconds) override { return m_reachesPrinter; }
+        PrinterReach printerReach(const QString &, std::chrono::milliseconds) override
+        {
+            return m_reachesPrinter ? PrinterReach::Answers : PrinterReach::Silent;
+        }
 
     private:
         const bool m_isPrinting;

@@ -20,7 +20,6 @@ WTResult<CupsLibrary> loadLibrary()
     CupsLibrary cups{};
     const bool complete = find(cups.getDests, "cupsGetDests") && find(cups.getDests2, "cupsGetDests2") &&
                           find(cups.freeDests, "cupsFreeDests") && find(cups.getOption, "cupsGetOption") &&
-                          find(cups.connect, "httpConnect2") && find(cups.close, "httpClose") &&
                           find(cups.port, "ippPort");
     if (!complete)
         return WTError{u"CUPS"_s, 1, u"libcups cannot be used: %1"_s.arg(file.errorString())};

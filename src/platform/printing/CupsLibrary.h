@@ -11,8 +11,6 @@ struct CupsLibrary {
     decltype(&::cupsGetDests2) getDests2;
     decltype(&::cupsFreeDests) freeDests;
     decltype(&::cupsGetOption) getOption;
-    decltype(&::httpConnect2) connect;
-    decltype(&::httpClose) close;
     decltype(&::ippPort) port;
 
     /// An error on a host without libcups. Any thread.

@@ -2,6 +2,7 @@
 
 #include "AlternateSignalStack.h"
 #include "CupsLibrary.h"
+#include "knockAt.h"
 
 #include <span>
 
@@ -66,17 +67,11 @@ std::optional<WTError> CupsSpooler::problem()
     return cups ? std::nullopt : std::optional(cups.error());
 }
 
-bool CupsSpooler::printerAnswers(const QString &address, std::chrono::milliseconds atMost)
+PrinterReach CupsSpooler::printerReach(const QString &address, std::chrono::milliseconds atMost)
 {
     const WTResult<CupsLibrary> &cups = CupsLibrary::load();
     // The "any" addresses mean this computer here, and no address at all in a printer's reply.
     if (!cups || address == u"0.0.0.0" || address == u"::")
-        return false;
-    int cancel = 0;
-    constexpr int blocking = 1;
-    http_t *const connection =
-        cups.value().connect(address.toLatin1().constData(), cups.value().port(), nullptr, AF_UNSPEC,
-                             HTTP_ENCRYPTION_IF_REQUESTED, blocking, static_cast<int>(atMost.count()), &cancel);
-    cups.value().close(connection);
-    return connection != nullptr;
+        return PrinterReach::Silent;
+    return knockAt(address, cups.value().port(), atMost);
 }

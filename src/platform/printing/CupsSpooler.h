@@ -16,7 +16,7 @@ public:
     std::vector<PrintDestination> destinations() override;
     /// libcups is missing, or is not the one that is wanted.
     std::optional<WTError> problem() override;
-    bool printerAnswers(const QString &address, std::chrono::milliseconds atMost) override;
+    PrinterReach printerReach(const QString &address, std::chrono::milliseconds atMost) override;
 
 private:
     bool m_hasConnection;

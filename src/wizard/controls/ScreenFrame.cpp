@@ -35,6 +35,7 @@ ScreenFrame::ScreenFrame(QWidget *screen, WizardStep step)
     , m_content(new QVBoxLayout)
     , m_bar(new QHBoxLayout)
 {
+    m_instruction->hide();
     auto *whole = new QVBoxLayout(screen);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(this);
@@ -76,6 +77,7 @@ void ScreenFrame::setHeading(const QString &text)
 void ScreenFrame::setInstruction(const QString &text)
 {
     m_instruction->setText(text);
+    m_instruction->setVisible(!text.isEmpty());
     m_screen->setAccessibleDescription(text);
 }
 

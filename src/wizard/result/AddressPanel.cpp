@@ -20,6 +20,32 @@ namespace
 
 constexpr std::chrono::seconds checkLimit{5};
 
+const char *logName(PrinterReach reach)
+{
+    switch (reach) {
+    case PrinterReach::Answers:
+        return "answers";
+    case PrinterReach::Refuses:
+        return "refuses connections of";
+    case PrinterReach::Silent:
+        return "does not answer";
+    }
+    Q_UNREACHABLE();
+}
+
+QString reachText(PrinterReach reach)
+{
+    switch (reach) {
+    case PrinterReach::Answers:
+        return localized(u"此电脑可以连上打印机。"_s);
+    case PrinterReach::Refuses:
+        return localized(u"此电脑可以连上打印机，但打印机不接受网络打印（IPP）。"_s);
+    case PrinterReach::Silent:
+        return localized(u"此电脑连不上打印机。打印机可能在另一个网络上，或在会隔离设备的访客网络上。"_s);
+    }
+    Q_UNREACHABLE();
+}
+
 } // namespace
 
 AddressPanel::AddressPanel(SpoolerPort &spooler, QWidget *parent)
@@ -41,16 +67,20 @@ AddressPanel::AddressPanel(SpoolerPort &spooler, QWidget *parent)
     m_reach->setObjectName(u"reach"_s);
     connect(m_open, &QAbstractButton::clicked, this, &AddressPanel::openPage);
 
+    auto *line = new QHBoxLayout;
+    line->setSpacing(8);
+    line->addWidget(TextStyle::makeLabel(localized(u"打印机地址"_s), TextStyle::Size::Body, Palette::label), 0,
+                    Qt::AlignBaseline);
+    line->addWidget(m_address, 1, Qt::AlignBaseline);
     auto *buttons = new QHBoxLayout;
     buttons->setSpacing(8);
     buttons->addWidget(m_copy);
     buttons->addWidget(m_open);
     buttons->addWidget(m_copy->answer(), 1);
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 16);
+    layout->setContentsMargins(0, 8, 0, 0);
     layout->setSpacing(8);
-    layout->addWidget(TextStyle::makeLabel(localized(u"打印机地址"_s), TextStyle::Size::Small, Palette::label));
-    layout->addWidget(m_address);
+    layout->addLayout(line);
     layout->addLayout(buttons);
     layout->addWidget(m_reach);
     hide();
@@ -70,13 +100,13 @@ void AddressPanel::setAddress(const QString &address)
 void AddressPanel::check(const QString &address)
 {
     const auto question = [&spooler = m_spooler, address] {
-        const bool answers = spooler.printerAnswers(address, checkLimit);
-        logInfo("The printer's address %@ answers this computer: %@", address, answers ? "yes" : "no");
-        return answers;
+        const PrinterReach reach = spooler.printerReach(address, checkLimit);
+        logInfo("The printer at %@ %@ this computer.", address, logName(reach));
+        return reach;
     };
-    askInBackground(this, question, [this, address](bool answers) {
+    askInBackground(this, question, [this, address](PrinterReach reach) {
         if (m_address->text() == address)
-            showAnswer(answers);
+            m_reach->setText(reachText(reach));
     });
 }
 
@@ -87,11 +117,4 @@ void AddressPanel::openPage()
     page.setHost(m_address->text());
     page.setPath(u"/"_s);
     QDesktopServices::openUrl(page);
-}
-
-void AddressPanel::showAnswer(bool reachable)
-{
-    m_reach->setText(reachable
-                         ? localized(u"此电脑可以连上打印机。"_s)
-                         : localized(u"此电脑连不上打印机。打印机可能在另一个网络上，或在会隔离设备的访客网络上。"_s));
 }

@@ -24,7 +24,6 @@ public:
 private:
     void openPage();
     void check(const QString &address);
-    void showAnswer(bool reachable);
 
     SpoolerPort &m_spooler;
     QLabel *m_address;

@@ -21,7 +21,6 @@ NoteView::NoteView(WizardStep step, const Texts &texts, const QString &logFolder
     auto *frame = new ScreenFrame(this, step);
     frame->setHeading(texts.heading);
     frame->content()->addWidget(m_panel);
-    frame->content()->addStretch(1);
     frame->setBackButton(m_previous);
     frame->setFirstFocus(m_previous);
 }

@@ -5,6 +5,7 @@
 #include "Localized.h"
 #include "Palette.h"
 #include "PictureView.h"
+#include "SlimScrollBar.h"
 #include "TextFormat.h"
 #include "TextStyle.h"
 
@@ -20,6 +21,7 @@ namespace
 constexpr QSize markSize{96, 96};
 constexpr int markGap = 32;
 constexpr int causeGap = 8;
+constexpr int logGap = 8;
 constexpr int widestText = 560;
 
 /// A label with one link that people reach by Tab. The toolkit gives the keyboard to the label at the first Tab and
@@ -46,7 +48,7 @@ QString folderLink(const QString &folder)
 } // namespace
 
 ResultPanel::ResultPanel(const QString &markName, const QString &logFolder, QWidget *parent)
-    : QWidget(parent)
+    : QScrollArea(parent)
     , m_message(new LiveLabel({}, TextStyle::Size::Large, Palette::heading))
     , m_cause(new LiveLabel({}, TextStyle::Size::Body, Palette::heading))
     , m_advice(TextStyle::makeLabel({}, TextStyle::Size::Body, Palette::label))
@@ -67,6 +69,7 @@ ResultPanel::ResultPanel(const QString &markName, const QString &logFolder, QWid
     m_log->setOpenExternalLinks(true);
     m_log->setVisible(!logFolder.isEmpty());
     m_log->setText(folderLink(logFolder));
+    m_log->setContentsMargins(0, logGap, 0, 0);
 
     auto *column = new QWidget;
     column->setMaximumWidth(widestText);
@@ -79,15 +82,25 @@ ResultPanel::ResultPanel(const QString &markName, const QString &logFolder, QWid
     m_texts->addWidget(adviceTitle);
     m_texts->addSpacing(8);
     m_texts->addWidget(m_advice);
-    m_texts->addSpacing(24);
+    m_texts->addSpacing(16);
     m_texts->addWidget(m_log);
 
-    auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 16, 0, 0);
+    auto *content = new QWidget;
+    auto *layout = new QHBoxLayout(content);
+    layout->setContentsMargins(0, 8, 0, 0);
     layout->setSpacing(markGap);
     layout->addWidget(new PictureView(markName, markSize), 0, Qt::AlignTop);
     layout->addWidget(column, 1, Qt::AlignTop);
     layout->addStretch(0);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBar(new SlimScrollBar);
+    setFocusPolicy(Qt::NoFocus);
+    setWidgetResizable(true);
+    setWidget(content);
+    // The page shows through.
+    content->setAutoFillBackground(false);
+    viewport()->setAutoFillBackground(false);
 }
 
 void ResultPanel::setMessage(const QString &text)

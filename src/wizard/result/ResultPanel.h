@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include <QScrollArea>
 
 class DetailsView;
 class LiveLabel;
@@ -8,7 +8,8 @@ class QLabel;
 class QVBoxLayout;
 
 /// The content of a result screen: a big mark, a sentence, what one can do, and a link to the folder of the log.
-class ResultPanel : public QWidget
+/// Scrolls in a window that is too low for it.
+class ResultPanel : public QScrollArea
 {
     Q_OBJECT
 

@@ -23,7 +23,6 @@ WTFailedView::WTFailedView(const QString &logFolder, QWidget *parent)
     auto *frame = new ScreenFrame(this, WizardStep::SetUp);
     frame->setHeading(localized(u"打印机没有连上无线网络"_s));
     frame->content()->addWidget(m_errorMessage);
-    frame->content()->addStretch(1);
     frame->setMainButton(m_complateBtn);
     frame->setFirstFocus(m_complateBtn);
 }

@@ -108,18 +108,23 @@ private Q_SLOTS:
         place.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
         socklen_t size = sizeof place;
         QCOMPARE(bind(listener, reinterpret_cast<sockaddr *>(&place), size), 0);
-        QCOMPARE(listen(listener, 1), 0);
+        QCOMPARE(listen(listener, 0), 0); // One connection fits; the next one gets no word.
         QCOMPARE(getsockname(listener, reinterpret_cast<sockaddr *>(&place), &size), 0);
         // libcups reads its port once for each thread.
         qputenv("IPP_PORT", QByteArray::number(ntohs(place.sin_port)));
-        const auto answers = [](const QString &address) {
-            return std::async(std::launch::async, [address] { return CupsSpooler{{}}.printerAnswers(address, 2s); })
+        const auto reach = [](const QString &address) {
+            return std::async(std::launch::async, [address] { return CupsSpooler{{}}.printerReach(address, 2s); })
                 .get();
         };
-        QVERIFY(answers(u"127.0.0.1"_s));
-        QVERIFY(!answers(u"0.0.0.0"_s));
+        QCOMPARE(reach(u"127.0.0.1"_s), PrinterReach::Answers);
+        QElapsedTimer clock;
+        clock.start();
+        QCOMPARE(reach(u"127.0.0.1"_s), PrinterReach::Silent);
+        QVERIFY(clock.elapsed() < 10000);
+        QCOMPARE(reach(u"0.0.0.0"_s), PrinterReach::Silent);
+        QCOMPARE(reach(u"no address"_s), PrinterReach::Silent);
         close(listener);
-        QVERIFY(!answers(u"127.0.0.1"_s));
+        QCOMPARE(reach(u"127.0.0.1"_s), PrinterReach::Refuses);
     }
 
     void aSpoolerThatNeverAnswersCountsAsIdle()
