@@ -46,7 +46,7 @@ std::vector<QByteArray> framesOfRun()
     using namespace PrinterCommand;
     const auto payload = WiFiConfigurationPayload::encode(WizardVisit::networkName, WizardVisit::password);
     return {WTCommand::PJLWithCMD(wakeUp), WTCommand::PJLWithCMD(wifiCapability),
-            WTCommand::PJLWithCMD(wifiConfiguration, payload), WTCommand::PJLWithCMD(address)};
+            WTCommand::PJLWithCMD(wifiConfiguration, payload.value()), WTCommand::PJLWithCMD(address)};
 }
 
 /// Milliseconds.

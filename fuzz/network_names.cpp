@@ -88,20 +88,21 @@ void checkFrame(const QByteArray &payload)
 void checkPayload(const QString &name, const QString &password)
 {
     using Payload = WiFiConfigurationPayload;
-    const auto payload = Payload::encode(name, password);
+    const auto encoded = Payload::encode(name, password);
     const QByteArray secret = password.toUtf8();
-    require(payload.has_value() == (secret.size() <= Payload::passwordLimit && isSendableNetworkName(name)),
-            "only a long password and a name with a control character are refused");
-    if (!payload)
+    const bool sendable = isSendable(name) && isSendable(password);
+    require(bool(encoded) == (secret.size() <= Payload::passwordLimit && sendable),
+            "only a long password and a control character are refused");
+    if (!encoded)
         return;
-    if (isSendableNetworkName(password)) // The screens take no other password.
-        checkFrame(*payload);
-    require(payload->size() == Payload::size, "the payload has its size");
-    require(payload->first(Payload::nameSize) ==
+    const QByteArray &payload = encoded.value();
+    checkFrame(payload);
+    require(payload.size() == Payload::size, "the payload has its size");
+    require(payload.first(Payload::nameSize) ==
                 name.toUtf8().left(Payload::nameLimit).leftJustified(Payload::nameSize, '\0'),
             "the name fills its field and ends in it");
-    require(payload->at(Payload::nameSize) == Payload::mark, "the mark stands behind the name");
-    require(payload->sliced(Payload::nameSize + 1) == secret.leftJustified(Payload::size - Payload::nameSize - 1, '\0'),
+    require(payload.at(Payload::nameSize) == Payload::mark, "the mark stands behind the name");
+    require(payload.sliced(Payload::nameSize + 1) == secret.leftJustified(Payload::size - Payload::nameSize - 1, '\0'),
             "the password travels whole, and nothing behind it");
 }
 

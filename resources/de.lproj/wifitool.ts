@@ -164,6 +164,10 @@
         <translation>Die WLAN-Infoseite wurde an den Drucker gesendet.</translation>
     </message>
     <message>
+        <source>不过它可能打印不出来：%@</source>
+        <translation>Sie wird aber vielleicht nicht gedruckt: %@</translation>
+    </message>
+    <message>
         <source>完成并退出</source>
         <translation>&amp;Fertigstellen und beenden</translation>
     </message>
@@ -456,8 +460,8 @@
         <translation>Es wurde kein Drucker mit WLAN gefunden.</translation>
     </message>
     <message>
-        <source>请打开打印机电源，用USB数据线把它直接连到这台电脑（不要经过集线器），等待几秒。然后返回，再试一次。</source>
-        <translation>Schalten Sie den Drucker ein, verbinden Sie ihn per USB-Kabel mit diesem Computer (direkt, ohne Hub) und warten Sie einige Sekunden. Gehen Sie dann zurück und versuchen Sie es noch einmal.</translation>
+        <source>请打开打印机电源，用 USB 数据线把它连到这台电脑，等待几秒。然后返回，再试一次。</source>
+        <translation>Schalten Sie den Drucker ein, verbinden Sie ihn per USB-Kabel mit diesem Computer und warten Sie einige Sekunden. Gehen Sie dann zurück und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>隐藏密码</source>
@@ -676,6 +680,10 @@
         <translation>Dieser Computer erreicht den Drucker.</translation>
     </message>
     <message>
+        <source>此电脑可以连上打印机，但打印机不接受网络打印（IPP）。</source>
+        <translation>Dieser Computer erreicht den Drucker, aber der Drucker nimmt keine Druckaufträge über das Netzwerk an (IPP).</translation>
+    </message>
+    <message>
         <source>此电脑连不上打印机。打印机可能在另一个网络上，或在会隔离设备的访客网络上。</source>
         <translation>Dieser Computer erreicht den Drucker nicht. Vielleicht ist der Drucker in einem anderen Netzwerk oder in einem Gastnetzwerk, das Geräte voneinander trennt.</translation>
     </message>
@@ -706,6 +714,10 @@
     <message>
         <source>名称含有控制字符，无法发送给打印机。</source>
         <translation>Dieser Name enthält Steuerzeichen und kann nicht an den Drucker gesendet werden.</translation>
+    </message>
+    <message>
+        <source>密码含有控制字符，无法发送给打印机。</source>
+        <translation>Dieses Passwort enthält Steuerzeichen und kann nicht an den Drucker gesendet werden.</translation>
     </message>
     <message>
         <source>正在等待系统许可…</source>
@@ -742,6 +754,10 @@
     <message>
         <source>已连接 %d 台打印机，将配置“%@”。要配置另一台，请先拔下这一台。</source>
         <translation>Es sind %d Drucker angeschlossen. „%@“ wird eingerichtet; für einen anderen ziehen Sie diesen zuerst ab.</translation>
+    </message>
+    <message>
+        <source>打印机：%@</source>
+        <translation>Drucker: %@</translation>
     </message>
 </context>
 </TS>

@@ -164,6 +164,10 @@
         <translation>The Wi-Fi information page has been sent to the printer.</translation>
     </message>
     <message>
+        <source>不过它可能打印不出来：%@</source>
+        <translation>It may not be printed, though: %@</translation>
+    </message>
+    <message>
         <source>完成并退出</source>
         <translation>&amp;Finish and quit</translation>
     </message>
@@ -456,8 +460,8 @@
         <translation>No printer with Wi-Fi was found.</translation>
     </message>
     <message>
-        <source>请打开打印机电源，用USB数据线把它直接连到这台电脑（不要经过集线器），等待几秒。然后返回，再试一次。</source>
-        <translation>Switch the printer on, connect it to this computer with a USB cable (directly, without a hub) and wait a few seconds. Then go back and try again.</translation>
+        <source>请打开打印机电源，用 USB 数据线把它连到这台电脑，等待几秒。然后返回，再试一次。</source>
+        <translation>Switch the printer on, connect it to this computer with a USB cable and wait a few seconds. Then go back and try again.</translation>
     </message>
     <message>
         <source>隐藏密码</source>
@@ -676,6 +680,10 @@
         <translation>This computer can reach the printer.</translation>
     </message>
     <message>
+        <source>此电脑可以连上打印机，但打印机不接受网络打印（IPP）。</source>
+        <translation>This computer can reach the printer, but the printer does not take print jobs over the network (IPP).</translation>
+    </message>
+    <message>
         <source>此电脑连不上打印机。打印机可能在另一个网络上，或在会隔离设备的访客网络上。</source>
         <translation>This computer cannot reach the printer. The printer may be on another network, or on a guest network that keeps devices apart.</translation>
     </message>
@@ -706,6 +714,10 @@
     <message>
         <source>名称含有控制字符，无法发送给打印机。</source>
         <translation>This name has control characters, so it cannot be sent to the printer.</translation>
+    </message>
+    <message>
+        <source>密码含有控制字符，无法发送给打印机。</source>
+        <translation>This password has control characters, so it cannot be sent to the printer.</translation>
     </message>
     <message>
         <source>正在等待系统许可…</source>
@@ -742,6 +754,10 @@
     <message>
         <source>已连接 %d 台打印机，将配置“%@”。要配置另一台，请先拔下这一台。</source>
         <translation>%d printers are plugged in. “%@” will be set up; to choose another one, unplug this one first.</translation>
+    </message>
+    <message>
+        <source>打印机：%@</source>
+        <translation>Printer: %@</translation>
     </message>
 </context>
 </TS>

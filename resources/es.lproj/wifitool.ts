@@ -164,6 +164,10 @@
         <translation>La página de información Wi-Fi se ha enviado a la impresora.</translation>
     </message>
     <message>
+        <source>不过它可能打印不出来：%@</source>
+        <translation>Sin embargo, es posible que no se imprima: %@</translation>
+    </message>
+    <message>
         <source>完成并退出</source>
         <translation>&amp;Finalizar y salir</translation>
     </message>
@@ -456,8 +460,8 @@
         <translation>No se ha encontrado ninguna impresora con Wi-Fi.</translation>
     </message>
     <message>
-        <source>请打开打印机电源，用USB数据线把它直接连到这台电脑（不要经过集线器），等待几秒。然后返回，再试一次。</source>
-        <translation>Encienda la impresora, conéctela a este equipo con un cable USB (directamente, sin concentrador) y espere unos segundos. Después vuelva atrás e inténtelo otra vez.</translation>
+        <source>请打开打印机电源，用 USB 数据线把它连到这台电脑，等待几秒。然后返回，再试一次。</source>
+        <translation>Encienda la impresora, conéctela a este equipo con un cable USB y espere unos segundos. Después vuelva atrás e inténtelo otra vez.</translation>
     </message>
     <message>
         <source>隐藏密码</source>
@@ -676,6 +680,10 @@
         <translation>Este equipo puede comunicarse con la impresora.</translation>
     </message>
     <message>
+        <source>此电脑可以连上打印机，但打印机不接受网络打印（IPP）。</source>
+        <translation>Este equipo puede comunicarse con la impresora, pero esta no acepta trabajos de impresión por la red (IPP).</translation>
+    </message>
+    <message>
         <source>此电脑连不上打印机。打印机可能在另一个网络上，或在会隔离设备的访客网络上。</source>
         <translation>Este equipo no puede comunicarse con la impresora. Puede que la impresora esté en otra red o en una red de invitados que aísla los dispositivos.</translation>
     </message>
@@ -706,6 +714,10 @@
     <message>
         <source>名称含有控制字符，无法发送给打印机。</source>
         <translation>Este nombre contiene caracteres de control y no se puede enviar a la impresora.</translation>
+    </message>
+    <message>
+        <source>密码含有控制字符，无法发送给打印机。</source>
+        <translation>Esta contraseña contiene caracteres de control y no se puede enviar a la impresora.</translation>
     </message>
     <message>
         <source>正在等待系统许可…</source>
@@ -742,6 +754,10 @@
     <message>
         <source>已连接 %d 台打印机，将配置“%@”。要配置另一台，请先拔下这一台。</source>
         <translation>Hay %d impresoras conectadas. Se configurará «%@»; para elegir otra, desconecte antes esta.</translation>
+    </message>
+    <message>
+        <source>打印机：%@</source>
+        <translation>Impresora: %@</translation>
     </message>
 </context>
 </TS>

@@ -164,6 +164,10 @@
         <translation>La page d’infos Wi-Fi a été envoyée à l’imprimante.</translation>
     </message>
     <message>
+        <source>不过它可能打印不出来：%@</source>
+        <translation>Il se peut toutefois qu’elle ne soit pas imprimée : %@</translation>
+    </message>
+    <message>
         <source>完成并退出</source>
         <translation>&amp;Terminer et quitter</translation>
     </message>
@@ -456,8 +460,8 @@
         <translation>Aucune imprimante Wi-Fi n’a été trouvée.</translation>
     </message>
     <message>
-        <source>请打开打印机电源，用USB数据线把它直接连到这台电脑（不要经过集线器），等待几秒。然后返回，再试一次。</source>
-        <translation>Allumez l’imprimante, reliez-la à cet ordinateur par un câble USB (directement, sans concentrateur) et attendez quelques secondes. Revenez ensuite en arrière et réessayez.</translation>
+        <source>请打开打印机电源，用 USB 数据线把它连到这台电脑，等待几秒。然后返回，再试一次。</source>
+        <translation>Allumez l’imprimante, reliez-la à cet ordinateur par un câble USB et attendez quelques secondes. Revenez ensuite en arrière et réessayez.</translation>
     </message>
     <message>
         <source>隐藏密码</source>
@@ -676,6 +680,10 @@
         <translation>Cet ordinateur peut joindre l’imprimante.</translation>
     </message>
     <message>
+        <source>此电脑可以连上打印机，但打印机不接受网络打印（IPP）。</source>
+        <translation>Cet ordinateur peut joindre l’imprimante, mais celle-ci n’accepte pas d’impressions par le réseau (IPP).</translation>
+    </message>
+    <message>
         <source>此电脑连不上打印机。打印机可能在另一个网络上，或在会隔离设备的访客网络上。</source>
         <translation>Cet ordinateur ne peut pas joindre l’imprimante. Elle est peut-être sur un autre réseau, ou sur un réseau invité qui isole les appareils.</translation>
     </message>
@@ -706,6 +714,10 @@
     <message>
         <source>名称含有控制字符，无法发送给打印机。</source>
         <translation>Ce nom contient des caractères de contrôle et ne peut pas être envoyé à l’imprimante.</translation>
+    </message>
+    <message>
+        <source>密码含有控制字符，无法发送给打印机。</source>
+        <translation>Ce mot de passe contient des caractères de contrôle et ne peut pas être envoyé à l’imprimante.</translation>
     </message>
     <message>
         <source>正在等待系统许可…</source>
@@ -742,6 +754,10 @@
     <message>
         <source>已连接 %d 台打印机，将配置“%@”。要配置另一台，请先拔下这一台。</source>
         <translation>%d imprimantes sont branchées. « %@ » sera configurée ; pour en choisir une autre, débranchez d’abord celle-ci.</translation>
+    </message>
+    <message>
+        <source>打印机：%@</source>
+        <translation>Imprimante : %@</translation>
     </message>
 </context>
 </TS>

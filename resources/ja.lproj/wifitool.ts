@@ -164,6 +164,10 @@
         <translation>Wi-Fi情報ページをプリンターに送信しました。</translation>
     </message>
     <message>
+        <source>不过它可能打印不出来：%@</source>
+        <translation>ただし、印刷されない可能性があります：%@</translation>
+    </message>
+    <message>
         <source>完成并退出</source>
         <translation>完了して終了(&amp;F)</translation>
     </message>
@@ -456,8 +460,8 @@
         <translation>Wi-Fiに対応したプリンターが見つかりませんでした。</translation>
     </message>
     <message>
-        <source>请打开打印机电源，用USB数据线把它直接连到这台电脑（不要经过集线器），等待几秒。然后返回，再试一次。</source>
-        <translation>プリンターの電源を入れ、USBケーブルでこのコンピューターに（ハブを使わず直接）つなぎ、数秒待ってください。その後、戻ってもう一度お試しください。</translation>
+        <source>请打开打印机电源，用 USB 数据线把它连到这台电脑，等待几秒。然后返回，再试一次。</source>
+        <translation>プリンターの電源を入れ、USBケーブルでこのコンピューターにつなぎ、数秒待ってください。その後、戻ってもう一度お試しください。</translation>
     </message>
     <message>
         <source>隐藏密码</source>
@@ -676,6 +680,10 @@
         <translation>このコンピューターからプリンターに接続できます。</translation>
     </message>
     <message>
+        <source>此电脑可以连上打印机，但打印机不接受网络打印（IPP）。</source>
+        <translation>このコンピューターからプリンターに接続できますが、プリンターはネットワーク印刷（IPP）を受け付けていません。</translation>
+    </message>
+    <message>
         <source>此电脑连不上打印机。打印机可能在另一个网络上，或在会隔离设备的访客网络上。</source>
         <translation>このコンピューターからプリンターに接続できません。プリンターは別のネットワークか、機器同士を隔てるゲスト用ネットワークにつながっている可能性があります。</translation>
     </message>
@@ -706,6 +714,10 @@
     <message>
         <source>名称含有控制字符，无法发送给打印机。</source>
         <translation>名前に制御文字が含まれているため、プリンターに送信できません。</translation>
+    </message>
+    <message>
+        <source>密码含有控制字符，无法发送给打印机。</source>
+        <translation>パスワードに制御文字が含まれているため、プリンターに送信できません。</translation>
     </message>
     <message>
         <source>正在等待系统许可…</source>
@@ -742,6 +754,10 @@
     <message>
         <source>已连接 %d 台打印机，将配置“%@”。要配置另一台，请先拔下这一台。</source>
         <translation>%d台のプリンターが接続されています。「%@」を設定します。別のプリンターを設定するには、先にこのプリンターを取り外してください。</translation>
+    </message>
+    <message>
+        <source>打印机：%@</source>
+        <translation>プリンター：%@</translation>
     </message>
 </context>
 </TS>

@@ -164,6 +164,10 @@
         <translation>Wi-Fi 정보 페이지를 프린터로 보냈습니다.</translation>
     </message>
     <message>
+        <source>不过它可能打印不出来：%@</source>
+        <translation>다만 인쇄되지 않을 수 있습니다: %@</translation>
+    </message>
+    <message>
         <source>完成并退出</source>
         <translation>완료하고 종료(&amp;F)</translation>
     </message>
@@ -456,8 +460,8 @@
         <translation>Wi-Fi를 지원하는 프린터를 찾지 못했습니다.</translation>
     </message>
     <message>
-        <source>请打开打印机电源，用USB数据线把它直接连到这台电脑（不要经过集线器），等待几秒。然后返回，再试一次。</source>
-        <translation>프린터를 켜고 USB 케이블로 이 컴퓨터에 (허브 없이 직접) 연결한 뒤 몇 초 기다리십시오. 그런 다음 뒤로 가서 다시 시도하십시오.</translation>
+        <source>请打开打印机电源，用 USB 数据线把它连到这台电脑，等待几秒。然后返回，再试一次。</source>
+        <translation>프린터를 켜고 USB 케이블로 이 컴퓨터에 연결한 뒤 몇 초 기다리십시오. 그런 다음 뒤로 가서 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>隐藏密码</source>
@@ -676,6 +680,10 @@
         <translation>이 컴퓨터에서 프린터에 연결할 수 있습니다.</translation>
     </message>
     <message>
+        <source>此电脑可以连上打印机，但打印机不接受网络打印（IPP）。</source>
+        <translation>이 컴퓨터에서 프린터에 연결할 수 있지만 프린터가 네트워크 인쇄(IPP)를 받지 않습니다.</translation>
+    </message>
+    <message>
         <source>此电脑连不上打印机。打印机可能在另一个网络上，或在会隔离设备的访客网络上。</source>
         <translation>이 컴퓨터에서 프린터에 연결할 수 없습니다. 프린터가 다른 네트워크나 기기를 서로 분리하는 게스트 네트워크에 있을 수 있습니다.</translation>
     </message>
@@ -706,6 +714,10 @@
     <message>
         <source>名称含有控制字符，无法发送给打印机。</source>
         <translation>이름에 제어 문자가 있어 프린터로 보낼 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>密码含有控制字符，无法发送给打印机。</source>
+        <translation>비밀번호에 제어 문자가 있어 프린터로 보낼 수 없습니다.</translation>
     </message>
     <message>
         <source>正在等待系统许可…</source>
@@ -742,6 +754,10 @@
     <message>
         <source>已连接 %d 台打印机，将配置“%@”。要配置另一台，请先拔下这一台。</source>
         <translation>프린터 %d대가 연결되어 있습니다. ‘%@’을(를) 설정합니다. 다른 프린터를 설정하려면 먼저 이 프린터를 분리하십시오.</translation>
+    </message>
+    <message>
+        <source>打印机：%@</source>
+        <translation>프린터: %@</translation>
     </message>
 </context>
 </TS>

@@ -260,10 +260,6 @@
         <translation>请在打印机上打开 Wi-Fi 功能，重新启动打印机，然后再试一次。</translation>
     </message>
     <message>
-        <source>请打开打印机电源，用USB数据线把它直接连到这台电脑（不要经过集线器），等待几秒。然后返回，再试一次。</source>
-        <translation>请打开打印机电源，用 USB 数据线把它直接连到这台电脑（不要经过集线器），等待几秒。然后返回，再试一次。</translation>
-    </message>
-    <message>
         <source>此电脑</source>
         <translation>此电脑正在使用</translation>
     </message>

@@ -164,6 +164,10 @@
         <translation>已將 Wi-Fi 資訊頁傳送給印表機。</translation>
     </message>
     <message>
+        <source>不过它可能打印不出来：%@</source>
+        <translation>不過它可能印不出來：%@</translation>
+    </message>
+    <message>
         <source>完成并退出</source>
         <translation>完成並結束(&amp;F)</translation>
     </message>
@@ -456,8 +460,8 @@
         <translation>找不到支援 Wi-Fi 的印表機。</translation>
     </message>
     <message>
-        <source>请打开打印机电源，用USB数据线把它直接连到这台电脑（不要经过集线器），等待几秒。然后返回，再试一次。</source>
-        <translation>請開啟印表機電源，用 USB 傳輸線將它直接連接到這台電腦（不要經過集線器），等待幾秒。然後返回，再試一次。</translation>
+        <source>请打开打印机电源，用 USB 数据线把它连到这台电脑，等待几秒。然后返回，再试一次。</source>
+        <translation>請開啟印表機電源，用 USB 傳輸線將它連接到這台電腦，等待幾秒。然後返回，再試一次。</translation>
     </message>
     <message>
         <source>隐藏密码</source>
@@ -676,6 +680,10 @@
         <translation>此電腦可以連上印表機。</translation>
     </message>
     <message>
+        <source>此电脑可以连上打印机，但打印机不接受网络打印（IPP）。</source>
+        <translation>此電腦可以連上印表機，但印表機不接受網路列印（IPP）。</translation>
+    </message>
+    <message>
         <source>此电脑连不上打印机。打印机可能在另一个网络上，或在会隔离设备的访客网络上。</source>
         <translation>此電腦無法連上印表機。印表機可能在另一個網路上，或在會隔離裝置的訪客網路上。</translation>
     </message>
@@ -706,6 +714,10 @@
     <message>
         <source>名称含有控制字符，无法发送给打印机。</source>
         <translation>名稱含有控制字元，無法傳送給印表機。</translation>
+    </message>
+    <message>
+        <source>密码含有控制字符，无法发送给打印机。</source>
+        <translation>密碼含有控制字元，無法傳送給印表機。</translation>
     </message>
     <message>
         <source>正在等待系统许可…</source>
@@ -742,6 +754,10 @@
     <message>
         <source>已连接 %d 台打印机，将配置“%@”。要配置另一台，请先拔下这一台。</source>
         <translation>已連接 %d 台印表機，將設定「%@」。若要設定另一台，請先拔下這一台。</translation>
+    </message>
+    <message>
+        <source>打印机：%@</source>
+        <translation>印表機：%@</translation>
     </message>
 </context>
 </TS>

@@ -57,15 +57,8 @@ void WTManager::wifiConfigForPrinter(const QString &uri, quint32, const QString 
     }
     const auto payload = WiFiConfigurationPayload::encode(ssid, password);
     if (!payload) {
-        if (isSendableNetworkName(ssid))
-            logError("The password is longer than the %ld bytes that a printer takes; nothing is sent.",
-                     WiFiConfigurationPayload::passwordLimit);
-        else
-            logError("The network's name holds a control character; nothing is sent.");
-        const WTError refused{printerErrorDomain, static_cast<int>(WTPrinterStatus::NoHeader),
-                              isSendableNetworkName(ssid) ? u"the password is longer than a printer takes"_s
-                                                          : u"the network's name holds a control character"_s};
-        refusals().async([callBack = std::move(callBack), refused] {
+        logError("Nothing is sent: %@.", payload.error().message);
+        refusals().async([callBack = std::move(callBack), refused = payload.error()] {
             callBack({.status = WTPrinterStatus::NoHeader, .cause = refused});
         });
         return;
@@ -73,7 +66,7 @@ void WTManager::wifiConfigForPrinter(const QString &uri, quint32, const QString 
 
     constexpr quint16 cmd = PrinterCommand::wifiConfiguration;
     const auto head = std::make_shared<PrinterExchange::ReplyHead>();
-    PrinterExchange::send(cmd, uri, WTCommand::PJLWithCMD(cmd, payload), keepHeaderOnly(head),
+    PrinterExchange::send(cmd, uri, WTCommand::PJLWithCMD(cmd, payload.value()), keepHeaderOnly(head),
                           [head, callBack = std::move(callBack)](const std::optional<QByteArray> &data,
                                                                  const std::optional<WTError> &error) {
                               const ResultAnswer answer = judge(*head, data.has_value(), error);

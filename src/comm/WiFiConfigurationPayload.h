@@ -1,8 +1,9 @@
 #pragma once
 
+#include "WTError.h"
+
 #include <QByteArray>
 #include <QString>
-#include <optional>
 
 /// The payload that tells a printer which network to join, all text UTF-8:
 ///
@@ -21,7 +22,7 @@ public:
     static constexpr qsizetype passwordLimit = 31;
     static constexpr qsizetype size = 208;
 
-    /// Absent when the password has more than `passwordLimit` bytes, since a cut password would never work, or when the
-    /// name cannot be sent (`isSendableNetworkName`).
-    static std::optional<QByteArray> encode(const QString &ssid, const QString &password);
+    /// Refused when name or password cannot be sent (`isSendable`), or when the password has more than `passwordLimit`
+    /// bytes, since a cut password would never work. The error holds neither of the two.
+    static WTResult<QByteArray> encode(const QString &ssid, const QString &password);
 };

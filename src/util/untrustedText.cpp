@@ -48,8 +48,8 @@ std::optional<QString> visibleText(const std::optional<QString> &text)
     return text ? std::optional(visibleText(*text)) : std::nullopt;
 }
 
-bool isSendableNetworkName(const QString &name)
+bool isSendable(const QString &text)
 {
     return std::ranges::none_of(
-        name, [](QChar character) { return character < firstPrintable || character == deleteCharacter; });
+        text, [](QChar character) { return character < firstPrintable || character == deleteCharacter; });
 }

@@ -12,6 +12,6 @@ QString visibleText(const QString &text);
 /// The same; absent stays absent.
 std::optional<QString> visibleText(const std::optional<QString> &text);
 
-/// Whether a printer can be told a network of this name. A name with a character from U+0000 to U+001F or with U+007F
-/// cannot be sent: it could end the printer's job and begin one of its own.
-bool isSendableNetworkName(const QString &name);
+/// Whether `text` may stand in a printer's job. One with a character from U+0000 to U+001F or with U+007F may not: it
+/// could end the job and begin one of its own.
+bool isSendable(const QString &text);

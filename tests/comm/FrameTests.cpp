@@ -84,9 +84,11 @@ private Q_SLOTS:
                 {"password that fills its field", u"n"_s, QString(31, u'p'), payload("n", QByteArray(31, 'p'))},
                 {"password of 33 bytes", u"n"_s, wide + u"密"_s, std::nullopt},
                 {"name that ends the printer's job", u"\x1b%-12345X"_s, u"p"_s, std::nullopt},
+                {"password that ends the printer's job", u"n"_s, u"\x1b%-12345X"_s, std::nullopt},
             },
             [&](const QString &ssid, const QString &password, const std::optional<QByteArray> &encoded) {
-                QCOMPARE(WiFiConfigurationPayload::encode(ssid, password), encoded);
+                const auto payload = WiFiConfigurationPayload::encode(ssid, password);
+                QCOMPARE(payload ? std::optional(payload.value()) : std::nullopt, encoded);
             });
     }
 

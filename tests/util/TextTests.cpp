@@ -57,7 +57,7 @@ private Q_SLOTS:
             },
             [&](const QString &text, const QString &visible, bool sendable) {
                 QCOMPARE(visibleText(text), visible);
-                QCOMPARE(isSendableNetworkName(text), sendable);
+                QCOMPARE(isSendable(text), sendable);
             });
     }
 

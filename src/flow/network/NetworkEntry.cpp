@@ -10,7 +10,8 @@ NetworkEntry::Next NetworkEntry::next(bool printerIsBusy) const
         return Next::EmptyName;
     if (!NetworkRules::isNameUsable(name))
         return Next::UnusableName;
-    return NetworkRules::isPasswordTooLong(NetworkRules::cutPassword(password)) ? Next::PasswordTooLong : Next::Go;
+    const bool refused = !NetworkRules::passwordError(NetworkRules::cutPassword(password)).isEmpty();
+    return refused ? Next::UnusablePassword : Next::Go;
 }
 
 WTWiFiPtr NetworkEntry::network() const

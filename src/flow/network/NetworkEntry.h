@@ -6,7 +6,7 @@
 
 /// What the two fields of an entry screen hold, and where "next" leads from there.
 struct NetworkEntry {
-    enum class Next { PrinterBusy, EmptyName, UnusableName, PasswordTooLong, Go };
+    enum class Next { PrinterBusy, EmptyName, UnusableName, UnusablePassword, Go };
 
     QString name;
     QString password;

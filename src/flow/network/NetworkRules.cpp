@@ -49,12 +49,12 @@ bool NetworkRules::isNoName(const QString &name)
 
 bool NetworkRules::isNameUsable(const QString &name)
 {
-    return !isNoName(name) && !isNameTooLong(name) && isSendableNetworkName(name);
+    return !isNoName(name) && !isNameTooLong(name) && isSendable(name);
 }
 
 QString NetworkRules::nameError(const QString &name)
 {
-    if (!isSendableNetworkName(name))
+    if (!isSendable(name))
         return localized(u"名称含有控制字符，无法发送给打印机。"_s);
     return isNameTooLong(name) ? localized(u"名称太长：最多 32 个字节。"_s) : QString();
 }
@@ -62,6 +62,13 @@ QString NetworkRules::nameError(const QString &name)
 bool NetworkRules::isPasswordTooLong(const QString &password)
 {
     return password.toUtf8().size() > maximumPasswordBytes;
+}
+
+QString NetworkRules::passwordError(const QString &password)
+{
+    if (!isSendable(password))
+        return localized(u"密码含有控制字符，无法发送给打印机。"_s);
+    return isPasswordTooLong(password) ? passwordLimitText() : QString();
 }
 
 QString NetworkRules::passwordLimitText()

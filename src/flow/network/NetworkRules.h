@@ -34,5 +34,8 @@ QString nameError(const QString &name);
 bool isPasswordTooLong(const QString &password);
 /// One sentence that names the limit, in the interface language.
 QString passwordLimitText();
+/// One sentence in the interface language that says why a printer cannot be told this password, without it; empty when
+/// it can.
+QString passwordError(const QString &password);
 
 } // namespace NetworkRules

@@ -16,7 +16,7 @@ PrinterNote printerNote(const QString &printer, const QString &serialNumber, qsi
             return {.text = printer + u": "_s + told.cause + u' ' + told.advice, .isWarning = true};
     }
     if (count < 2)
-        return {.text = printer};
+        return {.text = formatText(localized(u"打印机：%@"_s), {FormatArgument(printer)})};
     const QString name = serialNumber.isEmpty() ? printer : printer + u", "_s + serialNumber;
     return {.text = formatText(localized(u"已连接 %d 台打印机，将配置“%@”。要配置另一台，请先拔下这一台。"_s),
                                {count, name})};

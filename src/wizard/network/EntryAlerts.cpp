@@ -13,8 +13,11 @@ void EntryAlerts::showNote(QWidget *window, const QString &text)
               {.messageText = localized(u"温馨提示："_s), .informativeText = text, .buttons = {localized(u"确定"_s)}});
 }
 
-void EntryAlerts::refuseLongPassword(QWidget *window)
+void EntryAlerts::refusePassword(QWidget *window, const QString &password)
 {
-    logWarning("password over %d bytes refused", NetworkRules::maximumPasswordBytes);
-    showNote(window, NetworkRules::passwordLimitText());
+    if (NetworkRules::isPasswordTooLong(password))
+        logWarning("password over %d bytes refused", NetworkRules::maximumPasswordBytes);
+    else
+        logWarning("password with a control character refused");
+    showNote(window, NetworkRules::passwordError(password));
 }

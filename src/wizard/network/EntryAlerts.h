@@ -10,7 +10,7 @@ namespace EntryAlerts
 /// One sentence and a button that closes it.
 void showNote(QWidget *window, const QString &text);
 
-/// Logs that a password was refused, without it, and says what the limit is.
-void refuseLongPassword(QWidget *window);
+/// Logs that a password was refused, without it, and says why.
+void refusePassword(QWidget *window, const QString &password);
 
 } // namespace EntryAlerts

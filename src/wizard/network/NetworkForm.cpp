@@ -105,11 +105,10 @@ bool NetworkForm::hasKeyboard() const
 
 void NetworkForm::showPasswordError()
 {
-    if (NetworkRules::isPasswordTooLong(m_passwordTextField->text()))
-        m_passwordView->setError(NetworkRules::passwordLimitText());
-    else
-        m_passwordView->setError(m_saysCapsLock && m_passwordTextField->capsLock() ? localized(u"大写锁定已打开"_s)
-                                                                                   : QString());
+    QString error = NetworkRules::passwordError(m_passwordTextField->text());
+    if (error.isEmpty() && m_saysCapsLock && m_passwordTextField->capsLock())
+        error = localized(u"大写锁定已打开"_s);
+    m_passwordView->setError(error);
 }
 
 void NetworkForm::resetFrames()

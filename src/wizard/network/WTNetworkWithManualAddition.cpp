@@ -126,8 +126,8 @@ void WTNetworkWithManualAddition::nextView()
     case NetworkEntry::Next::UnusableName:
         logWarning("network name refused");
         break;
-    case NetworkEntry::Next::PasswordTooLong:
-        EntryAlerts::refuseLongPassword(window());
+    case NetworkEntry::Next::UnusablePassword:
+        EntryAlerts::refusePassword(window(), entry.password);
         break;
     case NetworkEntry::Next::Go:
         m_installingView->setPrinter(m_printer);
@@ -154,12 +154,13 @@ void WTNetworkWithManualAddition::printWiFiList()
 
 void WTNetworkWithManualAddition::showPageSent(const ResultAnswer &answer)
 {
-    const QString sent = localized(u"已将无线网络信息页发送给打印机"_s);
+    QStringList paragraphs{localized(u"已将无线网络信息页发送给打印机"_s)};
     const CauseText told = answer.cause
                                ? causeText(*answer.cause, PrinterCommand::informationPage, m_desktop.deviceAccess())
                                : CauseText{};
-    EntryAlerts::showNote(window(),
-                          told.cause.isEmpty() ? sent : QStringList{sent, told.cause, told.advice}.join(u"\n\n"));
+    if (!told.cause.isEmpty())
+        paragraphs << formatText(localized(u"不过它可能打印不出来：%@"_s), {FormatArgument(told.cause)}) << told.advice;
+    EntryAlerts::showNote(window(), paragraphs.join(u"\n\n"));
 }
 
 void WTNetworkWithManualAddition::showIsworkingAlert()

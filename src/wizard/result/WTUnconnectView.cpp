@@ -10,7 +10,7 @@ WTUnconnectView::WTUnconnectView(const QString &logFolder, QWidget *parent)
                {.pictureName = u"note"_s,
                 .heading = localized(u"没有连接打印机"_s),
                 .message = localized(u"没有找到支持无线网络的打印机。"_s),
-                .advice = localized(u"请打开打印机电源，用USB数据线把它直接连到这台电脑（不要经过集线器），等待几秒。"
+                .advice = localized(u"请打开打印机电源，用 USB 数据线把它连到这台电脑，等待几秒。"
                                     u"然后返回，再试一次。"_s)},
                logFolder, parent)
 {

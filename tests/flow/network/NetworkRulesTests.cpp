@@ -79,9 +79,10 @@ void NetworkRulesTests::next_data()
     const QString home = u"Home"_s;
     row("open network", false, home, {}, Next::Go);
     row("31 bytes", false, home, QString(31, u'x'), Next::Go);
-    row("32 bytes", false, home, QString(32, u'x'), Next::PasswordTooLong);
-    row("11 signs of 3 bytes", false, home, QString(11, u'€'), Next::PasswordTooLong);
+    row("32 bytes", false, home, QString(32, u'x'), Next::UnusablePassword);
+    row("11 signs of 3 bytes", false, home, QString(11, u'€'), Next::UnusablePassword);
     row("10 signs of 3 bytes", false, home, QString(10, u'€'), Next::Go);
+    row("line end in a stored password", false, home, u"pass\nword"_s, Next::UnusablePassword);
     row("empty name comes before the password", false, {}, QString(64, u'x'), Next::EmptyName);
     row("name of blanks", false, u"  "_s, {}, Next::EmptyName);
     row("name of 33 bytes", false, QString(11, u'啡'), {}, Next::UnusableName);
