@@ -8,10 +8,12 @@
 #include "WTWpsLinkStateView.h"
 #include "WizardBed.h"
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QMessageBox>
 #include <QTest>
 #include <QTimer>
 
@@ -33,10 +35,10 @@ constexpr OutcomeScreen panelScreen{"WTWpsLinkStateView", "wpsSuccessView", "wps
 constexpr OutcomeScreen lightScreen{"WTConfigStateInfoView", "lightSuccessView", "lightFailView", "stateFinishBtn",
                                     false};
 
-WTView *open(WizardBed &bed, const OutcomeScreen &screen)
+WTView *open(WizardBed &bed, const QByteArray &className)
 {
     for (WTView *view : bed.window().findChildren<WTView *>()) {
-        if (qstrcmp(view->metaObject()->className(), screen.className) == 0) {
+        if (view->metaObject()->className() == className) {
             bed.window().setContentView(view);
             return view;
         }
@@ -60,6 +62,8 @@ private Q_SLOTS:
     void panelOutcomeLogs();
     void completionOpensThePanelOnlyWhenTicked_data();
     void completionOpensThePanelOnlyWhenTicked();
+    void missingPanelIsSaidBeforeTheEnd_data();
+    void missingPanelIsSaidBeforeTheEnd();
     void failureScreenSaysWhatHappened();
     void wayBackSaysWhy();
     void completionShowsTheAddress_data();
@@ -88,7 +92,7 @@ void OutcomeTests::wpsOutcome()
     QFETCH(int, ticks);
     QFETCH(bool, opensPanel);
     WizardBed bed;
-    WTView *view = open(bed, screen);
+    WTView *view = open(bed, screen.className);
     QVERIFY(!bed.widget(screen.finish)->isEnabled());
     bed.click(success ? screen.success : screen.failure);
     QCOMPARE(bed.widget(screen.finish)->isEnabled(), success);
@@ -114,7 +118,7 @@ void OutcomeTests::wpsOutcome()
 void OutcomeTests::failureAfterSuccessTakesTheFinishBack()
 {
     WizardBed bed;
-    open(bed, lightScreen);
+    open(bed, lightScreen.className);
     LogCollector log;
     bed.click("lightSuccessView");
     bed.click("lightFailView");
@@ -128,7 +132,7 @@ void OutcomeTests::failureAfterSuccessTakesTheFinishBack()
 void OutcomeTests::panelOutcomeLogs()
 {
     WizardBed bed;
-    open(bed, panelScreen);
+    open(bed, panelScreen.className);
     LogCollector log;
     bed.click("wpsFailedView");
     bed.click("wpsSuccessView");
@@ -162,6 +166,40 @@ void OutcomeTests::completionOpensThePanelOnlyWhenTicked()
     QCOMPARE(status, 0);
     QCOMPARE(bed.desktop.panelWasOpened(), ticks == 1);
     QCOMPARE(log.lines().first(), u"info: 🏷"_s);
+}
+
+void OutcomeTests::missingPanelIsSaidBeforeTheEnd_data()
+{
+    QTest::addColumn<QByteArray>("screen");
+    QTest::addColumn<QByteArray>("success");
+    QTest::addColumn<QByteArray>("finish");
+    QTest::newRow("completion") << QByteArray("WTCompleteView") << QByteArray() << QByteArray("complateBtn");
+    QTest::newRow("panel") << QByteArray(panelScreen.className) << QByteArray(panelScreen.success)
+                           << QByteArray(panelScreen.finish);
+    QTest::newRow("light") << QByteArray(lightScreen.className) << QByteArray(lightScreen.success)
+                           << QByteArray(lightScreen.finish);
+}
+
+void OutcomeTests::missingPanelIsSaidBeforeTheEnd()
+{
+    QFETCH(QByteArray, screen);
+    QFETCH(QByteArray, success);
+    QFETCH(QByteArray, finish);
+    WizardBed bed;
+    bed.desktop.hasPanels = false;
+    open(bed, screen);
+    if (!success.isEmpty())
+        bed.click(success);
+    bed.click("addPrinter");
+    bed.click(finish);
+    auto *alert = bed.window().findChild<QMessageBox *>();
+    QVERIFY(alert->informativeText().contains(u"http://localhost:631"_s));
+    QCOMPARE(bed.processEnds, 0);
+    QTimer::singleShot(0, alert, [alert] { alert->buttons().constFirst()->click(); });
+    if (success.isEmpty())
+        QCOMPARE(QCoreApplication::exec(), 0);
+    else
+        QTRY_COMPARE(bed.processEnds, 1);
 }
 
 void OutcomeTests::failureScreenSaysWhatHappened()
@@ -207,24 +245,25 @@ void OutcomeTests::wayBackSaysWhy()
 
 void OutcomeTests::completionShowsTheAddress_data()
 {
-    QTest::addColumn<bool>("answers");
+    QTest::addColumn<PrinterReach>("reach");
     QTest::addColumn<QString>("said");
-    QTest::newRow("reached") << true << u"此电脑可以连上打印机。"_s;
-    QTest::newRow("kept apart") << false << u"访客网络"_s;
+    QTest::newRow("reached") << PrinterReach::Answers << u"此电脑可以连上打印机。"_s;
+    QTest::newRow("no network printer") << PrinterReach::Refuses << u"IPP"_s;
+    QTest::newRow("kept apart") << PrinterReach::Silent << u"访客网络"_s;
 }
 
 void OutcomeTests::completionShowsTheAddress()
 {
     QFETCH(QString, said);
     WizardBed bed;
-    QFETCH(bool, answers);
-    bed.spooler.answers = answers;
+    QFETCH(PrinterReach, reach);
+    bed.spooler.reach = reach;
     auto *complete = bed.screen<WTCompleteView>();
     complete->setAddress(u"192.168.1.77"_s);
     bed.window().setContentView(complete);
     QCOMPARE(qobject_cast<QLabel *>(bed.widget("printerAddress"))->text(), u"192.168.1.77"_s);
-    const auto *reach = qobject_cast<QLabel *>(bed.widget("reach"));
-    QTRY_VERIFY(reach->text().contains(said));
+    const auto *line = qobject_cast<QLabel *>(bed.widget("reach"));
+    QTRY_VERIFY(line->text().contains(said));
     bed.click("copyAddress");
     QCOMPARE(QGuiApplication::clipboard()->text(), u"192.168.1.77"_s);
 

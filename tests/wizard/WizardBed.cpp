@@ -15,7 +15,7 @@
 
 QString TracingDesktop::addPrinterCommandLine()
 {
-    return QStringLiteral("touch '%1'").arg(tracePath());
+    return hasPanels ? QStringLiteral("touch '%1'").arg(tracePath()) : QString();
 }
 
 bool TracingDesktop::panelWasOpened() const

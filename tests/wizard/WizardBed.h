@@ -12,6 +12,8 @@
 class TracingDesktop : public FakeDesktop
 {
 public:
+    bool hasPanels = true;
+
     QString addPrinterCommandLine() override;
     QString privacySettingsCommandLine() override { return addPrinterCommandLine(); }
     bool panelWasOpened() const;

@@ -2,7 +2,7 @@
 
 #include "ButtonLook.h"
 #include "ButtonSchemes.h"
-#include "DesktopPort.h"
+#include "DesktopPanel.h"
 #include "EntryAlerts.h"
 #include "Localized.h"
 #include "Log.h"
@@ -14,7 +14,6 @@
 #include "ScreenFrame.h"
 #include "WTApp.h"
 #include "WTButton.h"
-#include "WTCommand.h"
 #include "WTDefaultStyleBtn.h"
 #include "WTInstallingView.h"
 #include "WTListView.h"
@@ -311,10 +310,14 @@ void WTWiFiListView::showLocationAlert()
                       .informativeText = localized(u"请打开定位服务，步骤：系统设置->隐私与安全性->隐私->定位服务。"_s),
                       .buttons = {localized(u"前往设置"_s), localized(u"取消"_s)}};
     showAlert(window(), alert, [this](int response) {
-        m_asksForLocation = false;
+        const auto leave = [this] {
+            m_asksForLocation = false;
+            back();
+        };
         if (response == alertFirstButtonReturn)
-            WTCommand::executeShellScript(m_desktop.privacySettingsCommandLine());
-        back();
+            DesktopPanel::openPrivacySettings(window(), m_desktop, leave);
+        else
+            leave();
     });
 }
 
@@ -347,8 +350,8 @@ void WTWiFiListView::next()
     case NetworkEntry::Next::UnusableName:
         logWarning("network name refused");
         break;
-    case NetworkEntry::Next::PasswordTooLong:
-        EntryAlerts::refuseLongPassword(window());
+    case NetworkEntry::Next::UnusablePassword:
+        EntryAlerts::refusePassword(window(), entry.password);
         break;
     case NetworkEntry::Next::Go:
         logInfo("ssid👉🏻%@", visibleText(entry.name));

@@ -79,7 +79,7 @@ private:
     WTInstallingView *m_installingView = nullptr;
     WTWiFiListViewModel *m_viewModel;
     bool m_enableRefresh = true;
-    bool m_asksForLocation = false; ///< The location alert is open.
+    bool m_asksForLocation = false; ///< The location alert, or what follows from it, is open.
     /// The refresh button gets the keyboard back: it lost it to the list when it was disabled.
     bool m_returnsKeyboard = false;
 

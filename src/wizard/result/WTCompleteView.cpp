@@ -2,14 +2,13 @@
 
 #include "AddressPanel.h"
 #include "ButtonSchemes.h"
-#include "DesktopPort.h"
+#include "DesktopPanel.h"
 #include "Localized.h"
 #include "Log.h"
 #include "ResultPanel.h"
 #include "ScreenFrame.h"
 #include "WTApp.h"
 #include "WTButton.h"
-#include "WTCommand.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -31,12 +30,11 @@ WTCompleteView::WTCompleteView(DesktopPort &desktop, SpoolerPort &spooler, QWidg
 
     m_title->setAdvice(localized(
         u"现在可以拔掉USB数据线了。要在这台电脑上打印，请把打印机添加到系统：勾选下面的选项，然后点击“完成并退出”。"_s));
-    m_title->addBelow(m_address);
     m_title->addBelow(m_addPrinter);
+    m_title->addBelow(m_address);
     auto *frame = new ScreenFrame(this, WizardStep::Done);
     frame->setHeading(localized(u"打印机已连上无线网络"_s));
     frame->content()->addWidget(m_title);
-    frame->content()->addStretch(1);
     frame->setMainButton(m_complateBtn);
     frame->setFirstFocus(m_complateBtn);
 }
@@ -65,6 +63,7 @@ void WTCompleteView::over()
 {
     logInfo("🏷");
     if (m_isSelectFlag)
-        WTCommand::executeShellScript(m_desktop.addPrinterCommandLine());
-    WTApp::wt_exitApp();
+        DesktopPanel::openAddPrinter(window(), m_desktop, &WTApp::wt_exitApp);
+    else
+        WTApp::wt_exitApp();
 }

@@ -21,7 +21,5 @@ WTConfigStateInfoView::WTConfigStateInfoView(DesktopPort &desktop, ProcessEnd pr
 
 void WTConfigStateInfoView::finishAction()
 {
-    if (isSelectFlag())
-        openAddPrinterPanel();
-    endWhenSucceeded();
+    openAddPrinterPanel([this] { endWhenSucceeded(); });
 }

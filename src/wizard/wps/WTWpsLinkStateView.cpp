@@ -34,10 +34,10 @@ void WTWpsLinkStateView::addPrinterNow()
 
 void WTWpsLinkStateView::finish()
 {
-    if (isSelectFlag()) {
+    if (isSelectFlag())
         logInfo("Open System Add Printer Tab");
-        openAddPrinterPanel();
-    }
-    logErrorSynchronously("Done");
-    endWhenSucceeded();
+    openAddPrinterPanel([this] {
+        logErrorSynchronously("Done");
+        endWhenSucceeded();
+    });
 }

@@ -1,12 +1,11 @@
 #include "WpsOutcomeView.h"
 
 #include "ButtonSchemes.h"
-#include "DesktopPort.h"
+#include "DesktopPanel.h"
 #include "Localized.h"
 #include "ScreenFrame.h"
 #include "TilePair.h"
 #include "WTButton.h"
-#include "WTCommand.h"
 #include "WTLog.h"
 
 #include <cstdlib>
@@ -72,9 +71,12 @@ void WpsOutcomeView::addPrinterNow()
     ButtonSchemes::showChecked(*m_addPrinter, m_isSelectFlag);
 }
 
-void WpsOutcomeView::openAddPrinterPanel()
+void WpsOutcomeView::openAddPrinterPanel(std::function<void()> afterwards)
 {
-    WTCommand::executeShellScript(m_desktop.addPrinterCommandLine());
+    if (m_isSelectFlag)
+        DesktopPanel::openAddPrinter(window(), m_desktop, std::move(afterwards));
+    else
+        afterwards();
 }
 
 void WpsOutcomeView::endWhenSucceeded()

@@ -41,7 +41,8 @@ protected:
 
     bool succeeded() const { return m_success->isSelect(); }
     WTButton *finishButton() const { return m_finish; }
-    void openAddPrinterPanel();
+    /// Opens the desktop's panel, if the person asked for it. `afterwards` is called in any case, once.
+    void openAddPrinterPanel(std::function<void()> afterwards);
     /// Ends the process if success was reported.
     void endWhenSucceeded();
 

@@ -8,6 +8,7 @@
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -82,7 +83,10 @@ QStringList ListBed::shownNames()
 
 QMessageBox *ListBed::alert()
 {
-    return window().findChild<QMessageBox *>();
+    // A sheet that was answered is destroyed a moment later.
+    const auto sheets = window().findChildren<QMessageBox *>();
+    const auto open = std::ranges::find_if(sheets, &QWidget::isVisible);
+    return open == sheets.end() ? nullptr : *open;
 }
 
 void ListBed::clickAndWait(const char *button, const std::function<void()> &meanwhile)

@@ -116,6 +116,15 @@ void WTWiFiListViewTests::settingsOpenFromTheAlert()
     bed.alert()->buttons().constFirst()->click();
     QTRY_VERIFY(bed.desktop.panelWasOpened());
     QCOMPARE(bed.shown(), QByteArray("WTStartView"));
+
+    // A desktop without them says so ahead of leaving.
+    bed.desktop.hasPanels = false;
+    bed.enter();
+    bed.alert()->buttons().constFirst()->click();
+    QTRY_VERIFY(bed.alert() && bed.alert()->informativeText().contains(u"无法从这里打开系统设置"_s));
+    QCOMPARE(bed.shown(), QByteArray("WTWiFiListView"));
+    bed.alert()->buttons().constFirst()->click();
+    QTRY_COMPARE(bed.shown(), QByteArray("WTStartView"));
 }
 
 void WTWiFiListViewTests::whatIsTypedDuringASearchStays()
