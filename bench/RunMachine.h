@@ -27,7 +27,7 @@ public:
         return answer;
     }
 
-    bool printerAnswers(const QString &, std::chrono::milliseconds) override { return true; }
+    PrinterReach printerReach(const QString &, std::chrono::milliseconds) override { return PrinterReach::Answers; }
 
     Samples questions;
 
