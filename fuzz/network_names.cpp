@@ -3,7 +3,7 @@
 /// name, the password up to a line end, the device ID.
 #include "AccessPointSecurity.h"
 #include "Fuzz.h"
-#include "GlibPointer.h"
+#include "HostileName.h"
 #include "Ieee1284DeviceID.h"
 #include "PjlEnvelope.h"
 #include "PrinterCommand.h"
@@ -14,7 +14,6 @@
 #include "WTLogMessage.h"
 #include "WTWiFi.h"
 #include "WiFiConfigurationPayload.h"
-#include "WirelessDevice.h"
 #include "cutText.h"
 #include "untrustedText.h"
 
@@ -22,36 +21,14 @@
 
 using namespace Qt::Literals::StringLiterals;
 using Fuzz::require;
+using HostileName::showsAll;
 
 namespace
 {
 
-constexpr qsizetype longestAirName = 32;
-
 bool isWellFormed(const QString &text)
 {
     return text.isValidUtf16();
-}
-
-/// Whether `text` stays on its line and shows all that it holds, from left to right where it is not Arabic or Hebrew.
-bool showsAll(const QString &text)
-{
-    static const QString marks = u"\u061c\u200e\u200f"_s;
-    return std::ranges::none_of(text, [](QChar character) {
-        const QChar::Direction direction = character.direction();
-        return character.category() == QChar::Other_Control || character.category() == QChar::Separator_Line ||
-               character.category() == QChar::Separator_Paragraph || marks.contains(character) ||
-               (direction >= QChar::DirLRE && direction <= QChar::DirPDF && direction != QChar::DirAL) ||
-               (direction >= QChar::DirLRI && direction <= QChar::DirPDI);
-    });
-}
-
-QString nameFromTheAir(QByteArrayView bytes)
-{
-    GBytes *raw = g_bytes_new(bytes.data(), gsize(bytes.size()));
-    const QString name = readableName(raw);
-    g_bytes_unref(raw);
-    return name;
 }
 
 void checkCut(const QString &text)
@@ -108,9 +85,9 @@ void checkPayload(const QString &name, const QString &password)
 
 void checkNetwork(QByteArrayView bytes, const QString &password)
 {
-    const QByteArrayView onAir = bytes.first(std::min(bytes.size(), longestAirName));
+    const QByteArrayView onAir = bytes.first(std::min(bytes.size(), HostileName::longest));
     WTWiFi network;
-    network.SSID = nameFromTheAir(onAir);
+    network.SSID = HostileName::fromTheAir(onAir);
     const QString &name = *network.SSID;
     require(isWellFormed(name), "a name is readable");
     require(name.isEmpty() == (onAir.count('\0') == onAir.size()), "only no name is empty");

@@ -171,7 +171,7 @@ void WTInstallingView::showNetwork()
     const WTPrinterPtr printer = m_run->printer();
     const WTWiFiPtr wifi = m_run->wifi();
     if (printer && wifi)
-        m_network->setText(printer->printerType() + u"  →  "_s + wifi->SSID.value_or(QString()));
+        m_network->setText(printer->printerType() + u"  →  "_s + wifi->shownSSID().value_or(QString()));
 }
 
 void WTInstallingView::showStep(RunStep step, int attempt)
