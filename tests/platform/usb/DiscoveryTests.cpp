@@ -77,6 +77,20 @@ private Q_SLOTS:
         QCOMPARE(list().size(), 1U);
         QCOMPARE(bed.bus.deviceIDQuestions(), 2);
     }
+
+    // The thirteenth device hangs on a hub in port 13.
+    void aPrinterBehindAHub()
+    {
+        UsbTestBed bed;
+        int last = 0;
+        for (int number = 1; number <= 13; ++number)
+            last = bed.bus.addPrinter();
+        bed.bus.plug(last);
+        const UsbDeviceList devices = bed.await([&] { return bed.port.devices(ourVendors); });
+        QCOMPARE(devices.size(), 1U);
+        QCOMPARE(devices.front().locationID, 0x01D10000U);
+        QCOMPARE(devices.front().serialNumber, ModelIdentity().serialNumber);
+    }
 };
 
 QTEST_GUILESS_MAIN(DiscoveryTests)
