@@ -46,6 +46,17 @@ WTView *open(WizardBed &bed, const QByteArray &className)
     return nullptr;
 }
 
+/// What a screen reader finds below an element: the names of all that shows.
+QStringList spoken(QAccessibleInterface *element)
+{
+    QStringList names{element->text(QAccessible::Name)};
+    for (int index = 0; index < element->childCount(); ++index) {
+        if (QAccessibleInterface *child = element->child(index); !child->state().invisible)
+            names += spoken(child);
+    }
+    return names;
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(OutcomeScreen)
@@ -233,6 +244,8 @@ void OutcomeTests::wayBackSaysWhy()
     const auto text = [&](const char *name) { return qobject_cast<QLabel *>(bed.widget(name))->text(); };
     QCOMPARE(text("cause"), u"It is held."_s);
     QVERIFY(failed->findChildren<QLabel *>().contains(qobject_cast<QLabel *>(bed.widget("cause"))));
+    const QStringList read = spoken(QAccessible::queryAccessibleInterface(&bed.window()));
+    QVERIFY(read.contains(u"It is held."_s) && read.contains(u"Close it."_s));
     QVERIFY(!bed.widget("detailsLine")->isVisible());
     QTest::mouseClick(bed.widget("details"), Qt::LeftButton);
     QVERIFY(bed.widget("detailsLine")->isVisible());

@@ -1,6 +1,7 @@
 #include "InfoList.h"
 #include "KSPasswordField.h"
 #include "LiveLabel.h"
+#include "Palette.h"
 #include "PasswordStrengthView.h"
 #include "Rows.h"
 #include "WTCustomTextFieldFromatter.h"
@@ -169,6 +170,7 @@ private Q_SLOTS:
         eachRow(
             {
                 {"below", -1, 0},
+                {"inside", 35, 35},
                 {"above", 101, 100},
             },
             [&](int set, int shown) {
@@ -179,6 +181,13 @@ private Q_SLOTS:
                 QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&bar);
                 QCOMPARE(interface->role(), QAccessible::ProgressBar);
                 QCOMPARE(interface->valueInterface()->currentValue().toInt(), shown);
+                bar.resize(1000, bar.sizeHint().height());
+                const QImage picture = bar.grab().toImage();
+                const auto isFilled = [&](int percent) {
+                    return picture.pixelColor(percent * 10, picture.height() / 2) == Palette::focusBlue;
+                };
+                QVERIFY(shown == 0 || isFilled(shown - 2));
+                QVERIFY(shown == 100 || !isFilled(shown + 2));
             });
     }
 };

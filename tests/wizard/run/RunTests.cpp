@@ -68,6 +68,10 @@ private Q_SLOTS:
                 QCOMPARE(bed.failed().showWiFiCapabilityError(), capabilityError >= 0);
                 QCOMPARE(int(bed.failed().wifiCapabilityError()), std::max(capabilityError, 0));
                 QCOMPARE(printer->ip, ip);
+                // The window closes without a question behind a success and where nothing was sent.
+                const bool quits = screen == Screen::Complete || bed.sends(Configuration) == 0;
+                QCOMPARE(WTManager::shared().closeEnable(),
+                         qint64(quits ? WTManager::CloseQuits : WTManager::CloseAsks));
                 if (bed.sends(Configuration) > 0) {
                     QCOMPARE(bed.bus().record().networkName, networkName.toUtf8());
                     QCOMPARE(bed.bus().record().password, password.toUtf8());
