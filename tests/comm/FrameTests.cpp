@@ -87,8 +87,8 @@ private Q_SLOTS:
                 {"password that ends the printer's job", u"n"_s, u"\x1b%-12345X"_s, std::nullopt},
             },
             [&](const QString &ssid, const QString &password, const std::optional<QByteArray> &encoded) {
-                const auto payload = WiFiConfigurationPayload::encode(ssid, password);
-                QCOMPARE(payload ? std::optional(payload.value()) : std::nullopt, encoded);
+                const auto sent = WiFiConfigurationPayload::encode(ssid, password);
+                QCOMPARE(sent ? std::optional(sent.value()) : std::nullopt, encoded);
             });
     }
 
