@@ -164,6 +164,7 @@ private Q_SLOTS:
             {
                 {"when the timer is due", 0.0, 1.3, true},
                 {"a second early", day - 0.9, day, true},
+                {"what is left of a day", day - 1.6, day, true},
                 {"clock set forward", 2 * day, day, true},
                 {"never", 2 * day, 0.0, false},
             },
@@ -179,13 +180,24 @@ private Q_SLOTS:
                 logger->setRollingFrequency(frequency);
                 QCOMPARE(logger->rollingFrequency(), frequency);
                 // What is due, or is within a second, does not wait for the timer.
-                QCOMPARE(WTLogFileInfo(first).isArchived(), rolls && clockAhead > 0);
+                QCOMPARE(WTLogFileInfo(first).isArchived(), rolls && clockAhead > day - 1);
                 if (rolls)
                     QTRY_COMPARE(manager->told().size(), 1);
                 else
                     QTest::qWait(500);
                 QCOMPARE(manager->told().size(), rolls ? 1 : 0);
             });
+    }
+
+    void staysWithAFileWhosePermissionsChange()
+    {
+        const LogBed bed;
+        const auto logger = loggerOf<WTFileLogger>(std::make_shared<WTLogFileManagerDefault>(bed.folder()));
+        logTo(logger, u"one"_s);
+        QCOMPARE(chmod(QFile::encodeName(bed.path(bed.names().first())), 0400), 0);
+        QTest::qWait(200);
+        logTo(logger, u"two"_s);
+        QCOMPARE(bed.names().size(), 1);
     }
 
     void endsWithoutArchiving()

@@ -66,6 +66,19 @@ private Q_SLOTS:
             });
     }
 
+    void datesOfAFile()
+    {
+        const LogBed bed;
+        const QDateTime start = QDateTime::currentDateTime().addSecs(-2), longAgo = start.addYears(-9);
+        QFile file(bed.leaveFile(u"a.log"_s));
+        QVERIFY(file.open(QIODevice::ReadWrite) && file.setFileTime(longAgo, QFileDevice::FileModificationTime));
+        const WTLogFileInfo info(file.fileName());
+        QCOMPARE(info.modificationDate(), longAgo);
+        if (!QFileInfo(file).birthTime().isValid())
+            QSKIP("this file system keeps no date of birth");
+        QVERIFY(info.creationDate() > start);
+    }
+
     void defaultFolder()
     {
         eachRow(
