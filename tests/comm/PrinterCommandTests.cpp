@@ -160,6 +160,27 @@ private Q_SLOTS:
             });
     }
 
+    void findsPrintersOfBothVendorsUntilTheSearchEnds()
+    {
+        auto &manager = WTManager::shared();
+        ModelIdentity sister;
+        sister.vendorID = 0x6A1C;
+        const int second = m_bed.bus.addPrinter(PrinterModel(sister));
+        m_bed.bus.plug(second);
+        manager.wt_startDiscoverPrinter();
+        QVERIFY(m_bed.runUntil([&] { return manager.printerList().count() == 2; }));
+        QCOMPARE(manager.printerList().objectAtIndex(1)->usbObj->VID, 0x6A1C);
+        manager.wt_stopDiscoverPrinter();
+        const LogCollector log;
+        m_bed.bus.unplug(second);
+        m_bed.time.advance(1s);
+        manager.wt_startDiscoverPrinter();
+        QVERIFY(m_bed.runUntil([&] { return manager.printerList().count() == 1; }));
+        manager.wt_stopDiscoverPrinter();
+        // Only the search that was started anew has told of the change.
+        QCOMPARE(log.lines().filter(u"USB Printers count"_s).size(), 1);
+    }
+
     void refusesAWakeUpWithoutUriAtOnce()
     {
         const LogCollector log;
