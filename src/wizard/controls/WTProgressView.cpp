@@ -49,7 +49,7 @@ void WTProgressView::paintEvent(QPaintEvent *)
     if (value() == 0)
         return;
     QRectF bar = track;
-    bar.setWidth(qMax(track.height(), track.width() * value() / 1000.0));
+    bar.setWidth(qMax(track.height(), track.width() * value() / 100.0));
     painter.setBrush(m_color);
     painter.drawRoundedRect(bar, radius, radius);
 }
