@@ -8,6 +8,7 @@ FOLDER holds the image (see image/build-image.sh); pictures and logs of every st
 """
 
 import errno
+import json
 import re
 import shutil
 import signal
@@ -106,6 +107,14 @@ class Story:
             shutil.move(picture, self._results / picture.name)
         assert result.status == 0, f"status {result.status}\n{result.output[-4000:]}"
 
+    def run_remotely(self, arguments):
+        """The command-line program, as somebody runs it who is not at the computer; its status and what it printed."""
+        command = f"printf '%s\\n' '{PASSWORD}' | wifitoolctl {arguments}"
+        result = self._guest.run(f"/mnt/share/remote-run {USER} \"{command}\"", STORY_LIMIT)
+        with (self._results / "remote.log").open("a") as log:
+            log.write(f"wifitoolctl {arguments}\n{result.output}status {result.status}\n")
+        return result
+
     def keep(self, name, content):
         (self._results / f"{name}.log").write_bytes(content)
 
@@ -113,11 +122,11 @@ class Story:
         """What was on the USB buses, as usbmon tells it: every transfer with its end, and no more than its first 32 bytes."""
         return self._guest.check("cat /run/bus")
 
-    def check_the_secret_is_kept(self):
+    def check_the_secret_is_kept(self, program="wifitool", line="next step"):
         """The journal holds the program's lines; neither it nor any log holds the password."""
-        journal = self._guest.check("journalctl --no-pager -o cat _COMM=wifitool")
-        assert "next step" in journal, f"the journal lacks the program's lines:\n{journal[-2000:]}"
-        logs = self._guest.check(f"cat /home/{USER}/.local/state/Logs/wifitool/*.log")
+        journal = self._guest.check(f"journalctl --no-pager -o cat _COMM={program}")
+        assert line in journal, f"the journal lacks the program's lines:\n{journal[-2000:]}"
+        logs = self._guest.check(f"cat /home/{USER}/.local/state/Logs/{program}/*.log")
         self.keep("journal", journal.encode())
         self.keep("wifitool", logs.encode())
         written = {
@@ -207,6 +216,27 @@ def cut_while_the_address_is_asked_for(guest, story):
     story.check_the_secret_is_kept()
 
 
+def without_a_seat(guest, story):
+    """Over ssh only the group of printers may use one, and needs no display."""
+    printers = [story.plug(1, {}), story.plug(2, {}, "--vendor", "6A1C", "--serial", "QM0002")]
+    join = f"join --network '{NETWORK}' --password-file - --all --json"
+    refused = story.run_remotely(join)
+    assert refused.status == 4, refused
+    assert "signed in at this computer itself" in refused.output, refused.output
+    for printer in printers:
+        expect_frames(printer)
+
+    guest.check(f"usermod -aG lp {USER}")
+    joined = story.run_remotely(join)
+    assert joined.status == 0, joined
+    *_, summary = (json.loads(line) for line in joined.output.splitlines() if line.startswith("{"))
+    assert summary == {"event": "summary", "joined": 2, "failed": 0, "brokenOff": 0}, summary
+    for printer in printers:
+        expect_frames(printer, *ALL_FRAMES)
+    assert PASSWORD not in refused.output + joined.output
+    story.check_the_secret_is_kept("wifitoolctl", "wifitoolctl ends with 0")
+
+
 STORIES = {
     "complete": complete,
     "wrong-password": wrong_password,
@@ -214,6 +244,7 @@ STORIES = {
     "two-printers": two_printers,
     "cut-while-joining": cut_while_joining,
     "cut-while-asking-for-the-address": cut_while_the_address_is_asked_for,
+    "without-a-seat": without_a_seat,
 }
 
 

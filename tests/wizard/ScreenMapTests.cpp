@@ -14,11 +14,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace
-{
-
-} // namespace
-
 /// Which screen follows which, with the mouse, and what the log says of it.
 class ScreenMapTests : public QObject
 {
@@ -49,6 +44,7 @@ private Q_SLOTS:
                     }
                     QCOMPARE(bed.shown(), way.last());
                 }
+                QVERIFY(log.lines().contains(u"info: wt_stopDiscoverPrinter"_s));
                 while (way.size() > 1) {
                     way.removeLast();
                     bed.click("previous");
