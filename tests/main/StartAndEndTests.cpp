@@ -1,4 +1,5 @@
 #include "DemoMachine.h"
+#include "Rows.h"
 #include "WTFileLogger.h"
 #include "WTLog.h"
 #include "WTManager.h"
@@ -124,65 +125,55 @@ class StartAndEndTests : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void closesByTheCloseState_data()
-    {
-        QTest::addColumn<QStringList>("told");
-        const QString file = u"com.wtlog.fileLogger"_s;
-        const QString silent = u"does not ask"_s;
-        const QString rolling = u"86400 s, 104857600 bytes, 7 files"_s, core = u"0 bytes of a core"_s;
-        for (const char *end : {"log out", "terminate"})
-            QTest::newRow(end) << QStringList{u"com.wtlog.osLogger"_s, file, rolling, core};
-        QTest::newRow("confirm") << QStringList{u"com.wtlog.osLogger"_s, file, rolling, core, u"asks"_s, u"stays"_s};
-        QTest::newRow("refuse") << QStringList{u"com.wtlog.aslLogger"_s,
-                                               file,
-                                               rolling,
-                                               core,
-                                               u"asks"_s,
-                                               u"stays"_s,
-                                               silent,
-                                               u"state 2"_s,
-                                               silent,
-                                               u"state 7"_s,
-                                               silent,
-                                               u"state 1"_s};
-    }
-
     void closesByTheCloseState()
     {
-        const QTemporaryDir folder;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"XDG_STATE_HOME"_s, folder.path());
-        environment.insert(u"LC_ALL"_s, u"en_US.UTF-8"_s);
-        QProcess process;
-        process.setProcessEnvironment(environment);
-        process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        process.start(QCoreApplication::applicationFilePath(),
-                      {walkArgument, QString::fromLatin1(QTest::currentDataTag())});
-        QVERIFY(process.waitForFinished());
-        QFETCH(QStringList, told);
-        QCOMPARE(QString::fromUtf8(process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts), told);
-        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(process.exitCode(), 0);
+        const QStringList start{u"com.wtlog.osLogger"_s, u"com.wtlog.fileLogger"_s,
+                                u"86400 s, 104857600 bytes, 7 files"_s, u"0 bytes of a core"_s};
+        const QString asks = u"asks"_s, stays = u"stays"_s, silent = u"does not ask"_s;
+        eachRow(
+            {
+                {"log out", u"log out"_s, start},
+                {"terminate", u"terminate"_s, start},
+                {"confirm", u"confirm"_s, start + QStringList{asks, stays}},
+                {"refuse", u"refuse"_s,
+                 QStringList{u"com.wtlog.aslLogger"_s} + start.sliced(1) +
+                     QStringList{asks, stays, silent, u"state 2"_s, silent, u"state 7"_s, silent, u"state 1"_s}},
+            },
+            [&](const QString &way, const QStringList &told) {
+                const QTemporaryDir folder;
+                QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+                environment.insert(u"XDG_STATE_HOME"_s, folder.path());
+                environment.insert(u"LC_ALL"_s, u"en_US.UTF-8"_s);
+                QProcess process;
+                process.setProcessEnvironment(environment);
+                process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+                process.start(QCoreApplication::applicationFilePath(), {walkArgument, way});
+                QVERIFY(process.waitForFinished());
+                QCOMPARE(QString::fromUtf8(process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts), told);
+                QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+                QCOMPARE(process.exitCode(), 0);
 
-        const QDir logs(folder.filePath(u"Logs/main_tests"_s));
-        const QStringList lines = logLines(logs);
-        QVERIFY2(lines.size() > 15, qPrintable(lines.join(u'\n')));
-        QVERIFY(lines[0].startsWith(u"🟢 ╔══"_s) && lines[8].startsWith(u"🟢 ╚══"_s));
-        QCOMPARE(lines.sliced(9, 5), QStringList({u"🟢 System Version: Demo machine"_s,
-                                                  u"🟢 App Version: 1.0.0 (100)"_s, u"🟢 NSLocaleLanguageCode:en"_s,
-                                                  u"🟢 App Language:en"_s, u"🟢 Local Language: en"_s}));
-        const QString libraryLog = logs.filePath(u"WTCore-WiFiTool.log"_s);
-        QVERIFY2(lines[14].endsWith(u"设置中间日志的路径："_s + libraryLog), qPrintable(lines[14]));
-        QVERIFY(QFile::exists(libraryLog));
+                const QDir logs(folder.filePath(u"Logs/main_tests"_s));
+                const QStringList lines = logLines(logs);
+                QVERIFY2(lines.size() > 15, qPrintable(lines.join(u'\n')));
+                QVERIFY(lines[0].startsWith(u"🟢 ╔══"_s) && lines[8].startsWith(u"🟢 ╚══"_s));
+                QCOMPARE(lines.sliced(9, 5),
+                         QStringList({u"🟢 System Version: Demo machine"_s, u"🟢 App Version: 1.0.0 (100)"_s,
+                                      u"🟢 NSLocaleLanguageCode:en"_s, u"🟢 App Language:en"_s,
+                                      u"🟢 Local Language: en"_s}));
+                const QString libraryLog = logs.filePath(u"WTCore-WiFiTool.log"_s);
+                QVERIFY2(lines[14].endsWith(u"设置中间日志的路径："_s + libraryLog), qPrintable(lines[14]));
+                QVERIFY(QFile::exists(libraryLog));
 
-        QStringList warnings = lines.filter(QRegularExpression(u"^⚠️ "_s));
-        if (!told.contains(u"asks"_s))
-            QCOMPARE(warnings.takeFirst(),
-                     u"⚠️ The session ends; the configuration that is under way is broken off."_s);
-        QCOMPARE(warnings.size(), 10);
-        QVERIFY(warnings.first().startsWith(u"⚠️ ╔══"_s));
-        QVERIFY(warnings.last().startsWith(u"⚠️ ╚══"_s));
-        QCOMPARE(lines.last(), warnings.last());
+                QStringList warnings = lines.filter(QRegularExpression(u"^⚠️ "_s));
+                if (!told.contains(asks))
+                    QCOMPARE(warnings.takeFirst(),
+                             u"⚠️ The session ends; the configuration that is under way is broken off."_s);
+                QCOMPARE(warnings.size(), 10);
+                QVERIFY(warnings.first().startsWith(u"⚠️ ╔══"_s));
+                QVERIFY(warnings.last().startsWith(u"⚠️ ╚══"_s));
+                QCOMPARE(lines.last(), warnings.last());
+            });
     }
 };
 

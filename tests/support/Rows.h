@@ -26,18 +26,3 @@ void eachRow(std::initializer_list<RowOf<Test>> rows, const Test &test)
             return qCritical("This was the row \"%s\".", std::get<0>(row));
     }
 }
-
-/// The table of a `_data` function: it names the columns when it is made, and each call adds a row.
-template <typename... Values>
-class Rows
-{
-public:
-    template <typename... Names>
-    explicit Rows(const Names &...columns)
-    {
-        static_assert(sizeof...(Names) == sizeof...(Values));
-        (QTest::addColumn<Values>(columns), ...);
-    }
-
-    void operator()(const char *name, const Values &...values) const { (QTest::newRow(name) << ... << values); }
-};

@@ -1,4 +1,5 @@
 #include "LogCollector.h"
+#include "Rows.h"
 #include "WTButton.h"
 #include "WTCompleteView.h"
 #include "WTConfigFailedView.h"
@@ -59,230 +60,189 @@ QStringList spoken(QAccessibleInterface *element)
 
 } // namespace
 
-Q_DECLARE_METATYPE(OutcomeScreen)
-
 /// The screens a person ends on.
 class OutcomeTests : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void wpsOutcome_data();
-    void wpsOutcome();
-    void failureAfterSuccessTakesTheFinishBack();
-    void panelOutcomeLogs();
-    void completionOpensThePanelOnlyWhenTicked_data();
-    void completionOpensThePanelOnlyWhenTicked();
-    void missingPanelIsSaidBeforeTheEnd_data();
-    void missingPanelIsSaidBeforeTheEnd();
-    void failureScreenSaysWhatHappened();
-    void wayBackSaysWhy();
-    void completionShowsTheAddress_data();
-    void completionShowsTheAddress();
-};
+    void wpsOutcome()
+    {
+        eachRow(
+            {
+                {"success", true, 0, false},
+                {"success, panel", true, 1, true},
+                {"success, ticked twice", true, 2, false},
+                {"failure, panel", false, 1, true},
+            },
+            [&](bool success, int ticks, bool opensPanel) {
+                for (const OutcomeScreen &screen : {panelScreen, lightScreen}) {
+                    WizardBed bed;
+                    WTView *view = open(bed, screen.className);
+                    QVERIFY(!bed.widget(screen.finish)->isEnabled());
+                    bed.click(success ? screen.success : screen.failure);
+                    QCOMPARE(bed.widget(screen.finish)->isEnabled(), success);
+                    for (int tick = 0; tick < ticks; ++tick)
+                        bed.click("addPrinter");
+                    auto *box = qobject_cast<WTButton *>(bed.widget("addPrinter"));
+                    QCOMPARE(box->imageName(), ticks % 2 == 1 ? u"icon_selected 1"_s : u"Rectangle 394"_s);
+                    QCOMPARE(QAccessible::queryAccessibleInterface(box)->role(), QAccessible::CheckBox);
+                    QCOMPARE(bool(QAccessible::queryAccessibleInterface(box)->state().checked), ticks % 2 == 1);
 
-void OutcomeTests::wpsOutcome_data()
-{
-    QTest::addColumn<OutcomeScreen>("screen");
-    QTest::addColumn<bool>("success");
-    QTest::addColumn<int>("ticks");
-    QTest::addColumn<bool>("opensPanel");
-
-    for (const OutcomeScreen &screen : {panelScreen, lightScreen}) {
-        QTest::addRow("%s success", screen.className) << screen << true << 0 << false;
-        QTest::addRow("%s success, panel", screen.className) << screen << true << 1 << true;
-        QTest::addRow("%s success, ticked twice", screen.className) << screen << true << 2 << false;
-        QTest::addRow("%s failure, panel", screen.className) << screen << false << 1 << true;
+                    LogCollector log;
+                    if (auto *panel = qobject_cast<WTWpsLinkStateView *>(view))
+                        panel->finish();
+                    else
+                        qobject_cast<WTConfigStateInfoView *>(view)->finishAction();
+                    // "Done" is written before the call returns, since the process may end right after.
+                    QCOMPARE(log.writtenSoFar().contains(u"error: Done"_s), screen.logs);
+                    QCOMPARE(log.lines().contains(u"info: Open System Add Printer Tab"_s), screen.logs && opensPanel);
+                    QCOMPARE(bed.desktop.panelWasOpened(), opensPanel);
+                    QCOMPARE(bed.processEnds, success ? 1 : 0);
+                }
+            });
     }
-}
 
-void OutcomeTests::wpsOutcome()
-{
-    QFETCH(OutcomeScreen, screen);
-    QFETCH(bool, success);
-    QFETCH(int, ticks);
-    QFETCH(bool, opensPanel);
-    WizardBed bed;
-    WTView *view = open(bed, screen.className);
-    QVERIFY(!bed.widget(screen.finish)->isEnabled());
-    bed.click(success ? screen.success : screen.failure);
-    QCOMPARE(bed.widget(screen.finish)->isEnabled(), success);
-    for (int tick = 0; tick < ticks; ++tick)
+    void failureAfterSuccessTakesTheFinishBack()
+    {
+        WizardBed bed;
+        open(bed, lightScreen.className);
+        LogCollector log;
+        bed.click("lightSuccessView");
+        bed.click("lightFailView");
+        QVERIFY(!bed.widget("stateFinishBtn")->isEnabled());
+        QVERIFY(!qobject_cast<WTHoverView *>(bed.widget("lightSuccessView"))->isSelect());
+        QTest::keyClick(bed.window().windowHandle(), Qt::Key_Return);
+        QCOMPARE(bed.processEnds, 0);
+        QCOMPARE(log.lines(), QStringList());
+    }
+
+    void panelOutcomeLogs()
+    {
+        WizardBed bed;
+        open(bed, panelScreen.className);
+        LogCollector log;
+        bed.click("wpsFailedView");
+        bed.click("wpsSuccessView");
         bed.click("addPrinter");
-    auto *box = qobject_cast<WTButton *>(bed.widget("addPrinter"));
-    QCOMPARE(box->imageName(), ticks % 2 == 1 ? u"icon_selected 1"_s : u"Rectangle 394"_s);
-    QCOMPARE(QAccessible::queryAccessibleInterface(box)->role(), QAccessible::CheckBox);
-    QCOMPARE(bool(QAccessible::queryAccessibleInterface(box)->state().checked), ticks % 2 == 1);
-
-    LogCollector log;
-    if (auto *panel = qobject_cast<WTWpsLinkStateView *>(view))
-        panel->finish();
-    else
-        qobject_cast<WTConfigStateInfoView *>(view)->finishAction();
-    // "Done" is written before the call returns, since the process may end right after.
-    QCOMPARE(log.writtenSoFar().contains(u"error: Done"_s), screen.logs);
-    QCOMPARE(log.lines().contains(u"info: Open System Add Printer Tab"_s), screen.logs && opensPanel);
-    QCOMPARE(bed.desktop.panelWasOpened(), opensPanel);
-    QCOMPARE(bed.processEnds, success ? 1 : 0);
-}
-
-void OutcomeTests::failureAfterSuccessTakesTheFinishBack()
-{
-    WizardBed bed;
-    open(bed, lightScreen.className);
-    LogCollector log;
-    bed.click("lightSuccessView");
-    bed.click("lightFailView");
-    QVERIFY(!bed.widget("stateFinishBtn")->isEnabled());
-    QVERIFY(!qobject_cast<WTHoverView *>(bed.widget("lightSuccessView"))->isSelect());
-    QTest::keyClick(bed.window().windowHandle(), Qt::Key_Return);
-    QCOMPARE(bed.processEnds, 0);
-    QCOMPARE(log.lines(), QStringList());
-}
-
-void OutcomeTests::panelOutcomeLogs()
-{
-    WizardBed bed;
-    open(bed, panelScreen.className);
-    LogCollector log;
-    bed.click("wpsFailedView");
-    bed.click("wpsSuccessView");
-    bed.click("addPrinter");
-    bed.click("addPrinter");
-    QCOMPARE(log.lines(), (QStringList{u"info: Selected Connect Failure"_s, u"info: Selected Connect Success"_s,
-                                       u"info: Add Printer ? YES"_s, u"info: Add Printer ? NO"_s}));
-}
-
-void OutcomeTests::completionOpensThePanelOnlyWhenTicked_data()
-{
-    QTest::addColumn<int>("ticks");
-    QTest::newRow("not ticked") << 0;
-    QTest::newRow("ticked") << 1;
-    QTest::newRow("ticked twice") << 2;
-}
-
-void OutcomeTests::completionOpensThePanelOnlyWhenTicked()
-{
-    QFETCH(int, ticks);
-    WizardBed bed;
-    bed.window().setContentView(bed.screen<WTCompleteView>());
-    QVERIFY(bed.widget("complateBtn")->hasFocus());
-    QCOMPARE(bed.widget("title")->findChild<QLabel *>(u"message"_s)->text(), u"恭喜，您完成了无线网络配置！"_s);
-    for (int tick = 0; tick < ticks; ++tick)
         bed.click("addPrinter");
-    LogCollector log;
-    int status = -1;
-    QTimer::singleShot(0, &bed.window(), [&bed] { bed.click("complateBtn"); });
-    status = QCoreApplication::exec();
-    QCOMPARE(status, 0);
-    QCOMPARE(bed.desktop.panelWasOpened(), ticks == 1);
-    QCOMPARE(log.lines().first(), u"info: 🏷"_s);
-}
+        QCOMPARE(log.lines(), (QStringList{u"info: Selected Connect Failure"_s, u"info: Selected Connect Success"_s,
+                                           u"info: Add Printer ? YES"_s, u"info: Add Printer ? NO"_s}));
+    }
 
-void OutcomeTests::missingPanelIsSaidBeforeTheEnd_data()
-{
-    QTest::addColumn<QByteArray>("screen");
-    QTest::addColumn<QByteArray>("success");
-    QTest::addColumn<QByteArray>("finish");
-    QTest::newRow("completion") << QByteArray("WTCompleteView") << QByteArray() << QByteArray("complateBtn");
-    QTest::newRow("panel") << QByteArray(panelScreen.className) << QByteArray(panelScreen.success)
-                           << QByteArray(panelScreen.finish);
-    QTest::newRow("light") << QByteArray(lightScreen.className) << QByteArray(lightScreen.success)
-                           << QByteArray(lightScreen.finish);
-}
+    void completionOpensThePanelOnlyWhenTicked()
+    {
+        for (const int ticks : {0, 1, 2}) {
+            WizardBed bed;
+            bed.window().setContentView(bed.screen<WTCompleteView>());
+            QVERIFY(bed.widget("complateBtn")->hasFocus());
+            const auto *message = bed.widget("title")->findChild<QLabel *>(u"message"_s);
+            QCOMPARE(message->text(), u"恭喜，您完成了无线网络配置！"_s);
+            for (int tick = 0; tick < ticks; ++tick)
+                bed.click("addPrinter");
+            LogCollector log;
+            QTimer::singleShot(0, &bed.window(), [&bed] { bed.click("complateBtn"); });
+            QCOMPARE(QCoreApplication::exec(), 0);
+            QCOMPARE(bed.desktop.panelWasOpened(), ticks == 1);
+            QCOMPARE(log.lines().first(), u"info: 🏷"_s);
+        }
+    }
 
-void OutcomeTests::missingPanelIsSaidBeforeTheEnd()
-{
-    QFETCH(QByteArray, screen);
-    QFETCH(QByteArray, success);
-    QFETCH(QByteArray, finish);
-    WizardBed bed;
-    bed.desktop.hasPanels = false;
-    open(bed, screen);
-    if (!success.isEmpty())
-        bed.click(success);
-    bed.click("addPrinter");
-    bed.click(finish);
-    auto *alert = bed.window().findChild<QMessageBox *>();
-    QVERIFY(alert->informativeText().contains(u"http://localhost:631"_s));
-    QCOMPARE(bed.processEnds, 0);
-    QTimer::singleShot(0, alert, [alert] { alert->buttons().constFirst()->click(); });
-    if (success.isEmpty())
+    void missingPanelIsSaidBeforeTheEnd()
+    {
+        eachRow(
+            {
+                {"completion", "WTCompleteView", nullptr, "complateBtn"},
+                {"panel", panelScreen.className, panelScreen.success, panelScreen.finish},
+                {"light", lightScreen.className, lightScreen.success, lightScreen.finish},
+            },
+            [&](const char *screen, const char *success, const char *finish) {
+                WizardBed bed;
+                bed.desktop.hasPanels = false;
+                open(bed, screen);
+                if (success)
+                    bed.click(success);
+                bed.click("addPrinter");
+                bed.click(finish);
+                auto *alert = bed.window().findChild<QMessageBox *>();
+                QVERIFY(alert->informativeText().contains(u"http://localhost:631"_s));
+                QCOMPARE(bed.processEnds, 0);
+                QTimer::singleShot(0, alert, [alert] { alert->buttons().constFirst()->click(); });
+                if (success)
+                    QTRY_COMPARE(bed.processEnds, 1);
+                else
+                    QCOMPARE(QCoreApplication::exec(), 0);
+            });
+    }
+
+    void failureScreenSaysWhatHappened()
+    {
+        WizardBed bed;
+        auto *failed = bed.screen<WTFailedView>();
+        failed->setShowWiFiCapabilityError(true);
+        failed->setWifiCapabilityError(1);
+        bed.window().setContentView(failed);
+        const auto *message = bed.widget("errorMessage")->findChild<QLabel *>(u"message"_s);
+        QCOMPARE(message->text(), u"Wi-Fi故障，打印机配置失败。"_s);
+        QVERIFY(bed.widget("logFolder")->isVisible());
+        QVERIFY(qobject_cast<QLabel *>(bed.widget("logFolder"))
+                    ->text()
+                    .contains(u"file:///home/person/.local/state/Logs/wifitool\""_s));
+
+        // Another reason is shown when the screen appears again.
+        failed->setShowWiFiCapabilityError(false);
+        bed.window().setContentView(failed);
+        QCOMPARE(message->text(), u"配网失败"_s);
+        QTimer::singleShot(0, &bed.window(), [&bed] { bed.click("complateBtn"); });
         QCOMPARE(QCoreApplication::exec(), 0);
-    else
-        QTRY_COMPARE(bed.processEnds, 1);
-}
+    }
 
-void OutcomeTests::failureScreenSaysWhatHappened()
-{
-    WizardBed bed;
-    auto *failed = bed.screen<WTFailedView>();
-    failed->setShowWiFiCapabilityError(true);
-    failed->setWifiCapabilityError(1);
-    bed.window().setContentView(failed);
-    const auto *message = bed.widget("errorMessage")->findChild<QLabel *>(u"message"_s);
-    QCOMPARE(message->text(), u"Wi-Fi故障，打印机配置失败。"_s);
-    QVERIFY(bed.widget("logFolder")->isVisible());
-    QVERIFY(qobject_cast<QLabel *>(bed.widget("logFolder"))
-                ->text()
-                .contains(u"file:///home/person/.local/state/Logs/wifitool\""_s));
+    void wayBackSaysWhy()
+    {
+        WizardBed bed;
+        auto *failed = bed.screen<WTConfigFailedView>();
+        failed->setCause({.cause = u"It is held."_s, .advice = u"Close it."_s, .details = u"WTCOM 31"_s});
+        bed.window().setContentView(failed);
+        const auto text = [&](const char *name) { return qobject_cast<QLabel *>(bed.widget(name))->text(); };
+        QCOMPARE(text("cause"), u"It is held."_s);
+        QVERIFY(failed->findChildren<QLabel *>().contains(qobject_cast<QLabel *>(bed.widget("cause"))));
+        const QStringList read = spoken(QAccessible::queryAccessibleInterface(&bed.window()));
+        QVERIFY(read.contains(u"It is held."_s) && read.contains(u"Close it."_s));
+        QVERIFY(!bed.widget("detailsLine")->isVisible());
+        QTest::mouseClick(bed.widget("details"), Qt::LeftButton);
+        QVERIFY(bed.widget("detailsLine")->isVisible());
+        bed.click("copyDetails");
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"WTCOM 31"_s);
 
-    // Another reason is shown when the screen appears again.
-    failed->setShowWiFiCapabilityError(false);
-    bed.window().setContentView(failed);
-    QCOMPARE(message->text(), u"配网失败"_s);
-    QTimer::singleShot(0, &bed.window(), [&bed] { bed.click("complateBtn"); });
-    QCOMPARE(QCoreApplication::exec(), 0);
-}
+        failed->setCause({});
+        QVERIFY(!bed.widget("cause")->isVisible() && !bed.widget("details")->isVisible());
+    }
 
-void OutcomeTests::wayBackSaysWhy()
-{
-    WizardBed bed;
-    auto *failed = bed.screen<WTConfigFailedView>();
-    failed->setCause({.cause = u"It is held."_s, .advice = u"Close it."_s, .details = u"WTCOM 31"_s});
-    bed.window().setContentView(failed);
-    const auto text = [&](const char *name) { return qobject_cast<QLabel *>(bed.widget(name))->text(); };
-    QCOMPARE(text("cause"), u"It is held."_s);
-    QVERIFY(failed->findChildren<QLabel *>().contains(qobject_cast<QLabel *>(bed.widget("cause"))));
-    const QStringList read = spoken(QAccessible::queryAccessibleInterface(&bed.window()));
-    QVERIFY(read.contains(u"It is held."_s) && read.contains(u"Close it."_s));
-    QVERIFY(!bed.widget("detailsLine")->isVisible());
-    QTest::mouseClick(bed.widget("details"), Qt::LeftButton);
-    QVERIFY(bed.widget("detailsLine")->isVisible());
-    bed.click("copyDetails");
-    QCOMPARE(QGuiApplication::clipboard()->text(), u"WTCOM 31"_s);
+    void completionShowsTheAddress()
+    {
+        eachRow(
+            {
+                {"reached", PrinterReach::Answers, u"此电脑可以连上打印机。"_s},
+                {"no network printer", PrinterReach::Refuses, u"IPP"_s},
+                {"kept apart", PrinterReach::Silent, u"访客网络"_s},
+            },
+            [&](const PrinterReach &reach, const QString &said) {
+                WizardBed bed;
+                bed.spooler.reach = reach;
+                auto *complete = bed.screen<WTCompleteView>();
+                complete->setAddress(u"192.168.1.77"_s);
+                bed.window().setContentView(complete);
+                QCOMPARE(qobject_cast<QLabel *>(bed.widget("printerAddress"))->text(), u"192.168.1.77"_s);
+                const auto *line = qobject_cast<QLabel *>(bed.widget("reach"));
+                QTRY_VERIFY(line->text().contains(said));
+                bed.click("copyAddress");
+                QCOMPARE(QGuiApplication::clipboard()->text(), u"192.168.1.77"_s);
 
-    failed->setCause({});
-    QVERIFY(!bed.widget("cause")->isVisible() && !bed.widget("details")->isVisible());
-}
-
-void OutcomeTests::completionShowsTheAddress_data()
-{
-    QTest::addColumn<PrinterReach>("reach");
-    QTest::addColumn<QString>("said");
-    QTest::newRow("reached") << PrinterReach::Answers << u"此电脑可以连上打印机。"_s;
-    QTest::newRow("no network printer") << PrinterReach::Refuses << u"IPP"_s;
-    QTest::newRow("kept apart") << PrinterReach::Silent << u"访客网络"_s;
-}
-
-void OutcomeTests::completionShowsTheAddress()
-{
-    QFETCH(QString, said);
-    WizardBed bed;
-    QFETCH(PrinterReach, reach);
-    bed.spooler.reach = reach;
-    auto *complete = bed.screen<WTCompleteView>();
-    complete->setAddress(u"192.168.1.77"_s);
-    bed.window().setContentView(complete);
-    QCOMPARE(qobject_cast<QLabel *>(bed.widget("printerAddress"))->text(), u"192.168.1.77"_s);
-    const auto *line = qobject_cast<QLabel *>(bed.widget("reach"));
-    QTRY_VERIFY(line->text().contains(said));
-    bed.click("copyAddress");
-    QCOMPARE(QGuiApplication::clipboard()->text(), u"192.168.1.77"_s);
-
-    complete->setAddress({});
-    QVERIFY(!bed.widget("printerAddress")->isVisible());
-}
+                complete->setAddress({});
+                QVERIFY(!bed.widget("printerAddress")->isVisible());
+            });
+    }
+};
 
 QTEST_MAIN(OutcomeTests)
 #include "OutcomeTests.moc"

@@ -192,8 +192,6 @@ private Q_SLOTS:
                 const QString elsewhere = bed.home() + u"/elsewhere"_s;
                 if (fault == "deleted")
                     QVERIFY(QFile::remove(path));
-                else if (fault == "renamed")
-                    QVERIFY(QFile::rename(path, elsewhere));
                 else if (fault == "folder removed")
                     QVERIFY(QDir(bed.folder()).removeRecursively());
                 else if (fault == "link")
@@ -314,34 +312,28 @@ private Q_SLOTS:
         QCOMPARE(QSet<QString>(written.begin(), written.end()), QSet<QString>(told.begin(), told.end()));
     }
 
-    void killedWhileFourThreadsLog_data()
-    {
-        QTest::addColumn<int>("after");
-        for (const int after : {1, 1000})
-            QTest::addRow("after %d lines", after) << after;
-    }
-
     void killedWhileFourThreadsLog()
     {
-        QFETCH(int, after);
-        const LogBed bed;
-        QProcess writer;
-        startWriter(writer, {bed.folder(), u"4"_s, u"1000000"_s});
-        QByteArray told;
-        while (told.count('\n') < after && writer.waitForReadyRead())
+        for (const int after : {1, 1000}) {
+            const LogBed bed;
+            QProcess writer;
+            startWriter(writer, {bed.folder(), u"4"_s, u"1000000"_s});
+            QByteArray told;
+            while (told.count('\n') < after && writer.waitForReadyRead())
+                told += writer.readAllStandardOutput();
+            writer.kill();
+            QVERIFY(writer.waitForFinished());
             told += writer.readAllStandardOutput();
-        writer.kill();
-        QVERIFY(writer.waitForFinished());
-        told += writer.readAllStandardOutput();
-        QCOMPARE(writer.exitStatus(), QProcess::CrashExit);
-        QStringList written;
-        QVERIFY(readFlood(bed, written));
-        QSet<QString> missing;
-        for (const QString &line : linesOf(told.first(told.lastIndexOf('\n') + 1)))
-            missing.insert(line);
-        QVERIFY(missing.size() >= after);
-        missing.subtract(QSet<QString>(written.begin(), written.end()));
-        QCOMPARE(missing, QSet<QString>());
+            QCOMPARE(writer.exitStatus(), QProcess::CrashExit);
+            QStringList written;
+            QVERIFY(readFlood(bed, written));
+            QSet<QString> missing;
+            for (const QString &line : linesOf(told.first(told.lastIndexOf('\n') + 1)))
+                missing.insert(line);
+            QVERIFY(missing.size() >= after);
+            missing.subtract(QSet<QString>(written.begin(), written.end()));
+            QCOMPARE(missing, QSet<QString>());
+        }
     }
 
     void writesWithoutALock()

@@ -2,7 +2,6 @@
 #include "CupsSpooler.h"
 #include "LogCollector.h"
 #include "PrintQueueBusyCheck.h"
-#include "Rows.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -47,13 +46,6 @@ private:
     const int m_socket;
 };
 
-void addConnectionRows()
-{
-    QTest::addColumn<bool>("onConnection");
-    QTest::newRow("on a connection") << true;
-    QTest::newRow("without a connection") << false;
-}
-
 } // namespace
 
 /// Asks a real spooler that has one queue in print and one idle.
@@ -70,34 +62,29 @@ private Q_SLOTS:
         QVERIFY(m_bed.holdInPrint(u"QZ100_USB"_s));
     }
 
-    void listsTheQueuesWithTheirStates_data() { addConnectionRows(); }
-
     void listsTheQueuesWithTheirStates()
     {
-        QFETCH(bool, onConnection);
-        auto queues = askFreshly(onConnection);
-        std::ranges::sort(queues, {}, &PrintDestination::name);
-        QCOMPARE(queues.size(), 2U);
-        QCOMPARE(queues[0].name, "QZ100_USB");
-        QCOMPARE(queues[0].printerState, QByteArray{"4"});
-        QCOMPARE(queues[1].name, "QZ200_USB");
-        QCOMPARE(queues[1].printerState, QByteArray{"3"});
+        for (const bool onConnection : {true, false}) {
+            auto queues = askFreshly(onConnection);
+            std::ranges::sort(queues, {}, &PrintDestination::name);
+            QCOMPARE(queues.size(), 2U);
+            QCOMPARE(queues[0].name, "QZ100_USB");
+            QCOMPARE(queues[0].printerState, QByteArray{"4"});
+            QCOMPARE(queues[1].name, "QZ200_USB");
+            QCOMPARE(queues[1].printerState, QByteArray{"3"});
+        }
     }
-
-    void answersNothingAtOnceWhereNobodyListens_data() { addConnectionRows(); }
 
     void answersNothingAtOnceWhereNobodyListens()
     {
-        QFETCH(bool, onConnection);
         const QByteArray server = qgetenv("CUPS_SERVER");
         qputenv("CUPS_SERVER", server + ".nobody");
         QElapsedTimer clock;
         clock.start();
-        const auto queues = askFreshly(onConnection);
-        const qint64 milliseconds = clock.elapsed();
+        const bool isEmpty = askFreshly(true).empty() && askFreshly(false).empty();
         qputenv("CUPS_SERVER", server);
-        QVERIFY(queues.empty());
-        QVERIFY2(milliseconds < 5000, qPrintable(QString::number(milliseconds)));
+        QVERIFY(isEmpty);
+        QVERIFY2(clock.elapsed() < 10000, qPrintable(QString::number(clock.elapsed())));
     }
 
     void tellsWhetherAPrinterIsThere()
