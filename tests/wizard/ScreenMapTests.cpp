@@ -1,5 +1,7 @@
+#include "AppDelegate.h"
 #include "LogCollector.h"
 #include "Rows.h"
+#include "WTApp.h"
 #include "WTCompleteView.h"
 #include "WTConfigFailedView.h"
 #include "WTHoverView.h"
@@ -13,6 +15,23 @@
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+class RaiseCount : public QObject
+{
+public:
+    int count = 0;
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::ZOrderChange ? 1 : 0;
+        return false;
+    }
+};
+
+} // namespace
 
 /// Which screen follows which, with the mouse, and what the log says of it.
 class ScreenMapTests : public QObject
@@ -142,6 +161,25 @@ private Q_SLOTS:
         QVERIFY(log.lines().filter(u"👉🏻"_s).isEmpty());
         bed.click("previousBtn");
         QCOMPARE(bed.shown(), "WTStartView");
+    }
+
+    void windowComesForward()
+    {
+        WizardBed bed;
+        RaiseCount raises;
+        bed.window().installEventFilter(&raises);
+        for (const bool byForce : {true, false}) {
+            WTApp::usePorts(bed.hostWiFi, bed.desktop, {.activatesCooperatively = !byForce});
+            QWidget other;
+            other.show();
+            QVERIFY(QTest::qWaitForWindowActive(&other));
+            raises.count = 0;
+            AppDelegate delegate;
+            delegate.setWindow(&bed.window());
+            delegate.applicationDidFinishLaunching();
+            QTRY_VERIFY(bed.window().isActiveWindow());
+            QCOMPARE(raises.count, byForce ? 1 : 0);
+        }
     }
 };
 
