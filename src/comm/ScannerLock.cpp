@@ -1,5 +1,6 @@
 #include "ScannerLock.h"
 
+#include "FileDescriptor.h"
 #include "ModelCatalogue.h"
 #include "TextFormat.h"
 #include "isSafe.h"
@@ -8,25 +9,31 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <map>
 #include <sys/file.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
 
-/// The descriptor of a regular file; -1 for anything else, such as a link or a pipe that another user put there.
-int openLockFile(const QString &path)
+/// The lock file at a path; not open unless it is a regular file: another user may have put a link or a pipe there.
+/// A path has one descriptor, which is opened anew when another file has taken the path.
+const FileDescriptor &lockFile(const QString &path)
 {
-    const int descriptor = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW);
-    struct stat status {
+    static std::map<QString, FileDescriptor> files;
+    FileDescriptor &file = files[path];
+    struct stat kept {
     };
-    if (descriptor < 0 || (fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode)))
-        return descriptor;
-    close(descriptor);
-    return -1;
+    struct stat present {
+    };
+    const bool isThere = file.isOpen() && fstat(file.get(), &kept) == 0 &&
+                         lstat(QFile::encodeName(path).constData(), &present) == 0 && kept.st_dev == present.st_dev &&
+                         kept.st_ino == present.st_ino;
+    if (!isThere)
+        file = FileDescriptor::ofRegularFile(path, O_RDONLY);
+    return file;
 }
 
 } // namespace
@@ -49,14 +56,14 @@ QStringList ScannerLock::configuredPaths()
 bool ScannerLock::isHeld(const QStringList &paths)
 {
     for (const QString &path : paths) {
-        const int descriptor = openLockFile(path);
-        if (descriptor < 0)
+        const FileDescriptor &file = lockFile(path);
+        if (!file.isOpen())
             continue;
-        if (flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
+        if (flock(file.get(), LOCK_EX | LOCK_NB) != 0) {
             std::fputs(qUtf8Printable(formatText("Printer is scaning:%@,%d\n", path, errno)), stderr);
             return true;
         }
-        flock(descriptor, LOCK_UN);
+        flock(file.get(), LOCK_UN);
     }
     return false;
 }

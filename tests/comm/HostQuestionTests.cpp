@@ -82,6 +82,10 @@ private Q_SLOTS:
         QVERIFY(lock.open(QIODevice::WriteOnly));
         QCOMPARE(flock(lock.handle(), LOCK_SH), 0);
         QVERIFY(ScannerLock::isHeld({u"/nowhere/lock"_s, lock.fileName()}));
+        const auto openFiles = [] { return QDir(u"/proc/self/fd"_s).entryList(QDir::Files).size(); };
+        const auto before = openFiles();
+        QVERIFY(ScannerLock::isHeld({lock.fileName()}));
+        QCOMPARE(openFiles(), before);
 
         // What another user may put at a lock's path: a link to a lock of his own, a pipe that nobody writes to.
         const QString link = m_folder.filePath(u"link"_s), pipe = m_folder.filePath(u"pipe"_s);
@@ -91,6 +95,10 @@ private Q_SLOTS:
         QCOMPARE(flock(folder, LOCK_EX), 0);
         QVERIFY(!ScannerLock::isHeld({link, pipe, m_folder.path()}));
         close(folder);
+
+        // A driver that makes a new lock file, not locked yet, while the old one is still locked.
+        QVERIFY(QFile::rename(lock.fileName(), link + u"2"_s) && QFile::copy(link + u"2"_s, lock.fileName()));
+        QVERIFY(!ScannerLock::isHeld({lock.fileName()}));
     }
 
 private:
