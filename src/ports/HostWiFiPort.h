@@ -24,7 +24,7 @@ struct VisibleNetwork {
     QString ssid;          ///< As text; a name whose bytes are no UTF-8 is decoded as best it can be.
     qint64 security = 0;   ///< The communication library's numbering: 0 other, 1 open, 2 WEP, ... 13 OWE.
     qint64 quality = 0;    ///< Per cent.
-    bool only5GHz = false; ///< All its access points in sight are in the 5 GHz band.
+    bool only5GHz = false; ///< All its access points in sight are in the 5 GHz band or above (6 GHz).
 
     bool operator==(const VisibleNetwork &) const = default;
 };

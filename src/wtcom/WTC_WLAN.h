@@ -29,5 +29,5 @@ public:
     std::optional<QString> password;
     qint64 security = 0;   ///< 0 other, 1 open, 2 WEP, 3 WPA personal, ... 13 OWE.
     qint64 quality = 0;    ///< Per cent.
-    bool only5GHz = false; ///< All its access points in sight are in the 5 GHz band.
+    bool only5GHz = false; ///< All its access points in sight are in the 5 GHz band or above (6 GHz).
 };

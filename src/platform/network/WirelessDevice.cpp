@@ -124,7 +124,7 @@ std::vector<VisibleNetwork> visibleNetworks(NMDeviceWifi *device)
             continue;
         Seen &seen = best[{name, securityOf(accessPoint).library}];
         seen.quality = std::max(seen.quality, qint64{nm_access_point_get_strength(accessPoint)});
-        seen.only5GHz = seen.only5GHz && bandOfFrequency(nm_access_point_get_frequency(accessPoint)) == 2;
+        seen.only5GHz = seen.only5GHz && nm_access_point_get_frequency(accessPoint) >= 5000;
     }
     std::vector<VisibleNetwork> networks;
     networks.reserve(best.size());

@@ -153,9 +153,9 @@ private Q_SLOTS:
             {
                 {"strongest first, then by name",
                  Operations{{u"ap"_s, u"wlan0"_s, u"a"_s, hex("weak"), 10},
-                            {u"ap"_s, u"wlan0"_s, u"b"_s, hex("twin B"), 60},
+                            {u"ap"_s, u"wlan0"_s, u"b"_s, hex("twin B"), 60, 5955},
                             {u"ap"_s, u"wlan0"_s, u"c"_s, hex("twin A"), 60, 5180}},
-                 QByteArray("twin A/7/60 5 GHz, twin B/7/60, weak/7/10")},
+                 QByteArray("twin A/7/60 5 GHz, twin B/7/60 5 GHz, weak/7/10")},
                 {"one per name and security, the best signal",
                  Operations{{u"ap"_s, u"wlan0"_s, u"a"_s, hex("Home"), 70},
                             {u"ap"_s, u"wlan0"_s, u"b"_s, hex("Home"), 20, 5180},
