@@ -20,7 +20,7 @@ RunMachine::RunMachine(std::size_t mostRuns)
     InfoList::setResourceFolder(QStringLiteral(WT_RESOURCE_FOLDER));
     WTCServer::usePorts(usb, time);
     WTC_WLAN::usePort(hostWiFi);
-    WTManager::usePorts(time, spooler);
+    WTManager::usePorts(time);
     WTApp::usePorts(hostWiFi, desktop, {});
     WTApp::shared().setAppLanguage(u"en"_s);
     bus.addPrinter(PrinterModel(identity));

@@ -135,7 +135,7 @@ int main(int argc, char *argv[])
     hostWiFi.holdsScans = true;
     InfoList::setResourceFolder(QStringLiteral(WT_RESOURCE_FOLDER));
     WTC_WLAN::usePort(hostWiFi);
-    WTManager::usePorts(time, spooler);
+    WTManager::usePorts(time);
     WTApp::usePorts(hostWiFi, desktop, {});
     WTApp::shared().setAppLanguage(u"en"_s);
 

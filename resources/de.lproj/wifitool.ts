@@ -728,10 +728,6 @@
         <translation>Das System hat noch nicht geantwortet, ob nach Netzwerken gesucht werden darf. Klicken Sie auf „Aktualisieren“, um es noch einmal zu versuchen, oder geben Sie den Namen ein.</translation>
     </message>
     <message>
-        <source>没有查找网络的权限。请在系统设置中允许，然后点击“刷新”，或直接输入名称。</source>
-        <translation>Dieses Programm darf nicht nach Netzwerken suchen. Erlauben Sie es in den Systemeinstellungen und klicken Sie auf „Aktualisieren“, oder geben Sie den Namen ein.</translation>
-    </message>
-    <message>
         <source>没有找到网络。请点击“刷新”再找一次，或直接输入名称。</source>
         <translation>Es wurden keine Netzwerke gefunden. Klicken Sie auf „Aktualisieren“, um noch einmal zu suchen, oder geben Sie den Namen ein.</translation>
     </message>

@@ -728,10 +728,6 @@
         <translation>The system has not yet said whether networks may be looked for. Click “Refresh” to try again, or type the name.</translation>
     </message>
     <message>
-        <source>没有查找网络的权限。请在系统设置中允许，然后点击“刷新”，或直接输入名称。</source>
-        <translation>This program is not allowed to look for networks. Allow it in the system settings and click “Refresh”, or type the name.</translation>
-    </message>
-    <message>
         <source>没有找到网络。请点击“刷新”再找一次，或直接输入名称。</source>
         <translation>No networks were found. Click “Refresh” to search again, or type the name.</translation>
     </message>

@@ -728,10 +728,6 @@
         <translation>El sistema aún no ha indicado si se pueden buscar redes. Haga clic en «Actualizar» para intentarlo otra vez o escriba el nombre.</translation>
     </message>
     <message>
-        <source>没有查找网络的权限。请在系统设置中允许，然后点击“刷新”，或直接输入名称。</source>
-        <translation>Este programa no tiene permiso para buscar redes. Concédalo en la configuración del sistema y haga clic en «Actualizar», o escriba el nombre.</translation>
-    </message>
-    <message>
         <source>没有找到网络。请点击“刷新”再找一次，或直接输入名称。</source>
         <translation>No se han encontrado redes. Haga clic en «Actualizar» para buscar otra vez o escriba el nombre.</translation>
     </message>

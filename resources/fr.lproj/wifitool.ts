@@ -728,10 +728,6 @@
         <translation>Le système n’a pas encore indiqué si la recherche de réseaux est autorisée. Cliquez sur « Actualiser » pour réessayer, ou saisissez le nom.</translation>
     </message>
     <message>
-        <source>没有查找网络的权限。请在系统设置中允许，然后点击“刷新”，或直接输入名称。</source>
-        <translation>Ce programme n’est pas autorisé à chercher des réseaux. Autorisez-le dans les paramètres du système et cliquez sur « Actualiser », ou saisissez le nom.</translation>
-    </message>
-    <message>
         <source>没有找到网络。请点击“刷新”再找一次，或直接输入名称。</source>
         <translation>Aucun réseau n’a été trouvé. Cliquez sur « Actualiser » pour relancer la recherche, ou saisissez le nom.</translation>
     </message>

@@ -728,10 +728,6 @@
         <translation>ネットワークの検索が許可されているか、システムからまだ応答がありません。「再検索」を押してもう一度試すか、名前を入力してください。</translation>
     </message>
     <message>
-        <source>没有查找网络的权限。请在系统设置中允许，然后点击“刷新”，或直接输入名称。</source>
-        <translation>このプログラムにはネットワークを検索する許可がありません。システム設定で許可してから「再検索」を押すか、名前を入力してください。</translation>
-    </message>
-    <message>
         <source>没有找到网络。请点击“刷新”再找一次，或直接输入名称。</source>
         <translation>ネットワークが見つかりません。「再検索」を押すか、名前を入力してください。</translation>
     </message>

@@ -728,10 +728,6 @@
         <translation>네트워크를 검색해도 되는지 시스템이 아직 응답하지 않았습니다. ‘새로 고침’을 눌러 다시 시도하거나 이름을 입력하십시오.</translation>
     </message>
     <message>
-        <source>没有查找网络的权限。请在系统设置中允许，然后点击“刷新”，或直接输入名称。</source>
-        <translation>이 프로그램은 네트워크를 검색할 권한이 없습니다. 시스템 설정에서 허용한 다음 ‘새로 고침’을 누르거나 이름을 입력하십시오.</translation>
-    </message>
-    <message>
         <source>没有找到网络。请点击“刷新”再找一次，或直接输入名称。</source>
         <translation>네트워크를 찾지 못했습니다. ‘새로 고침’을 눌러 다시 찾거나 이름을 입력하십시오.</translation>
     </message>

@@ -728,10 +728,6 @@
         <translation>系統尚未回應是否允許尋找網路。請點選「重新整理」再試一次，或直接輸入名稱。</translation>
     </message>
     <message>
-        <source>没有查找网络的权限。请在系统设置中允许，然后点击“刷新”，或直接输入名称。</source>
-        <translation>本程式沒有尋找網路的權限。請在系統設定中允許，然後點選「重新整理」，或直接輸入名稱。</translation>
-    </message>
-    <message>
         <source>没有找到网络。请点击“刷新”再找一次，或直接输入名称。</source>
         <translation>找不到網路。請點選「重新整理」再找一次，或直接輸入名稱。</translation>
     </message>

@@ -5,22 +5,17 @@
 namespace
 {
 
-struct Ports {
-    TimePort *time = nullptr;
-    SpoolerPort *spooler = nullptr;
-};
-
-Ports &ports()
+TimePort *&timePort()
 {
-    static Ports ports;
-    return ports;
+    static TimePort *port = nullptr;
+    return port;
 }
 
 } // namespace
 
-void WTManager::usePorts(TimePort &time, SpoolerPort &spooler)
+void WTManager::usePorts(TimePort &time)
 {
-    ports() = {.time = &time, .spooler = &spooler};
+    timePort() = &time;
 }
 
 WTManager &WTManager::shared()
@@ -89,12 +84,7 @@ bool WTManager::oldAclPrinter(const QString &printerType) const
     return catalogue().oldAclPrinter(printerType);
 }
 
-SpoolerPort &WTManager::spooler() const
-{
-    return *ports().spooler;
-}
-
 TimePort &WTManager::time() const
 {
-    return *ports().time;
+    return *timePort();
 }

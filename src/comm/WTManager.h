@@ -18,8 +18,6 @@
 #include <mutex>
 #include <optional>
 
-class SpoolerPort;
-
 /// The process-wide printer manager: the printers on the USB bus, the model catalogue, the printer commands and the
 /// application's close state. `shared()` and `refreshUSBPrinterList` may be called on any thread.
 class WTManager : public WTCServerDelegate
@@ -29,7 +27,7 @@ public:
     enum CloseState : qint64 { CloseAsks = 0, CloseQuits = 1, CloseIgnored = 2 };
 
     /// Called once, before the first use of `shared()`.
-    static void usePorts(TimePort &time, SpoolerPort &spooler);
+    static void usePorts(TimePort &time);
     static WTManager &shared();
     WTManager(const WTManager &) = delete;
     WTManager &operator=(const WTManager &) = delete;
@@ -92,7 +90,6 @@ public:
     /// The zero-terminated text in that range of `data`; absent when the range runs past the end or holds no UTF-8.
     static std::optional<QString> ipByData(const QByteArray &data, qsizetype location, qsizetype length);
 
-    SpoolerPort &spooler() const;
     TimePort &time() const;
 
     // -- reserved -----------------------------------------------------------------------------------------------

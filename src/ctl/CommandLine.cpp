@@ -89,9 +89,10 @@ QString faultOf(const CommandLine &line, const QCommandLineParser &parser)
     const bool isJoin = line.subcommand == Subcommand::Join;
     if (isJoin && !parser.isSet(u"network"_s))
         return u"join needs --network NAME"_s;
-    if (isJoin && parser.values(u"network"_s).size() + parser.values(u"password-file"_s).size() > 2)
+    const auto isRepeated = [&parser](const QString &name) { return parser.values(name).size() > 1; };
+    if (isJoin && (isRepeated(u"network"_s) || isRepeated(u"password-file"_s)))
         return u"--network and --password-file may be given once"_s;
-    if (int(!line.passwordFile.isEmpty()) + int(line.stored) + int(line.open) > 1)
+    if (std::ranges::count(std::array{!line.passwordFile.isEmpty(), line.stored, line.open}, true) > 1)
         return u"--password-file, --stored and --open exclude one another"_s;
     if (isJoin && parser.isSet(u"password-file"_s) && line.passwordFile.isEmpty())
         return u"--password-file needs the name of a file"_s;

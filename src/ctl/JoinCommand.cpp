@@ -28,6 +28,12 @@ QStringList busyModels(SpoolerPort &spooler, const QStringList &models)
     return busy;
 }
 
+/// One printer in one port.
+std::pair<quint32, QString> placeOf(const WTPrinter &printer)
+{
+    return {printer.usbObj->locationID, printer.serialNumber};
+}
+
 } // namespace
 
 JoinCommand::JoinCommand(const CommandLine &line, const CommandPorts &ports, Output &output)
@@ -85,7 +91,7 @@ void JoinCommand::printersChanged()
 {
     for (const auto &job : m_jobs)
         job->setOnBus(std::ranges::any_of(m_watch.printers(), [&](const WTPrinterPtr &printer) {
-            return printer->usbObj->locationID == job->printer()->usbObj->locationID;
+            return placeOf(*printer) == placeOf(*job->printer());
         }));
     if (m_line.watch) {
         if (!m_looked)
@@ -137,13 +143,18 @@ JoinCommand::Printers JoinCommand::arrived()
     Printers news;
     std::set<Place> present;
     for (const WTPrinterPtr &printer : m_watch.printers()) {
-        const Place place{printer->usbObj->locationID, printer->serialNumber};
+        const Place place = placeOf(*printer);
+        const bool isKnown = m_present.contains(place) || std::ranges::any_of(m_jobs, [&](const auto &job) {
+                                 return placeOf(*job->printer()) == place;
+                             });
+        // Another one's run has its port or its name: its turn comes when that has ended.
+        if (!isKnown && std::ranges::any_of(m_jobs, [&](const auto &job) {
+                return job->printer()->usbObj->URI() == printer->usbObj->URI() ||
+                       job->printer()->usbObj->locationID == place.first;
+            }))
+            continue;
         present.insert(place);
-        const bool isUnderWay = std::ranges::any_of(m_jobs, [&](const auto &job) {
-            return job->printer()->usbObj->URI() == printer->usbObj->URI() ||
-                   job->printer()->usbObj->locationID == place.first;
-        });
-        if (m_present.contains(place) || isUnderWay || !isWanted(*printer))
+        if (isKnown || !isWanted(*printer))
             continue;
         if (!m_line.again && m_done.contains(printer->serialNumber))
             m_output.note(nameOf(*printer) + u": done already in this watch; left alone"_s);
@@ -193,6 +204,8 @@ void JoinCommand::jobEnded(PrinterJob &job)
     // It is in a signal of its own.
     place->release()->deleteLater();
     m_jobs.erase(place);
+    if (m_line.watch)
+        take(arrived());
     endWhenAllHave();
 }
 

@@ -20,7 +20,6 @@ public:
 
 private:
     using Printers = std::vector<WTPrinterPtr>;
-    /// One printer in one port.
     using Place = std::pair<quint32, QString>;
 
     void takePassword(const PasswordAnswer &answer);
@@ -29,7 +28,7 @@ private:
     void printersChanged();
     /// Without `--watch`: the printers that the command line means. Empty when there is a reason to end.
     Printers chosen();
-    /// With `--watch`: the printers that have come since the last look.
+    /// With `--watch`: the printers that have come since the last look and whose turn it is.
     Printers arrived();
     bool isWanted(const WTPrinter &printer) const;
     bool isAlone(const WTPrinter &printer) const;

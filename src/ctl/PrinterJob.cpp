@@ -18,7 +18,7 @@ constexpr TimePort::Duration longestAbsence = std::chrono::seconds(15);
 QString codeOf(const RunCause &cause)
 {
     if (cause.error.cause)
-        return u"%1/%2"_s.arg(usbErrorDomain).arg(int(cause.error.cause->code));
+        return u"%1/%2"_s.arg(usbErrorDomain).arg(static_cast<int>(cause.error.cause->code));
     return u"%1/%2"_s.arg(cause.error.domain).arg(cause.error.code);
 }
 
@@ -78,6 +78,8 @@ void PrinterJob::setOnBus(bool isOnBus)
         m_absence.reset();
         return;
     }
+    if (m_absence)
+        return;
     m_absence = onMainThreadAfter(m_ports.time, longestAbsence, [this] {
         if (m_step != RunStep::WaitingForAddress)
             return;

@@ -30,7 +30,6 @@ public:
     ~PrinterJob() override;
 
     const WTPrinterPtr &printer() const { return m_printer; }
-    bool hasEnded() const { return m_ended; }
     const JobResult &result() const { return m_result; }
     /// What is under way, in the interface language, and how far it is, in per cent.
     QString stepText() const { return m_stepText; }

@@ -5,6 +5,7 @@
 #include "FailureText.h"
 #include "Localized.h"
 #include "Output.h"
+#include "PrintQueueBusyCheck.h"
 #include "PrinterCommand.h"
 #include "PrinterFacts.h"
 #include "RunAnswers.h"
@@ -83,6 +84,23 @@ void PrinterQuestion::choose()
         [this](const std::optional<WTError> &obstacle) {
             if (obstacle)
                 fail(obstacle, obstacle->message);
+            else if (m_line.subcommand == CommandLine::Subcommand::InformationPage)
+                askUnlessBusy();
+            else
+                ask();
+        });
+}
+
+void PrinterQuestion::askUnlessBusy()
+{
+    askInBackground(
+        this,
+        [&spooler = m_ports.spooler, model = m_printer->printerType()] {
+            return isWorkingWithPrintType(spooler, model, BusyCheckVariant::ManualEntry);
+        },
+        [this](bool isBusy) {
+            if (isBusy)
+                fail({}, localized(u"打印端口被占用，无法配置打印机"_s));
             else
                 ask();
         });

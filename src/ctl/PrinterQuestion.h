@@ -19,6 +19,8 @@ public:
 
 private:
     void choose();
+    /// A page of a printer that prints would come in the middle of its job.
+    void askUnlessBusy();
     void ask();
     void judgeCheck(const ResultAnswer &answer);
     void judgeAddress(const AddressAnswer &answer);

@@ -52,7 +52,7 @@ void PrintersCommand::list()
         Q_EMIT done(ExitCode::NoneFound);
         return;
     }
-    m_unanswered = std::ssize(printers);
+    m_asked = m_unanswered = std::ssize(printers);
     for (const WTPrinterPtr &printer : printers)
         askInBackground(
             this, [uri = printer->usbObj->URI()] { return WTCUSBPrinter::obstacle(uri); },
@@ -80,5 +80,5 @@ void PrintersCommand::tell(const WTPrinterPtr &printer, const std::optional<WTEr
     }
     m_output.say(text, object);
     if (--m_unanswered == 0)
-        Q_EMIT done(m_notPermitted == std::ssize(m_watch.printers()) ? ExitCode::NotPermitted : ExitCode::Done);
+        Q_EMIT done(m_notPermitted == m_asked ? ExitCode::NotPermitted : ExitCode::Done);
 }

@@ -23,6 +23,7 @@ private:
     const CommandPorts m_ports;
     Output &m_output;
     PrinterWatch m_watch;
+    qsizetype m_asked = 0;
     qsizetype m_unanswered = 0;
     qsizetype m_notPermitted = 0;
 };

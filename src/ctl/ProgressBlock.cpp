@@ -41,7 +41,7 @@ void ProgressBlock::setLines(const QStringList &lines)
 void ProgressBlock::hide()
 {
     if (m_drawn > 0)
-        std::printf(upAndClear, int(m_drawn));
+        std::printf(upAndClear, static_cast<int>(m_drawn));
     m_drawn = 0;
     std::fflush(stdout);
 }

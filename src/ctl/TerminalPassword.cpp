@@ -28,7 +28,7 @@ void TerminalPassword::read(const QString &prompt, std::function<void(const QByt
     termios settings{};
     if (tcgetattr(STDIN_FILENO, &settings) == 0) {
         m_before = settings;
-        settings.c_lflag &= ~tcflag_t(ECHO);
+        settings.c_lflag &= ~static_cast<tcflag_t>(ECHO);
         settings.c_lflag |= ECHONL;
         // What was typed ahead is dropped with this, so the question comes after it.
         tcsetattr(STDIN_FILENO, TCSAFLUSH, &settings);

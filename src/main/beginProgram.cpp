@@ -20,7 +20,7 @@ void usePorts(const Machine &machine)
 {
     WTCServer::usePorts(machine.usb, machine.time);
     WTC_WLAN::usePort(machine.hostWiFi);
-    WTManager::usePorts(machine.time, machine.spooler);
+    WTManager::usePorts(machine.time);
     WTApp::usePorts(machine.hostWiFi, machine.desktop, machine.capabilities);
 }
 

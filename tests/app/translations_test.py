@@ -47,7 +47,8 @@ def has_every_key(keys, language, table):
         return language == "zh-Hans" and CHINESE.search(key) and key != FOREIGN
 
     missing = [f"{file}: {key}" for key, file in keys.items() if not table.get(key) and not speaks_for_itself(key)]
-    assert not missing, "\n".join(missing)
+    unused = [f"unused: {key}" for key in table if key not in keys and CHINESE.search(key)]
+    assert not missing and not unused, "\n".join(missing + unused)
 
 
 def placeholders(text):
@@ -66,7 +67,7 @@ def main():
     cases = Cases()
     for folder in sorted(resources.glob("*.lproj")):
         table = read_table(folder / "wifitool.ts")
-        cases.run(f"{folder.stem} has every key", has_every_key, keys, folder.stem, table)
+        cases.run(f"{folder.stem} has every key and no other", has_every_key, keys, folder.stem, table)
         cases.run(f"{folder.stem} keeps placeholders", keeps_placeholders, table)
     cases.leave()
 

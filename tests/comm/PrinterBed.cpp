@@ -7,7 +7,7 @@ PrinterBed::PrinterBed()
 {
     resources.writeCatalogue(R"({"printer_info": [{"device_name": "QZ100", "supportWifi": 1},
                                                   {"device_name": "QZ150", "supportWifi": 1, "isOldACL": 1}]})");
-    WTManager::usePorts(time, m_spooler);
+    WTManager::usePorts(time);
     WTCServer::usePorts(m_usb, time);
     bus.addPrinter();
     bus.plug();

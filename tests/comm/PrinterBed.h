@@ -1,6 +1,5 @@
 #pragma once
 
-#include "FakeSpooler.h"
 #include "LibusbPort.h"
 #include "PrinterOperation.h"
 #include "ResourceFolder.h"
@@ -33,6 +32,5 @@ public:
 
 private:
     LibusbPort m_usb{time};
-    FakeSpooler m_spooler;
     QString m_uri;
 };

@@ -1,4 +1,3 @@
-#include "FakeSpooler.h"
 #include "JsonInteger.h"
 #include "LogCollector.h"
 #include "ModelCatalogue.h"
@@ -113,7 +112,7 @@ private Q_SLOTS:
         QCOMPARE(integer("\"-99999999999999999999\""), Limits::min());
     }
 
-    void initTestCase() { WTManager::usePorts(m_time, m_spooler); }
+    void initTestCase() { WTManager::usePorts(m_time); }
 
     void listsKnownPrintersWithWiFi()
     {
@@ -165,7 +164,6 @@ private Q_SLOTS:
 private:
     ResourceFolder m_resources;
     VirtualTime m_time;
-    FakeSpooler m_spooler;
 };
 
 QTEST_GUILESS_MAIN(PrinterRecordTests)

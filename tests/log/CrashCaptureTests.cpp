@@ -85,6 +85,8 @@ private Q_SLOTS:
                  {"small-block-used-after-free", "logger-queue"},
                  {"overflow-into-top", "main"},
                  {"overflow-into-top", "crowd"},
+                 {"overflow-into-next", "main"},
+                 {"arena-held-by-another-thread", "main"},
              }) {
             const End seen = run(QString::fromLatin1(crash), QString::fromLatin1(state));
             // What the allocator notices it aborts, and what it does not is a segmentation fault.

@@ -37,7 +37,7 @@ WizardBed::WizardBed(std::shared_ptr<UsbTestBed> usb, qsizetype printerCount, co
     InfoList::setResourceFolder(QStringLiteral(WT_RESOURCE_FOLDER));
     WTCServer::usePorts(m_usb->port, m_usb->time);
     WTC_WLAN::usePort(hostWiFi);
-    WTManager::usePorts(m_usb->time, spooler);
+    WTManager::usePorts(m_usb->time);
     WTApp::usePorts(hostWiFi, desktop, {});
     WTApp::shared().setAppLanguage(language);
 

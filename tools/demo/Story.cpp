@@ -140,7 +140,8 @@ Story wpsStory(const QString &name, const QString &summary, const std::vector<Vi
     return {.name = name, .summary = summary, .printer = absentPrinter(), .visits = visits};
 }
 
-/// The printer's Wi-Fi is off, which it tells when it is asked. Only a model that the catalogue does not know is asked.
+/// The printer's Wi-Fi is off, which it tells when it is asked. Only a model whose Wi-Fi the catalogue does not know is
+/// asked.
 Story wifiOffStory()
 {
     PrinterScript printer;
@@ -202,7 +203,7 @@ Story hopelessStory(const QString &name, const QString &summary, const PrinterSc
     return story;
 }
 
-/// A printer that is on the bus and says nothing. Only a model that the catalogue does not know is asked first.
+/// A printer that is on the bus and says nothing. Only a model whose Wi-Fi the catalogue does not know is asked first.
 Story asleepStory()
 {
     PrinterScript printer = goodPrinter();

@@ -88,7 +88,7 @@ void WTWiFiListViewModel::putJoinedNetworkFirst()
     const auto isJoined = [&](const WTWiFiPtr &network) { return network->isJoined(joined, app.selectedAuthMode); };
     const auto others = std::stable_partition(m_list.begin(), m_list.end(),
                                               [&](const WTWiFiPtr &network) { return network->SSID == joined; });
-    // Another network may bear the joined one's name; it gets neither the first place nor the password.
+    // Another network may bear the joined one's name; it does not come before it and does not get its password.
     const auto namesakes = std::stable_partition(m_list.begin(), others, isJoined);
     for (auto network = m_list.begin(); network != namesakes; ++network)
         (*network)->password = app.selectedPassword;

@@ -67,7 +67,8 @@ public:
     /// The first `index` units of a longer text; one less where the cut would go through a surrogate pair.
     static QString subString(const QString &text, qsizetype index);
     static bool isLegalPwd(const QString &password, qint64 authMode);
-    /// A name of 1 to 32 bytes of UTF-8, and a password that is legal for the first listed network of that name.
+    /// A name of 1 to 32 bytes of UTF-8, and a password that is legal for the listed network of that name, the chosen
+    /// one before others.
     bool canGoNext(const NetworkEntry &fields) const;
     /// The hint for the fields, in the interface language; empty for none.
     QString hint(const NetworkEntry &fields) const;

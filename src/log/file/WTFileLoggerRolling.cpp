@@ -4,17 +4,20 @@
 #include "GlobalQueue.h"
 #include "LogConsole.h"
 
+#include <atomic>
+
 namespace
 {
 
 /// Reports that the system has no watch or no timer to give. This lasts, so the report would come again with every log
 /// file.
-void sayOnce(const char *what)
+void sayOnce(std::atomic_flag &isSaid, const char *what)
 {
-    static std::atomic<const char *> said = nullptr;
-    if (said.exchange(what) != what)
+    if (!isSaid.test_and_set())
         LogConsole::report("%@", what);
 }
+
+std::atomic_flag missingWatchIsSaid, missingTimerIsSaid;
 
 } // namespace
 
@@ -67,7 +70,8 @@ void WTFileLogger::lt_openLogFile()
     m_currentLogFileVnode.emplace(m_currentLogFileHandle.descriptor(), loggerQueue(),
                                   weakAction(&WTFileLogger::lt_rollLogFileNow));
     if (!m_currentLogFileVnode->isWatching())
-        sayOnce("WTFileLogger: The log file cannot be watched; it is looked after at every line instead");
+        sayOnce(missingWatchIsSaid,
+                "WTFileLogger: The log file cannot be watched; it is looked after at every line instead");
 }
 
 /// Before each line: does the work of the watch and of the timer, where the system has none to give.
@@ -175,7 +179,8 @@ void WTFileLogger::lt_scheduleTimerToRollLogFileDueToAge()
     m_rollingTimer.emplace(m_rollingFrequency - m_currentLogFileInfo->age(), loggerQueue(),
                            weakAction(&WTFileLogger::lt_maybeRollLogFileDueToAge));
     if (!m_rollingTimer->isRunning())
-        sayOnce("WTFileLogger: No timer for the age of the log file; it is looked at at every line instead");
+        sayOnce(missingTimerIsSaid,
+                "WTFileLogger: No timer for the age of the log file; it is looked at at every line instead");
 }
 
 void WTFileLogger::lt_closeLogFile()

@@ -19,8 +19,7 @@ WTResult<CupsLibrary> loadLibrary()
     };
     CupsLibrary cups{};
     const bool complete = find(cups.getDests, "cupsGetDests") && find(cups.getDests2, "cupsGetDests2") &&
-                          find(cups.freeDests, "cupsFreeDests") && find(cups.getOption, "cupsGetOption") &&
-                          find(cups.port, "ippPort");
+                          find(cups.freeDests, "cupsFreeDests") && find(cups.getOption, "cupsGetOption");
     if (!complete)
         return WTError{u"CUPS"_s, 1, u"libcups cannot be used: %1"_s.arg(file.errorString())};
     return cups;

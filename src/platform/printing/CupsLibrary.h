@@ -11,7 +11,6 @@ struct CupsLibrary {
     decltype(&::cupsGetDests2) getDests2;
     decltype(&::cupsFreeDests) freeDests;
     decltype(&::cupsGetOption) getOption;
-    decltype(&::ippPort) port;
 
     /// An error on a host without libcups. Any thread.
     [[nodiscard]] static const WTResult<CupsLibrary> &load();

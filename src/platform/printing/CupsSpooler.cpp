@@ -69,9 +69,9 @@ std::optional<WTError> CupsSpooler::problem()
 
 PrinterReach CupsSpooler::printerReach(const QString &address, std::chrono::milliseconds atMost)
 {
-    const WTResult<CupsLibrary> &cups = CupsLibrary::load();
     // The "any" addresses mean this computer here, and no address at all in a printer's reply.
-    if (!cups || address == u"0.0.0.0" || address == u"::")
+    if (address == u"0.0.0.0" || address == u"::")
         return PrinterReach::Silent;
-    return knockAt(address, cups.value().port(), atMost);
+    // Not what ippPort() says, which is where this computer's own spooler listens.
+    return knockAt(address, IPP_PORT, atMost);
 }

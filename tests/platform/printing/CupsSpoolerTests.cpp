@@ -2,6 +2,7 @@
 #include "CupsSpooler.h"
 #include "LogCollector.h"
 #include "PrintQueueBusyCheck.h"
+#include "knockAt.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -97,18 +98,13 @@ private Q_SLOTS:
         QCOMPARE(bind(listener, reinterpret_cast<sockaddr *>(&place), size), 0);
         QCOMPARE(listen(listener, 0), 0); // One connection fits; the next one gets no word.
         QCOMPARE(getsockname(listener, reinterpret_cast<sockaddr *>(&place), &size), 0);
-        // libcups reads its port once for each thread.
-        qputenv("IPP_PORT", QByteArray::number(ntohs(place.sin_port)));
-        const auto reach = [](const QString &address) {
-            return std::async(std::launch::async, [address] { return CupsSpooler{{}}.printerReach(address, 2s); })
-                .get();
-        };
+        const auto reach = [&place](const QString &address) { return knockAt(address, ntohs(place.sin_port), 2s); };
         QCOMPARE(reach(u"127.0.0.1"_s), PrinterReach::Answers);
         QElapsedTimer clock;
         clock.start();
         QCOMPARE(reach(u"127.0.0.1"_s), PrinterReach::Silent);
         QVERIFY(clock.elapsed() < 10000);
-        QCOMPARE(reach(u"0.0.0.0"_s), PrinterReach::Silent);
+        QCOMPARE(CupsSpooler{{}}.printerReach(u"0.0.0.0"_s, 2s), PrinterReach::Silent);
         QCOMPARE(reach(u"no address"_s), PrinterReach::Silent);
         close(listener);
         QCOMPARE(reach(u"127.0.0.1"_s), PrinterReach::Refuses);

@@ -21,7 +21,7 @@ RunBed::RunBed(TimePort &time, Wait wait, const PrinterScript &script, const Mod
     , m_usb(time)
 {
     WTCServer::usePorts(m_usb, time);
-    WTManager::usePorts(time, m_spooler);
+    WTManager::usePorts(time);
     WTManager::shared().setCloseEnable(WTManager::CloseAsks);
     m_bus.addPrinter(PrinterModel(identity, script));
     m_bus.plug();
