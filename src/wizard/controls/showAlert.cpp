@@ -44,7 +44,6 @@ void showAlert(QWidget *window, const Alert &alert, std::function<void(int respo
     box->setObjectName(u"alert"_s);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setStyleSheet(sheetStyle());
-    box->setWindowModality(Qt::WindowModal);
     box->setTextFormat(Qt::PlainText);
     box->setInformativeText(alert.informativeText);
     box->setAccessibleName(alert.messageText);
@@ -66,5 +65,7 @@ void showAlert(QWidget *window, const Alert &alert, std::function<void(int respo
             answered(alertFirstButtonReturn + static_cast<int>(box->buttons().indexOf(button)));
         });
     }
+    // Makes the box modal to the window. QMessageBox::setWindowModality would also make it a window of type Qt::Sheet,
+    // which has neither frame nor title on Wayland.
     box->open();
 }
