@@ -2,39 +2,18 @@
 #include "Fuzz.h"
 #include "JsonInteger.h"
 #include "ModelCatalogue.h"
+#include "ScratchFolder.h"
 #include "isSafe.h"
 #include "wtc_extractPrinterType.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <sys/mman.h>
-#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
 using Fuzz::require;
 
 namespace
 {
-
-/// A file in memory that has a path.
-class MemoryFile
-{
-public:
-    explicit MemoryFile(QByteArrayView contents)
-        : m_descriptor(memfd_create("catalogue", MFD_CLOEXEC))
-    {
-        require(write(m_descriptor, contents.data(), std::size_t(contents.size())) == contents.size(),
-                "memory is there");
-    }
-    ~MemoryFile() { close(m_descriptor); }
-    MemoryFile(const MemoryFile &) = delete;
-    MemoryFile &operator=(const MemoryFile &) = delete;
-
-    QString path() const { return u"/proc/self/fd/%1"_s.arg(m_descriptor); }
-
-private:
-    const int m_descriptor;
-};
 
 void checkName(const ModelCatalogue &catalogue, const QString &name)
 {
@@ -66,10 +45,12 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t size)
 {
     const auto [line, contents] = Fuzz::splitAt(Fuzz::view(bytes, size), '\n');
     const QString name = QString::fromUtf8(line);
-    const MemoryFile file(contents);
-    const auto catalogue = ModelCatalogue::read(file.path());
+    static const ScratchFolder folder;
+    const QString path = folder.path() + u"/models.json"_s;
+    folder.write(u"models.json"_s, contents);
+    const auto catalogue = ModelCatalogue::read(path);
     if (!catalogue) {
-        require(catalogue.error().message.startsWith(file.path()), "a fault names the file");
+        require(catalogue.error().message.startsWith(path), "a fault names the file");
         return 0;
     }
     checkName(catalogue.value(), name);

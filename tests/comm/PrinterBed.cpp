@@ -3,12 +3,62 @@
 #include "WTCServer.h"
 #include "WTManager.h"
 
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+bool tellsSecret(const QStringList &lines)
+{
+    const QString part = networkPassword.sliced(4, 4);
+    const QString bytes = QString::fromLatin1(part.toUtf8().toHex());
+    return std::ranges::any_of(
+        lines, [&](const QString &line) { return line.contains(part) || line.contains(bytes, Qt::CaseInsensitive); });
+}
+
+std::shared_ptr<PendingAnswer> start(Operation operation, const QString &uri)
+{
+    constexpr quint32 location = 0x01100000;
+    const auto answer = std::make_shared<PendingAnswer>();
+    const auto status = [answer](const ResultAnswer &given) { answer->give(given); };
+    switch (operation) {
+    case Operation::WakeUp:
+        WTManager::wt_wakeUpPrinter(uri, location, [answer](bool success, const std::optional<QString> &message) {
+            answer->give(success ? 1 : 0, message.value_or(u"no message"_s));
+        });
+        break;
+    case Operation::Capability:
+        WTManager::checkWiFiCapabilityFromPrinter(uri, location, status);
+        break;
+    case Operation::Configuration:
+        WTManager::wifiConfigForPrinter(uri, location, networkName, networkPassword, status);
+        break;
+    case Operation::Address:
+        WTManager::getIPAddressFromPrinter(uri, location, [answer](const AddressAnswer &given) {
+            answer->give(static_cast<int>(given.status), given.text);
+        });
+        break;
+    case Operation::InformationPage:
+        WTManager::printingWiFiInfoFromPrinter(uri, location, u"QZ100"_s, status);
+        break;
+    }
+    return answer;
+}
+
+PrinterScript scriptWith(Operation operation, PrinterFault fault)
+{
+    PrinterScript script;
+    fault.command = static_cast<quint16>(operation);
+    script.joinedFromStart = true;
+    script.faults.push_back(fault);
+    return script;
+}
+
 PrinterBed::PrinterBed()
 {
-    resources.writeCatalogue(R"({"printer_info": [{"device_name": "QZ100", "supportWifi": 1},
+    m_resources.writeCatalogue(R"({"printer_info": [{"device_name": "QZ100", "supportWifi": 1},
                                                   {"device_name": "QZ150", "supportWifi": 1, "isOldACL": 1}]})");
     WTManager::usePorts(time);
-    WTCServer::usePorts(m_usb, time);
+    WTCServer::usePorts(port, time);
     bus.addPrinter();
     bus.plug();
 }
@@ -24,16 +74,11 @@ bool PrinterBed::discover()
     return found;
 }
 
-bool PrinterBed::runUntil(const std::function<bool()> &done)
+Answer PrinterBed::perform(Operation operation)
 {
-    return time.runUntil(done, [this] { return bus.busy(); });
-}
-
-std::shared_ptr<Answer> PrinterBed::perform(Operation operation)
-{
-    auto answer = start(operation, m_uri);
-    runUntil([&] { return answer->calls() > 0; });
-    return answer;
+    const auto answer = start(operation, m_uri);
+    runUntil([&] { return answer->soFar().calls > 0; });
+    return answer->soFar();
 }
 
 void PrinterBed::reset(const PrinterScript &script)

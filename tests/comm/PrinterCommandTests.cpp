@@ -1,7 +1,6 @@
 #include "AclReplyHeader.h"
 #include "LogCollector.h"
 #include "PrinterBed.h"
-#include "PrinterOperation.h"
 #include "Rows.h"
 #include "TextFormat.h"
 #include "WTManager.h"
@@ -56,11 +55,11 @@ private Q_SLOTS:
                     m_bed.reset(scriptWith(operation, fault));
                     obstacle(m_bed.bus);
                     const LogCollector log;
-                    const auto answer = m_bed.perform(operation);
-                    given << answer->text();
-                    QCOMPARE(answer->calls(), 1);
+                    const Answer answer = m_bed.perform(operation);
+                    given << answer.text;
+                    QCOMPARE(answer.calls, 1);
                     QVERIFY(!tellsSecret(log.lines()));
-                    QCOMPARE(answer->wasGivenOn(thread()), operation != Operation::Configuration);
+                    QCOMPARE(answer.thread == thread(), operation != Operation::Configuration);
                 }
                 QCOMPARE(given, answers);
             });
@@ -86,9 +85,9 @@ private Q_SLOTS:
             [&](const PrinterFault &fault, const QString &text, const QStringList &errors) {
                 m_bed.reset(scriptWith(Operation::Address, fault));
                 const LogCollector log;
-                const auto answer = m_bed.perform(Operation::Address);
-                QCOMPARE(answer->text(), text);
-                QCOMPARE(answer->calls(), 1);
+                const Answer answer = m_bed.perform(Operation::Address);
+                QCOMPARE(answer.text, text);
+                QCOMPARE(answer.calls, 1);
                 QCOMPARE(log.lines().filter(u"error: "_s), errors);
             });
     }
@@ -104,7 +103,7 @@ private Q_SLOTS:
             [&](Operation operation, int seconds) {
                 m_bed.reset(scriptWith(operation, {.silent = true}));
                 const auto before = m_bed.time.now();
-                QCOMPARE(m_bed.perform(operation)->calls(), 1);
+                QCOMPARE(m_bed.perform(operation).calls, 1);
                 QCOMPARE(static_cast<int>(std::chrono::round<std::chrono::seconds>(m_bed.time.now() - before).count()),
                          seconds);
             });
@@ -116,7 +115,7 @@ private Q_SLOTS:
         slowToJoin.joinTime = 20s;
         m_bed.reset(slowToJoin);
         const auto before = m_bed.time.now();
-        QCOMPARE(m_bed.perform(Operation::Configuration)->text(), u"0, 0x1"_s);
+        QCOMPARE(m_bed.perform(Operation::Configuration).text, u"0, 0x1"_s);
         const auto duration = m_bed.time.now() - before;
         QVERIFY(duration >= 25s && duration < 26s);
         const PrinterRecord told = m_bed.bus.record();
@@ -155,7 +154,7 @@ private Q_SLOTS:
             [&](Operation operation, const PrinterFault &fault, QStringList lines) {
                 m_bed.reset(scriptWith(operation, fault));
                 const LogCollector log;
-                QCOMPARE(m_bed.perform(operation)->calls(), 1);
+                QCOMPARE(m_bed.perform(operation).calls, 1);
                 QCOMPARE(log.lines(), lines.replaceInStrings(u"URI"_s, m_bed.uri()));
             });
     }
@@ -163,19 +162,27 @@ private Q_SLOTS:
     void findsPrintersOfBothVendorsUntilTheSearchEnds()
     {
         auto &manager = WTManager::shared();
+        const auto lists = [&](qsizetype printers) {
+            return m_bed.runUntil([&] { return manager.printerList().count() == printers; });
+        };
         ModelIdentity sister;
         sister.vendorID = 0x6A1C;
         const int second = m_bed.bus.addPrinter(PrinterModel(sister));
-        m_bed.bus.plug(second);
+        m_bed.bus.unplug();
         manager.wt_startDiscoverPrinter();
-        QVERIFY(m_bed.runUntil([&] { return manager.printerList().count() == 2; }));
+        QVERIFY(lists(0));
+        m_bed.bus.plug(second);
+        QVERIFY(lists(1));
+        m_bed.bus.plug();
+        QVERIFY(lists(2));
+        QCOMPARE(manager.printerList().objectAtIndex(0)->usbObj->VID, 0x6A1B);
         QCOMPARE(manager.printerList().objectAtIndex(1)->usbObj->VID, 0x6A1C);
         manager.wt_stopDiscoverPrinter();
         const LogCollector log;
         m_bed.bus.unplug(second);
         m_bed.time.advance(1s);
         manager.wt_startDiscoverPrinter();
-        QVERIFY(m_bed.runUntil([&] { return manager.printerList().count() == 1; }));
+        QVERIFY(lists(1));
         manager.wt_stopDiscoverPrinter();
         // Only the search that was started anew has told of the change.
         QCOMPARE(log.lines().filter(u"USB Printers count"_s).size(), 1);
@@ -184,9 +191,9 @@ private Q_SLOTS:
     void refusesAWakeUpWithoutUriAtOnce()
     {
         const LogCollector log;
-        const auto answer = start(Operation::WakeUp, u" "_s);
-        QCOMPARE(answer->calls(), 1);
-        QCOMPARE(answer->text(), u"0, invalid URI!"_s);
+        const Answer answer = start(Operation::WakeUp, u" "_s)->soFar();
+        QCOMPARE(answer.calls, 1);
+        QCOMPARE(answer.text, u"0, invalid URI!"_s);
         QCOMPARE(log.lines(), QStringList{u"error: invalid URI!"_s});
     }
 
@@ -195,17 +202,16 @@ private Q_SLOTS:
         const LogCollector log;
         const int framesBefore = m_bed.bus.record().count(0xFF80);
         const QString longPassword = networkPassword + networkPassword;
-        Answer nameless;
-        Answer tooLong;
+        PendingAnswer nameless, tooLong;
         WTManager::wifiConfigForPrinter(m_bed.uri(), 1, u" \n"_s, networkPassword,
                                         [&](const ResultAnswer &answer) { nameless.give(answer); });
         WTManager::wifiConfigForPrinter(m_bed.uri(), 1, networkName, longPassword,
                                         [&](const ResultAnswer &answer) { tooLong.give(answer); });
-        QVERIFY(m_bed.runUntil([&] { return tooLong.calls() > 0; }));
+        QVERIFY(m_bed.runUntil([&] { return tooLong.soFar().calls > 0; }));
 
-        QCOMPARE(tooLong.text(), u"1, 0x0"_s);
-        QVERIFY(!tooLong.wasGivenOn(thread()));
-        QCOMPARE(nameless.calls(), 0);
+        QCOMPARE(tooLong.soFar().text, u"1, 0x0"_s);
+        QVERIFY(tooLong.soFar().thread != thread());
+        QCOMPARE(nameless.soFar().calls, 0);
         QCOMPARE(m_bed.bus.record().count(0xFF80), framesBefore);
         const QStringList lines = log.lines();
         QCOMPARE(lines.size(), 2);

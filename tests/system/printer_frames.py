@@ -26,12 +26,3 @@ def address_query():
 def configuration(name, password):
     payload = name.encode().ljust(33, b"\0") + b"\x05" + password.encode().ljust(31, b"\0") + bytes(143)
     return _frame(0xFF80, 208, payload)
-
-
-def information_page():
-    """The value 2 stands in the length field; nothing follows."""
-    return _frame(0xFF84, 2)
-
-
-def information_page_in_old_dialect():
-    return _frame(0xFF84, 2, b"\x00\x02")

@@ -91,15 +91,6 @@ def expect(received, *expected):
     )
 
 
-def run_with_known_support(start):
-    with start("QZ100") as run:
-        run.enter_network()
-        run.finish()
-        expect(
-            run.frames(), frames.wake_up(), frames.configuration(NETWORK, PASSWORD), frames.address_query()
-        )
-
-
 def run_with_unknown_support(start):
     with start("QZ200") as run:
         run.enter_network()
@@ -111,15 +102,6 @@ def run_with_unknown_support(start):
             frames.configuration(NETWORK, PASSWORD),
             frames.address_query(),
         )
-
-
-def information_page(start, model, page):
-    with start(model) as run:
-        run.enter_network()
-        run.window.press("打印无线网络信息页")
-        run.window.wait_for_text("已将无线网络信息页发送给打印机")
-        expect(run.frames(), frames.wake_up(), page)
-        run.window.press("确定")
 
 
 def password_search_finds():
@@ -138,12 +120,7 @@ def main():
 
     with AccessibilityBus():
         cases.run("the search for the password finds it", password_search_finds)
-        cases.run("run: Wi-Fi support known", run_with_known_support, start)
         cases.run("run: Wi-Fi support unknown", run_with_unknown_support, start)
-        cases.run("information page: plain dialect", information_page, start, "QZ100", frames.information_page())
-        cases.run(
-            "information page: old dialect", information_page, start, "QZ110", frames.information_page_in_old_dialect()
-        )
     cases.leave()
 
 

@@ -17,8 +17,7 @@ bool isOnMainThread()
 
 } // namespace
 
-RecordedSend::RecordedSend(const QString &URI, const QByteArray &frame, int timeout, HeadReaction reaction,
-                           bool dataCallbackThrows)
+RecordedSend::RecordedSend(const QString &URI, const QByteArray &frame, int timeout, HeadReaction reaction)
 {
     WTCUSBPrinter::IOKit_sendACLWithURI(
         URI, frame, kACLHeadSize, timeout,
@@ -34,15 +33,12 @@ RecordedSend::RecordedSend(const QString &URI, const QByteArray &frame, int time
             if (reaction == HeadReaction::ReadAnnounced && header && header->size() == kACLHeadSize)
                 *dataLength = qFromBigEndian<quint16>(header->constData() + 6);
         },
-        [kept = m_record, dataCallbackThrows](const std::optional<QByteArray> &data,
-                                              const std::optional<WTError> &error) {
+        [kept = m_record](const std::optional<QByteArray> &data, const std::optional<WTError> &error) {
             kept->change([&](Record &record) {
                 record.calls += u"data"_s;
                 record.data = data;
                 record.error = error;
                 record.onMainThread |= isOnMainThread();
             });
-            if (dataCallbackThrows)
-                throw std::runtime_error("data");
         });
 }

@@ -26,7 +26,7 @@ public:
     };
 
     RecordedSend(const QString &URI, const QByteArray &frame, int timeout,
-                 HeadReaction reaction = HeadReaction::ReadAnnounced, bool dataCallbackThrows = false);
+                 HeadReaction reaction = HeadReaction::ReadAnnounced);
 
     Record record() const
     {
