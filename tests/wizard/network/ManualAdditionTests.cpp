@@ -1,11 +1,9 @@
 #include "FieldFrame.h"
-#include "InfoList.h"
 #include "KSPasswordField.h"
 #include "LogCollector.h"
 #include "Palette.h"
 #include "Rows.h"
 #include "RunBed.h"
-#include "VirtualTime.h"
 #include "WTApp.h"
 #include "WTButton.h"
 #include "WTDefaultStyleBtn.h"
@@ -25,12 +23,6 @@ class ManualAdditionTests : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        InfoList::setResourceFolder(QStringLiteral(WT_RESOURCE_FOLDER));
-        WTApp::shared().setAppLanguage(u"zh-Hans"_s);
-    }
-
     void init() { m_log = std::make_unique<LogCollector>(); }
 
     void cleanup()
@@ -135,7 +127,7 @@ private Q_SLOTS:
         QTest::keyClicks(passwordField(), u"secret pass"_s);
         m_bed->installing().setProgress(40);
         QTest::keyClick(passwordField(), Qt::Key_Return);
-        QCOMPARE(m_bed->screen(), &m_bed->installing());
+        QCOMPARE(m_bed->current(), &m_bed->installing());
         QCOMPARE(m_bed->installing().printer(), m_screen->printer());
         QCOMPARE(m_bed->installing().wifi()->security, 0);
         QCOMPARE(m_bed->run().progress(), 0);
@@ -161,14 +153,14 @@ private Q_SLOTS:
             [&](bool printsPage, const QByteArray &queueState, const QString &name, const QString &password,
                 const QString &warning, const QString &informativeText) {
                 open();
-                m_bed->spooler().queues = {{"Quillmark_QZ100", queueState}};
+                m_bed->spooler.queues = {{"Quillmark_QZ100", queueState}};
                 nameField()->setText(name);
                 passwordField()->setText(password);
                 if (printsPage)
                     m_screen->printWiFiList();
                 else
                     m_screen->nextView();
-                QCOMPARE(m_bed->screen(), m_screen);
+                QCOMPARE(m_bed->current(), m_screen);
                 QVERIFY(m_log->lines().contains(printsPage ? u"info: print WiFi list"_s : u"info: next step"_s));
                 QVERIFY(m_log->lines().contains(u"warning: "_s + warning));
                 QVERIFY(m_log->lines().filter(password).isEmpty());
@@ -180,7 +172,7 @@ private Q_SLOTS:
                 QCOMPARE(alert()->windowModality(), Qt::WindowModal);
                 QTest::keyClick(alert(), Qt::Key_Return);
                 QVERIFY(m_bed->waitFor([this] { return !alert(); }));
-                QCOMPARE(m_bed->screen(), m_screen);
+                QCOMPARE(m_bed->current(), m_screen);
                 QCOMPARE(m_bed->bus().record().commands(), std::vector<quint16>{});
             });
     }
@@ -228,21 +220,12 @@ private:
     {
         cleanup();
         init();
-        m_bed = std::make_unique<RunBed>(
-            m_time,
-            [this](const UsbfsBed &bus, const std::function<bool()> &done) {
-                return m_time.runUntil(done, [&bus] { return bus.busy(); });
-            },
-            script, identity);
-        m_screen = &m_bed->screenOf<WTNetworkWithManualAddition>();
+        m_bed = std::make_unique<RunBed>(script, identity);
+        m_screen = m_bed->screen<WTNetworkWithManualAddition>();
         m_screen->setPrinter(m_bed->findPrinter());
         m_bed->entry().pushView(m_screen);
-        m_bed->window().show();
-        m_bed->window().activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&m_bed->window()));
     }
 
-    VirtualTime m_time;
     std::unique_ptr<LogCollector> m_log;
     std::unique_ptr<RunBed> m_bed;
     WTNetworkWithManualAddition *m_screen = nullptr;

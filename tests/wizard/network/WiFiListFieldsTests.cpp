@@ -116,21 +116,6 @@ private Q_SLOTS:
                 QVERIFY(log.lines().filter(password).isEmpty());
             });
     }
-
-    void storedPasswordReachesThePrinter()
-    {
-        const QString network = u"Ça va? ☕"_s;
-        ListBed bed(ScanPermission::Allowed, network);
-        bed.hostWiFi.networks = std::vector{ListBed::home, VisibleNetwork{network, 7, 50}};
-        LogCollector log;
-        bed.enter();
-        bed.click("btn_nextStep");
-        QCOMPARE(bed.shown(), QByteArray("WTInstallingView"));
-        QVERIFY(bed.waitFor([&] { return bed.shown() == "WTCompleteView"; }));
-        QCOMPARE(bed.bus().record().networkName, network.toUtf8());
-        QCOMPARE(bed.bus().record().password, (u"secret of "_s + network).toUtf8());
-        QVERIFY(log.lines().filter(u"secret of"_s).isEmpty());
-    }
 };
 
 QTEST_MAIN(WiFiListFieldsTests)

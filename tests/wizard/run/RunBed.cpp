@@ -1,33 +1,13 @@
 #include "RunBed.h"
 
-#include "SendWorkers.h"
-#include "WTCServer.h"
 #include "WTManager.h"
-#include "askInBackground.h"
 
-RunBed::RunBed(VirtualTime &time, const PrinterScript &script)
-    : RunBed(
-          time,
-          [&time](const UsbfsBed &bus, const std::function<bool()> &done) {
-              return time.runUntil(done, [&bus] { return bus.busy(); });
-          },
-          script)
+RunBed::RunBed(const PrinterScript &script, const ModelIdentity &identity)
+    : WizardBed({identity})
+    , m_entry(new WTView)
 {
-}
-
-RunBed::RunBed(TimePort &time, Wait wait, const PrinterScript &script, const ModelIdentity &identity)
-    : m_wait(std::move(wait))
-    , m_bus(time)
-    , m_usb(time)
-{
-    WTCServer::usePorts(m_usb, time);
-    WTManager::usePorts(time);
+    bus().setScript(script);
     WTManager::shared().setCloseEnable(WTManager::CloseAsks);
-    m_bus.addPrinter(PrinterModel(identity, script));
-    m_bus.plug();
-
-    m_screens = std::make_unique<WizardScreens>(ScreenPorts{time, m_spooler, m_desktop, m_hostWiFi, {}});
-    m_entry = new WTView;
     window().addScreen(m_entry);
     m_entry->awakeFromNib();
     window().setContentView(m_entry);
@@ -35,22 +15,16 @@ RunBed::RunBed(TimePort &time, Wait wait, const PrinterScript &script, const Mod
 
 RunBed::~RunBed()
 {
-    // The port must not be destroyed while a send or a question still uses it. Unplugging the printer ends all sends.
-    if (m_bus.isPlugged())
-        m_bus.unplug();
-    m_wait(m_bus, [] { return SendWorkers::shared().isIdle() && isBackgroundIdle(); });
-}
-
-bool RunBed::waitFor(const std::function<bool()> &done)
-{
-    return m_wait(m_bus, done);
+    // Ends all sends.
+    if (bus().isPlugged())
+        bus().unplug();
 }
 
 WTPrinterPtr RunBed::findPrinter()
 {
     WTManager &manager = WTManager::shared();
     manager.wt_startDiscoverPrinter();
-    waitFor([&] { return manager.printerList().count() > 0; });
+    findPrinters();
     manager.wt_stopDiscoverPrinter();
     return manager.printerList().firstObject().value_or(nullptr);
 }
@@ -68,10 +42,5 @@ void RunBed::push(const WTPrinterPtr &printer, const QString &name, const QStrin
 
 WTView *RunBed::screenAtEnd()
 {
-    return waitFor([this] { return screen() != &installing(); }) ? screen() : nullptr;
-}
-
-WTConfigurationRun &RunBed::run()
-{
-    return *installing().findChild<WTConfigurationRun *>();
+    return waitFor([this] { return current() != &installing(); }) ? current() : nullptr;
 }

@@ -1,9 +1,7 @@
-#include "InfoList.h"
 #include "LogCollector.h"
 #include "Rows.h"
 #include "RunBed.h"
 #include "TextFormat.h"
-#include "VirtualTime.h"
 #include "WTCUSBPrinter.h"
 #include "WTManager.h"
 
@@ -37,8 +35,6 @@ class RunTests : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { InfoList::setResourceFolder(QStringLiteral(WT_RESOURCE_FOLDER)); }
-
     void printerSays()
     {
         using enum Screen;
@@ -59,7 +55,7 @@ private Q_SLOTS:
             },
             [&](const PrinterScript &script, Screen screen, bool interfaceError, int capabilityError,
                 const QString &ip) {
-                RunBed bed(m_time, script);
+                RunBed bed(script);
                 const WTPrinterPtr printer = bed.findPrinter();
                 printer->wifiCode = supportUnknown;
                 bed.push(printer, networkName, password);
@@ -97,11 +93,11 @@ private Q_SLOTS:
             [&](Status status, quint16 result, Screen screen, bool interfaceError, qint64 closeState, int endCode) {
                 const bool upgrading = endCode == 7;
                 LogCollector log;
-                RunBed bed(m_time, silentOn(Configuration));
+                RunBed bed(silentOn(Configuration));
                 bed.push(bed.findPrinter(), networkName, password);
                 QVERIFY(bed.waitFor([&] { return bed.run().progress() == 5; }));
                 bed.run().classifyConfiguration({status, result});
-                QCOMPARE(bed.screen(), expected(bed, screen));
+                QCOMPARE(bed.current(), expected(bed, screen));
                 QCOMPARE(bed.run().progress(), 100);
                 QCOMPARE(bed.failed().showInterfaceError(), interfaceError);
                 QCOMPARE(bed.failed().showWiFiCapabilityError(), upgrading);
@@ -114,7 +110,7 @@ private Q_SLOTS:
     void sendsTheConfigurationThreeTimesAtMost()
     {
         LogCollector log;
-        RunBed bed(m_time, silentOn(Configuration));
+        RunBed bed(silentOn(Configuration));
         bed.push(bed.findPrinter(), networkName, password);
         QVERIFY(bed.waitFor([&] { return bed.run().step() == RunStep::Sending; }));
         for (int retry = 1; retry <= 2; ++retry) {
@@ -123,7 +119,7 @@ private Q_SLOTS:
             QCOMPARE(bed.run().step(), RunStep::Sending);
         }
         bed.run().classifyConfiguration({WTPrinterStatus::CommandMismatch});
-        QCOMPARE(bed.screen(), &bed.configFailed());
+        QCOMPARE(bed.current(), &bed.configFailed());
         QCOMPARE(log.firstMissing({u"info: retry time:0"_s, u"info: retry time:1"_s, u"info: retry time:2"_s,
                                    u"info: did retry!"_s, u"info: 🏷 result：4"_s}),
                  QString());
@@ -155,7 +151,7 @@ private Q_SLOTS:
             },
             [&](const PrinterScript &script, const RunCause &cause) {
                 LogCollector log;
-                RunBed bed(m_time, script);
+                RunBed bed(script);
                 std::optional<RunCause> told;
                 connect(&bed.run(), &WTConfigurationRun::ended, this,
                         [&](const RunOutcome &outcome) { told = outcome.cause; });
@@ -177,7 +173,7 @@ private Q_SLOTS:
     void logsEachStepAndNoPassword()
     {
         LogCollector log;
-        RunBed bed(m_time, {.addressTime = 6s});
+        RunBed bed({.addressTime = 6s});
         const WTPrinterPtr printer = bed.findPrinter();
         printer->wifiCode = supportUnknown;
         bed.push(printer, networkName, password);
@@ -204,7 +200,7 @@ private Q_SLOTS:
 
     void closeStateFollowsTheRun()
     {
-        RunBed bed(m_time);
+        RunBed bed;
         QList<std::pair<RunStep, qint64>> states;
         connect(&bed.run(), &WTConfigurationRun::stepChanged, this, [&](RunStep step) {
             states.append({step, WTManager::shared().closeEnable()});
@@ -226,7 +222,7 @@ private Q_SLOTS:
     {
         PrinterScript script;
         script.faults.push_back({.command = WakeUp, .occurrence = 1, .delay = 3s});
-        RunBed bed(m_time, script);
+        RunBed bed(script);
         bed.push(bed.findPrinter(), networkName, password);
         QVERIFY(bed.waitFor([&] { return bed.sends(WakeUp) == 1; }));
         bed.installing().viewDidApear();
@@ -236,28 +232,10 @@ private Q_SLOTS:
         QCOMPARE(bed.sends(Address), 1);
     }
 
-    void newRunAfterReplug()
-    {
-        RunBed bed(m_time, {.configurationResult = 2});
-        const WTPrinterPtr printer = bed.findPrinter();
-        bed.push(printer, networkName, password);
-        QCOMPARE(bed.screenAtEnd(), &bed.configFailed());
-
-        bed.bus().unplug();
-        bed.bus().setScript({});
-        bed.bus().plug();
-        bed.configFailed().backAction();
-        QCOMPARE(bed.screen(), &bed.entry());
-        bed.push(printer, networkName, u"another one"_s);
-        QCOMPARE(bed.screenAtEnd(), &bed.complete());
-        QCOMPARE(bed.bus().record().password, "another one");
-        QCOMPARE(printer->ip, u"192.168.1.77"_s);
-    }
-
     void hostThatCannotPollEndsWithoutAddress()
     {
-        RunBed bed(m_time);
-        WTConfigurationRun run(m_time, false);
+        RunBed bed;
+        WTConfigurationRun run(bed.time(), false);
         const WTPrinterPtr printer = bed.findPrinter();
         auto wifi = std::make_shared<WTWiFi>();
         wifi->SSID = networkName;
@@ -285,8 +263,6 @@ private:
         }
         Q_UNREACHABLE();
     }
-
-    VirtualTime m_time;
 };
 
 QTEST_MAIN(RunTests)

@@ -1,4 +1,3 @@
-#include "InfoList.h"
 #include "Localized.h"
 #include "LogCollector.h"
 #include "Rows.h"
@@ -27,21 +26,19 @@ class RunTimeTests : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { InfoList::setResourceFolder(QStringLiteral(WT_RESOURCE_FOLDER)); }
-
     void asksSevenTimesTwoSecondsApart()
     {
         LogCollector log;
-        RunBed bed(m_time, {.addressTime = 3600s});
+        RunBed bed({.addressTime = 3600s});
         const WTPrinterPtr printer = bed.findPrinter();
         QCOMPARE(printer->wifiCode, 1);
         bed.push(printer, networkName, password);
         QVERIFY(bed.waitFor([&] { return bed.sends(Configuration) == 1; }));
-        const TimePort::Instant sent = m_time.now();
+        const TimePort::Instant sent = bed.time().now();
         QCOMPARE(bed.screenAtEnd(), &bed.failed());
 
         // Five seconds of the command's own pause, and one pause after each of seven failed answers.
-        const auto waited = m_time.now() - sent;
+        const auto waited = bed.time().now() - sent;
         QVERIFY2(waited >= 19s && waited < 20s, QByteArray::number(qint64(waited / 1ms)));
         QCOMPARE(bed.bus().record().commands(), (std::vector<quint16>{WakeUp, Configuration, Address, Address, Address,
                                                                       Address, Address, Address, Address}));
@@ -53,10 +50,10 @@ private Q_SLOTS:
 
     void countsProgressFromTheFirstSend()
     {
-        RunBed bed(m_time, {.joinTime = 60s});
+        RunBed bed({.joinTime = 60s});
         std::vector<std::pair<TimePort::Instant, int>> shown;
         connect(&bed.run(), &WTConfigurationRun::progressChanged, this,
-                [&](int progress) { shown.emplace_back(m_time.now(), progress); });
+                [&](int progress) { shown.emplace_back(bed.time().now(), progress); });
         const auto *bar = bed.installing().findChild<WTProgressView *>(u"progressView"_s);
         bed.push(bed.findPrinter(), networkName, password);
         QVERIFY(bed.waitFor([&] { return bar->progress() == 100; }));
@@ -68,7 +65,7 @@ private Q_SLOTS:
             QCOMPARE(first[progress].second, progress);
             QCOMPARE((first[progress].first - first->first) / 1ms, progress * 200);
         }
-        QCOMPARE(bed.screen(), &bed.installing());
+        QCOMPARE(bed.current(), &bed.installing());
         QCOMPARE(bed.screenAtEnd(), &bed.complete());
     }
 
@@ -88,28 +85,25 @@ private Q_SLOTS:
                 if (!addressData.isEmpty())
                     script.faults.push_back({.command = Address, .data = addressData});
                 LogCollector log;
-                RunBed bed(m_time, script);
+                RunBed bed(script);
                 const WTPrinterPtr printer = bed.findPrinter();
                 printer->wifiCode = wifiCode;
                 const auto *line = bed.installing().findChild<QLabel *>(u"progressLabel"_s);
                 TimePort::Instant lastStep;
-                connect(&bed.run(), &WTConfigurationRun::stepChanged, this, [&] { lastStep = m_time.now(); });
+                connect(&bed.run(), &WTConfigurationRun::stepChanged, this, [&] { lastStep = bed.time().now(); });
                 bed.push(printer, name, password);
 
                 QVERIFY(bed.waitFor([&] { return WTManager::shared().closeEnable() == WTManager::CloseIgnored; }));
                 QVERIFY(bed.waitFor([&] { return WTManager::shared().closeEnable() == WTManager::CloseAsks; }));
-                QCOMPARE((m_time.now() - lastStep) / 1ms, 240'000);
+                QCOMPARE((bed.time().now() - lastStep) / 1ms, 240'000);
                 QCOMPARE(line->text(), localized(u"打印机没有应答，您现在可以关闭此窗口。"_s));
                 QVERIFY(log.lines().contains(u"error: No step for 240 seconds: "_s + step));
-                m_time.advance(600s);
+                bed.time().advance(600s);
                 QCoreApplication::processEvents();
-                QCOMPARE(bed.screen(), &bed.installing());
+                QCOMPARE(bed.current(), &bed.installing());
                 QCOMPARE(bed.bus().record().commands(), commands);
             });
     }
-
-private:
-    VirtualTime m_time;
 };
 
 QTEST_MAIN(RunTimeTests)
