@@ -91,10 +91,10 @@ private Q_SLOTS:
     {
         const auto told = [](const QString &decided) { return u"info: App Language:"_s + decided; };
         const QString english = u"en"_s;
-        const QString simplified = u"zh-Hans"_s;
         const QString traditional = u"zh-Hant"_s;
         const QString otherLine = u"info: OS Language:fr, App Lang:en"_s;
         const QString chinese = u"zh_CN.UTF-8"_s;
+        const QStringList taiwan{u"en"_s, u"zh-Hant-TW"_s, u"zh-CN"_s};
         eachRow(
             {
                 {"English", u"en_GB.UTF-8"_s, {}, english, u"Cancel"_s, told(english)},
@@ -103,12 +103,7 @@ private Q_SLOTS:
                 {"a folder without texts", u"ja_JP.UTF-8"_s, {}, u"ja"_s, u"取消"_s, told(u"ja"_s)},
                 {"no folder", u"fr_FR.UTF-8"_s, {}, english, u"Cancel"_s, otherLine},
                 {"an entry that is no language", u"ca_ES.UTF-8"_s, {}, u"ca"_s, u"Cancel"_s, told(u"ca"_s)},
-                {"the user's list: Hant",
-                 chinese,
-                 {u"en"_s, u"zh-Hant-TW"_s, u"zh-CN"_s},
-                 traditional,
-                 u"取消"_s,
-                 told(traditional)},
+                {"the user's list: Hant", chinese, taiwan, traditional, u"取消"_s, told(traditional)},
                 {"the user's list: HK", chinese, {u"zh-HK"_s}, traditional, u"取消"_s, told(traditional)},
             },
             [&](const QString &locale, const QStringList &stored, const QString &decided, const QString &cancel,

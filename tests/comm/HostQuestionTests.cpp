@@ -49,16 +49,12 @@ private Q_SLOTS:
         const auto queue = [](const char *name, const char *state) {
             return PrintDestination{.name = name, .printerState = state};
         };
-        const Queues printing{queue("QZ100_USB", "4")};
+        const Queues printing{queue("QZ100_USB", "4")}, two{queue("QZ100_A", "3"), queue("QZ100_B", "4")};
         eachRow(
             {
                 {"printing", u"QZ100"_s, printing, true, true},
                 {"another printer is printing", u"QZ200"_s, printing, false, false},
-                {"the second queue is printing",
-                 u"QZ100"_s,
-                 {queue("QZ100_A", "3"), queue("QZ100_B", "4")},
-                 true,
-                 true},
+                {"the second queue is printing", u"QZ100"_s, two, true, true},
                 {"spaces are removed from the type", u"Q Z 100"_s, {queue("QZ100", "4")}, true, true},
                 {"series is cut off", u"M1234 series"_s, {queue("M1234 USB", "4")}, true, true},
                 {"Series is not", u"M1234 Series"_s, {queue("M1234 USB", "4")}, false, false},

@@ -42,6 +42,7 @@ private Q_SLOTS:
         const auto model = [](const QByteArray &fields) { return R"({"device_name": "QZ100", )" + fields + '}'; };
         const QByteArray plain = model(R"("supportWifi": 1, "isOldACL": 1)");
         const QByteArray unnamed = R"(5, null, "QZ100", [], {}, {"device_name": 100}, {"device_name": " "})";
+        const QByteArray longer = R"({"device_name": "Quillmark QZ100", "supportWifi": 1})";
         const QString name = u"QZ100"_s;
         eachRow(
             {
@@ -49,13 +50,7 @@ private Q_SLOTS:
                 {"the model", plain, name, true, true, true, 1},
                 {"a longer type in another case", plain, u"qz100nw"_s, true, false, false, {}},
                 {"the same designation in a longer type", plain, u"Quillmark QZ100 series"_s, true, true, true, {}},
-                {"the same designation in a longer name",
-                 R"({"device_name": "Quillmark QZ100", "supportWifi": 1})",
-                 name,
-                 true,
-                 true,
-                 false,
-                 {}},
+                {"the same designation in a longer name", longer, name, true, true, false, {}},
                 {"no Wi-Fi", model(R"("supportWifi": 0)"), name, true, false, false, 0},
                 {"dialect null", model(R"("supportWifi": 1, "isOldACL": null)"), name, true, true, false, 1},
                 {"beyond 32 bits", model(R"("supportWifi": 4294967296, "isOldACL": 4294967296)"), name, true, true,

@@ -1,10 +1,7 @@
 #include "CrashReport.h"
-#include "JournalLog.h"
 #include "Rows.h"
-#include "WTASLLogger.h"
 #include "WTLogFormatter.h"
 #include "WTLogMessage.h"
-#include "WTOSLogger.h"
 
 #include <QTest>
 #include <csignal>
@@ -26,36 +23,6 @@ WTLogMessage messageWith(quint64 flag, const QString &text, const QString &file 
         .spokenBy({42, {}, {}});
 }
 
-struct Sent {
-    int urgency;
-    QString text;
-    bool operator==(const Sent &) const = default;
-};
-
-class FakeSystemLog : public OSLog
-{
-public:
-    void send(OSLogType type, const QString &text) override { sent.append({JournalLog::priority(type), text}); }
-    QList<Sent> sent;
-};
-
-class FakeClient : public SystemLogClient
-{
-public:
-    explicit FakeClient(QList<Sent> &sent)
-        : m_sent(sent)
-    {
-    }
-
-    void send(int level, const QByteArray &utf8Message) override
-    {
-        m_sent.append({level, QString::fromUtf8(utf8Message)});
-    }
-
-private:
-    QList<Sent> &m_sent;
-};
-
 } // namespace
 
 class LogLineTests : public QObject
@@ -73,57 +40,18 @@ private Q_SLOTS:
     {
         const QString head = u"[2026-03-09 08:05:07.089 TID:    42] "_s;
         const QString place = u" <FileName: a.b> <Function: void f()> <Line: 12> 文本"_s;
+        const auto summer = winterMorning + 24h * 20;
+        const QString later = u"[2026-03-29 09:05:07.089 TID:    42] \U0001F7E2 文本"_s;
         eachRow(
             {
-                {"error", quint64{1}, head + u"\u274C"_s + place},
-                {"warning", quint64{2}, head + u"\u26A0\uFE0F 文本"_s},
-                {"info", quint64{4}, head + u"\U0001F7E2 文本"_s},
+                {"error", winterMorning, quint64{1}, head + u"\u274C"_s + place},
+                {"warning", winterMorning, quint64{2}, head + u"\u26A0\uFE0F 文本"_s},
+                {"info", winterMorning, quint64{4}, head + u"\U0001F7E2 文本"_s},
+                {"in summer", summer, quint64{4}, later},
             },
-            [&](quint64 flag, const QString &expected) {
-                QCOMPARE(WTLogFormatter().formatLogMessage(messageWith(flag, u"文本"_s)).value(), expected);
-            });
-    }
-
-    void followsTheTimeZone()
-    {
-        eachRow(
-            {
-                {"before summer time", qint64{3599}, u"2026-03-29 01:59:59.000"_s},
-                {"summer time", qint64{3600}, u"2026-03-29 03:00:00.000"_s},
-            },
-            [&](qint64 secondsAfterMidnight, const QString &expected) {
-                const std::chrono::system_clock::time_point date{
-                    std::chrono::seconds{1774742400 + secondsAfterMidnight}};
-                QVERIFY(WTLogFormatter()
-                            .formatLogMessage(messageWith(4, {}, {}, date))
-                            ->startsWith(u'[' + expected + u' '));
-            });
-    }
-
-    void mapsFlagsForTheSystemLogs()
-    {
-        eachRow(
-            {
-                {"error", quint64{1}, 3, 2},
-                {"warning", quint64{2}, 6, 3},
-                {"info", quint64{4}, 6, 4},
-                {"debug", quint64{8}, 7, 5},
-                {"verbose", quint64{16}, 7, 5},
-                {"none", quint64{0}, 7, 5},
-            },
-            [&](quint64 flag, int journalPriority, int systemLogLevel) {
-                const auto systemLog = std::make_shared<FakeSystemLog>();
-                WTOSLogger journal;
-                journal.setLogger(systemLog);
-                QList<Sent> sent;
-                WTASLLogger classic(std::make_unique<FakeClient>(sent));
-
-                for (WTLogger *logger : {static_cast<WTLogger *>(&journal), static_cast<WTLogger *>(&classic)}) {
-                    logger->logMessage(messageWith(flag, u"text"_s));
-                    logger->logMessage(messageWith(flag, u"fed back"_s, u"a/WTASLLogCapture.cpp"_s));
-                }
-                QCOMPARE(systemLog->sent, QList<Sent>({{journalPriority, u"text"_s}}));
-                QCOMPARE(sent, QList<Sent>({{systemLogLevel, u"text"_s}}));
+            [&](std::chrono::system_clock::time_point date, quint64 flag, const QString &expected) {
+                const WTLogMessage message = messageWith(flag, u"文本"_s, u"s.rc/a.b.cpp"_s, date);
+                QCOMPARE(WTLogFormatter().formatLogMessage(message).value(), expected);
             });
     }
 

@@ -19,12 +19,6 @@ RecorderPtr addRecorder(quint64 level = WTLogLevelAll)
     return recorder;
 }
 
-/// Returns when everything that was queued before has been written.
-void settle()
-{
-    WTLog::flushLog();
-}
-
 void logWithFlag(quint64 flag, const char *text)
 {
     WTLog::log(true, WTLogLevelAll, flag, 0, "file.cpp", "function", 1, {}, text);
@@ -40,7 +34,7 @@ private Q_SLOTS:
     void cleanup()
     {
         WTLog::removeAllLoggers();
-        settle();
+        WTLog::flushLog();
         QVERIFY(WTLog::allLoggers().isEmpty());
     }
 
@@ -52,7 +46,7 @@ private Q_SLOTS:
             logInfo("%d", number);
             expected.append(QString::number(number));
         }
-        settle();
+        WTLog::flushLog();
         expected.append(u"flush"_s);
         QCOMPARE(first->events(), expected);
         QCOMPARE(second->events(), expected);
@@ -71,7 +65,7 @@ private Q_SLOTS:
             [&](quint64 level, quint64 flag, bool admitted) {
                 const auto recorder = addRecorder(level);
                 logWithFlag(flag, "text");
-                settle();
+                WTLog::flushLog();
                 QCOMPARE(recorder->events().contains(u"text"_s), admitted);
             });
     }
@@ -83,7 +77,7 @@ private Q_SLOTS:
         WTLog::addLogger(recorder, WTLogFlagInfo);
         logInfo("twice");
         logDebug("once");
-        settle();
+        WTLog::flushLog();
         QCOMPARE(WTLog::allLoggers(), QList<WTLog::LoggerPtr>({recorder, recorder}));
         QCOMPARE(recorder->events().count(u"twice"_s), 2);
         QCOMPARE(recorder->events().count(u"once"_s), 1);
@@ -96,7 +90,7 @@ private Q_SLOTS:
         logInfo("for one");
         WTLog::removeAllLoggers();
         logInfo("too late");
-        settle();
+        WTLog::flushLog();
         QTRY_COMPARE(recorder->events(), QStringList({u"added"_s, u"removed"_s}));
         QTRY_COMPARE(other->events(), QStringList({u"added"_s, u"for one"_s, u"removed"_s}));
     }
@@ -129,7 +123,7 @@ private Q_SLOTS:
             logInfo("%d", number);
         QVERIFY(slow->events().size() <= 2);
         mayWrite.release(2000);
-        settle();
+        WTLog::flushLog();
         QCOMPARE(slow->events().size(), 2002);
     }
 
@@ -139,7 +133,7 @@ private Q_SLOTS:
         WTLog::addLogger(std::make_shared<RecordingLogger>([&](const WTLogMessage &message) { seen = message; }));
         const quint64 line = std::source_location::current().line() + 1;
         logWarning("%@ of %d", u"one"_s, 2);
-        settle();
+        WTLog::flushLog();
         QCOMPARE(seen.value().message(), u"one of 2"_s);
         QCOMPARE(seen->messageFormat(), u"%@ of %d"_s);
         QCOMPARE(seen->flag(), quint64{WTLogFlagWarning});

@@ -83,14 +83,6 @@ void VirtualTime::advance(Duration duration)
     moveTo(target);
 }
 
-bool VirtualTime::advanceToNext()
-{
-    const auto deadline = nextDeadline();
-    if (deadline)
-        moveTo(*deadline);
-    return deadline.has_value();
-}
-
 bool VirtualTime::runUntil(const std::function<bool()> &done, const std::function<bool()> &busy,
                            std::chrono::milliseconds realLimit)
 {
@@ -106,7 +98,8 @@ bool VirtualTime::runUntil(const std::function<bool()> &done, const std::functio
         const bool nothingToDo = !processed && !(busy && busy());
         const bool slept = nothingToDo && threads.sleptSinceLastCall();
         if (quiet && slept && !done()) {
-            advanceToNext();
+            if (const auto deadline = nextDeadline())
+                moveTo(*deadline);
             quiet = false;
             continue;
         }

@@ -25,9 +25,6 @@ public:
     /// their sleep are not waited for; where they matter, use `runUntil`.
     void advance(Duration duration);
 
-    /// Moves the clock to the next deadline of a sleeper or an action. @return whether there was one.
-    bool advanceToNext();
-
     /// Runs the main thread's events, and moves the clock to the next deadline whenever nothing else can happen: no
     /// event is pending, `busy` (a peer that still owes something in real time; may be empty) says no, and all other
     /// threads of the process are asleep. So no time-out fires while an answer is still on its way, however slow the

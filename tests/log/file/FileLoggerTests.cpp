@@ -100,7 +100,6 @@ private Q_SLOTS:
                 const auto later = [&] { return QDateTime::currentDateTime().addMSecs(milliseconds); };
                 const auto manager = std::make_shared<ToldManager>(bed.folder(), later);
                 const auto logger = loggerOf<WTFileLogger>(manager);
-                logger->setDoNotReuseLogFiles(state == "doNotReuse");
                 const QString chosen = logger->currentLogFileInfo().value().filePath();
                 milliseconds = 0;
                 logTo(logger, u"text"_s);

@@ -1,5 +1,5 @@
-#include "FileDescriptor.h"
 #include "LogBed.h"
+#include "LogSocket.h"
 #include "PrivateMount.h"
 #include "Rows.h"
 #include "SyslogClient.h"
@@ -18,10 +18,8 @@
 #include <cerrno>
 #include <csignal>
 #include <sys/resource.h>
-#include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
-#include <sys/un.h>
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -109,30 +107,6 @@ int refuse(int error)
     errno = error;
     return -1;
 }
-
-/// The end of a system log that takes the lines.
-class LogSocket
-{
-public:
-    explicit LogSocket(const char *path)
-        : m_socket(socket(AF_UNIX, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0))
-    {
-        sockaddr_un address{AF_UNIX, {}};
-        qstrncpy(address.sun_path, path, sizeof address.sun_path);
-        if (bind(m_socket.get(), reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0)
-            qFatal("cannot listen at %s", path);
-    }
-
-    QByteArray received() const
-    {
-        QByteArray bytes(1000, Qt::Uninitialized);
-        bytes.truncate(std::max<ssize_t>(recv(m_socket.get(), bytes.data(), bytes.size(), 0), 0));
-        return bytes;
-    }
-
-private:
-    const FileDescriptor m_socket;
-};
 
 } // namespace
 
@@ -379,20 +353,28 @@ private Q_SLOTS:
             QSKIP("this user may not mount, and the sockets of the machine's own logs are not his");
         eachRow(
             {
-                {"error", quint64{WTLogFlagError}, QByteArray("PRIORITY=3\n"), QByteArray("<10>")},
-                {"info", quint64{WTLogFlagInfo}, QByteArray("PRIORITY=6\n"), QByteArray("<12>")},
+                {"error", quint64{WTLogFlagError}, "PRIORITY=3\n", "<10>"},
+                {"warning", quint64{WTLogFlagWarning}, "PRIORITY=6\n", "<11>"},
+                {"info", quint64{WTLogFlagInfo}, "PRIORITY=6\n", "<12>"},
+                {"debug", quint64{WTLogFlagDebug}, "PRIORITY=7\n", "<13>"},
             },
-            [](quint64 flag, const QByteArray &journal, const QByteArray &syslog) {
+            [](quint64 flag, const char *journal, const char *syslog) {
                 const PrivateMount run(u"/run"_s, "tmpfs", "mode=755"), devices(u"/dev"_s, "tmpfs", "mode=755");
                 QVERIFY(run.isThere() && devices.isThere() && QDir().mkpath(u"/run/systemd/journal"_s));
                 const LogSocket journalSocket("/run/systemd/journal/socket"), syslogSocket("/dev/log");
-                const auto message =
-                    WTLogMessage::initWithMessage(u"text"_s, WTLogLevelAll, flag, 0, {}, {}, 0, std::nullopt);
-                WTOSLogger().logMessage(message);
-                WTASLLogger(std::make_unique<SyslogClient>()).logMessage(message);
+                WTOSLogger toTheJournal;
+                WTASLLogger toTheSyslog(std::make_unique<SyslogClient>());
+                // What was read from a system's log is not written to it again.
+                for (const QString &file : {u"a/WTASLLogCapture.cpp"_s, u"a/b.cpp"_s}) {
+                    const auto message = WTLogMessage::initWithMessage(file + u" text"_s, WTLogLevelAll, flag, 0,
+                                                                       {file, {}, 0}, {}, 0, std::nullopt);
+                    toTheJournal.logMessage(message);
+                    toTheSyslog.logMessage(message);
+                }
                 const QByteArray toJournal = journalSocket.received(), toSyslog = syslogSocket.received();
-                QVERIFY2(toJournal.contains("MESSAGE=text\n") && toJournal.contains(journal), toJournal);
-                QVERIFY2(toSyslog.startsWith(syslog) && toSyslog.contains(" com.apple.console: text"), toSyslog);
+                QVERIFY2(toJournal.contains("MESSAGE=a/b.cpp text\n") && toJournal.contains(journal), toJournal);
+                QVERIFY2(toSyslog.startsWith(syslog) && toSyslog.contains(" com.apple.console: a/b.cpp text"),
+                         toSyslog);
             });
     }
 

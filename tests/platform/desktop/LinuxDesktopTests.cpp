@@ -86,8 +86,7 @@ private Q_SLOTS:
             },
             [&](const QByteArray &hostnamectl, const QByteArray &line) {
                 ProgramFolder programs;
-                if (!hostnamectl.isEmpty())
-                    programs.install(u"hostnamectl"_s, hostnamectl);
+                programs.install(u"hostnamectl"_s, hostnamectl);
                 QElapsedTimer clock;
                 clock.start();
                 const QString report = LinuxDesktop{500ms}.hostReport();

@@ -245,7 +245,6 @@ private Q_SLOTS:
     {
         eachRow(
             {
-                {"no", Operations{{u"start"_s, true, u"no"_s}}, 2},
                 {"auth: the scan itself prompts", Operations{{u"start"_s, true, u"auth"_s}}, 4},
                 {"NetworkManager absent", Operations{}, 4},
             },

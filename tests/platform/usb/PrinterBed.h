@@ -23,11 +23,10 @@ struct PrinterBed : UsbTestBed {
         bus.plug();
     }
 
-    void answer(PrinterFault fault, PrinterScript::PulledPlug pulled = PrinterScript::PulledPlug::AtOnce)
+    void answer(PrinterFault fault)
     {
         fault.command = wakeUp;
         PrinterScript script;
-        script.pulledPlug = pulled;
         script.faults.push_back(std::move(fault));
         bus.setScript(script);
     }

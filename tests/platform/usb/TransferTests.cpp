@@ -50,28 +50,6 @@ private Q_SLOTS:
         }
     }
 
-    void aStallIsCleared()
-    {
-        PrinterFault stallOut;
-        stallOut.occurrence = 1;
-        stallOut.stallOut = true;
-        PrinterBed bed(stallOut);
-        const auto connection = bed.connect();
-        QCOMPARE(codeOf(bed.write(*connection)), code(UsbErrorCode::Stalled));
-        QVERIFY(!bed.write(*connection));
-        QByteArray reply;
-        QVERIFY(!bed.read(*connection, 16, reply));
-
-        PrinterFault stallIn;
-        stallIn.occurrence = 3;
-        stallIn.stallIn = true;
-        bed.answer(stallIn);
-        QVERIFY(!bed.write(*connection));
-        QCOMPARE(codeOf(bed.read(*connection, 32, reply)), code(UsbErrorCode::Stalled));
-        QVERIFY(!bed.write(*connection));
-        QVERIFY(!bed.read(*connection, 32, reply));
-    }
-
     void cancelEndsTheTransferAndAllLaterOnes()
     {
         const int cancelled = code(UsbErrorCode::Cancelled);

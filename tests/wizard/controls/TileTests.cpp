@@ -19,22 +19,6 @@ public:
     QList<WTHoverView *> chosen;
 };
 
-void press(WTHoverView &tile, const QString &how)
-{
-    if (how == u"mouse"_s)
-        QTest::mouseClick(&tile, Qt::LeftButton);
-    else if (how == u"release outside"_s) {
-        QTest::mousePress(&tile, Qt::LeftButton);
-        QTest::mouseRelease(&tile, Qt::LeftButton, {}, QPoint(-5, -5));
-    } else if (how == u"space"_s)
-        QTest::keyClick(&tile, Qt::Key_Space);
-    else if (how == u"return"_s)
-        QTest::keyClick(&tile, Qt::Key_Return);
-    else if (how == u"screen reader"_s)
-        QAccessible::queryAccessibleInterface(&tile)->actionInterface()->doAction(
-            QAccessibleActionInterface::pressAction());
-}
-
 } // namespace
 
 /// The selectable tile: choosing, colours, what a screen reader sees.
@@ -45,18 +29,29 @@ class TileTests : public QObject
 private Q_SLOTS:
     void choosingTellsTheDelegateElseTheTarget()
     {
+        using Press = std::function<void(WTHoverView &)>;
+        const Press click = [](WTHoverView &tile) { QTest::mouseClick(&tile, Qt::LeftButton); };
+        const Press space = [](WTHoverView &tile) { QTest::keyClick(&tile, Qt::Key_Space); };
+        const Press speak = [](WTHoverView &tile) {
+            const QString action = QAccessibleActionInterface::pressAction();
+            QAccessible::queryAccessibleInterface(&tile)->actionInterface()->doAction(action);
+        };
+        const Press slipOff = [](WTHoverView &tile) {
+            QTest::mousePress(&tile, Qt::LeftButton);
+            QTest::mouseRelease(&tile, Qt::LeftButton, {}, QPoint(-5, -5));
+        };
         eachRow(
             {
-                {"mouse", u"mouse"_s, true},
-                {"space", u"space"_s, true},
-                {"screen reader", u"screen reader"_s, true},
-                {"mouse released elsewhere", u"release outside"_s, false},
+                {"mouse", click, true},
+                {"space", space, true},
+                {"screen reader", speak, true},
+                {"mouse released elsewhere", slipOff, false},
             },
-            [&](const QString &how, bool chosen) {
+            [&](const Press &press, bool chosen) {
                 WTHoverView alone(u"usb"_s, u"Title"_s, u"Help"_s);
                 alone.show();
                 QSignalSpy action(&alone, &QAbstractButton::clicked);
-                press(alone, how);
+                press(alone);
                 QCOMPARE(alone.isSelect(), chosen);
                 QCOMPARE(action.count(), chosen ? 1 : 0);
 
@@ -65,7 +60,7 @@ private Q_SLOTS:
                 tile.setDelegate(&delegate);
                 tile.show();
                 QSignalSpy unused(&tile, &QAbstractButton::clicked);
-                press(tile, how);
+                press(tile);
                 QCOMPARE(tile.isSelect(), chosen);
                 QCOMPARE(delegate.chosen, chosen ? QList{&tile} : QList<WTHoverView *>());
                 QCOMPARE(unused.count(), 0);
