@@ -1,5 +1,6 @@
 #include "CrashReport.h"
 #include "Rows.h"
+#include "WTLogFileFormatterDefault.h"
 #include "WTLogFormatter.h"
 #include "WTLogMessage.h"
 
@@ -53,6 +54,9 @@ private Q_SLOTS:
                 const WTLogMessage message = messageWith(flag, u"文本"_s, u"s.rc/a.b.cpp"_s, date);
                 QCOMPARE(WTLogFormatter().formatLogMessage(message).value(), expected);
             });
+        // A file's own lines are in universal time.
+        const auto line = WTLogFileFormatterDefault().formatLogMessage(messageWith(4, u"文本"_s));
+        QCOMPARE(line, u"2026/03/09 07:05:07:089  文本"_s);
     }
 
     void reportsACrash()

@@ -17,6 +17,8 @@
 #include <QTest>
 #include <cerrno>
 #include <csignal>
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -99,7 +101,7 @@ QStringList linesOf(const QByteArray &output)
     return QString::fromLatin1(output).split(u'\n', Qt::SkipEmptyParts);
 }
 
-std::atomic<int> lockRefusal = 0, locksAsked = 0, synchronizations = 0;
+std::atomic<int> lockRefusal = 0, locksAsked = 0, exclusiveLocks = 0, synchronizations = 0;
 std::atomic<bool> hasNoWatches = false;
 
 int refuse(int error)
@@ -115,6 +117,7 @@ int refuse(int error)
 extern "C" int flock(int descriptor, int operation) noexcept
 {
     ++locksAsked;
+    exclusiveLocks += operation == LOCK_EX;
     return lockRefusal ? refuse(lockRefusal) : static_cast<int>(syscall(SYS_flock, descriptor, operation));
 }
 
@@ -314,13 +317,16 @@ private Q_SLOTS:
     {
         const LogBed bed;
         lockRefusal = EOPNOTSUPP;
-        locksAsked = 0;
+        locksAsked = exclusiveLocks = 0;
         const BedLogger logger(bed);
         QStringList logged;
         for (int number = 0; number < 100; ++number)
             logger.log(logged.emplace_back(QString::number(number)));
         QCOMPARE(bed.lines(), logged);
         QVERIFY2(locksAsked < 4, "the refusal is remembered");
+        QVERIFY2(exclusiveLocks == locksAsked, "a lock that is shared keeps no other writer out");
+        // Without a lock it is the kernel that keeps the lines of two processes apart.
+        QVERIFY(fcntl(descriptorOf(bed.path(bed.names().first())), F_GETFL) & O_APPEND);
         QCOMPARE(bed.console().count(u'\n'), 1);
     }
 
@@ -332,7 +338,10 @@ private Q_SLOTS:
         for (const QString &text : {u"one"_s, u"two"_s, u"three"_s}) {
             logger.log(text);
             QCOMPARE(bed.lines(), QStringList(text));
-            QVERIFY(QFile::remove(bed.path(bed.names().first())));
+            const QString path = bed.path(bed.names().first());
+            QVERIFY(QFile::rename(path, bed.home() + u'/' + text));
+            if (text == u"one"_s)
+                QVERIFY2(QFile(path).open(QIODevice::WriteOnly), "another file in its place");
         }
         QCOMPARE(bed.console().count(u"cannot be watched"_s), 1);
     }

@@ -157,8 +157,9 @@ private Q_SLOTS:
                             {u"ap"_s, u"wlan0"_s, u"c"_s, hex("twin A"), 60, 5180}},
                  QByteArray("twin A/7/60 5 GHz, twin B/7/60 5 GHz, weak/7/10")},
                 {"one per name and security, the best signal",
-                 Operations{{u"ap"_s, u"wlan0"_s, u"a"_s, hex("Home"), 70},
-                            {u"ap"_s, u"wlan0"_s, u"b"_s, hex("Home"), 20, 5180},
+                 Operations{{u"ap"_s, u"wlan0"_s, u"a"_s, hex("Home"), 20, 5180},
+                            {u"ap"_s, u"wlan0"_s, u"b"_s, hex("Home"), 70},
+                            {u"ap"_s, u"wlan0"_s, u"d"_s, hex("Home"), 30},
                             {u"ap"_s, u"wlan0"_s, u"c"_s, hex("Home"), 50, 2412, 0, 0, 0}},
                  QByteArray("Home/7/70, Home/1/50")},
                 {"hidden ones are left out",
@@ -276,13 +277,15 @@ private Q_SLOTS:
     void endsWhileAScanIsUnderWay()
     {
         m_mock.tell(
-            {{u"start"_s}, {u"device"_s, u"wlan0"_s, u"silent"_s}, {u"ap"_s, u"wlan0"_s, u"a"_s, hex("Old"), 10}});
+            {{u"start"_s}, {u"device"_s, u"wlan0"_s, u"older"_s}, {u"ap"_s, u"wlan0"_s, u"a"_s, hex("Old"), 10}});
         auto answered = std::make_shared<std::atomic<bool>>(false);
         {
             NetworkManagerWiFi wifi(m_time);
             QTRY_COMPARE(wifi.state().interfaceName, u"wlan0"_s);
             wifi.scan([answered](const auto &) { *answered = true; });
-            secretOf(wifi, u"nowhere"_s); // The request is on its way.
+            secretOf(wifi, u"nowhere"_s); // The request is on its way. The host names an earlier scan only.
+            m_mock.tell(QJsonArray{u"radio"_s, false});
+            QTRY_VERIFY(!wifi.state().poweredOn);
             QVERIFY(!answered->load());
         }
         QVERIFY(answered->load());

@@ -71,6 +71,7 @@ class Mock:
         code = {
             "newer": f"self.UpdateProperties('{WIRELESS}', {{'LastScan': dbus.Int64(2000)}})",
             "refused": f"raise dbus.exceptions.DBusException('too soon', name='{NM}.Device.NotAllowed')",
+            "older": f"self.UpdateProperties('{WIRELESS}', {{'LastScan': dbus.Int64(500)}})",
             "silent": "pass",
         }[scan]
         device.AddMethod(WIRELESS, "RequestScan", "a{sv}", "", code)

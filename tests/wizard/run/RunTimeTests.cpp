@@ -58,6 +58,8 @@ private Q_SLOTS:
         bed.push(bed.findPrinter(), networkName, password);
         QVERIFY(bed.waitFor([&] { return bar->progress() == 100; }));
 
+        QCOMPARE(bar->accessibleDescription(), bed.installing().findChild<QLabel *>(u"progressLabel"_s)->text());
+        QVERIFY(!bar->accessibleDescription().isEmpty());
         const auto first = std::ranges::find_if(shown, [](const auto &entry) { return entry.second == 1; }) - 1;
         QCOMPARE(first->second, 0);
         QCOMPARE(shown.end() - first, 101);
@@ -97,6 +99,7 @@ private Q_SLOTS:
                 QVERIFY(bed.waitFor([&] { return WTManager::shared().closeEnable() == WTManager::CloseAsks; }));
                 QCOMPARE((bed.time().now() - lastStep) / 1ms, 240'000);
                 QCOMPARE(line->text(), localized(u"打印机没有应答，您现在可以关闭此窗口。"_s));
+                QCOMPARE(bed.installing().findChild<WTProgressView *>()->accessibleDescription(), line->text());
                 QVERIFY(log.lines().contains(u"error: No step for 240 seconds: "_s + step));
                 bed.time().advance(600s);
                 QCoreApplication::processEvents();
