@@ -81,7 +81,10 @@ private Q_SLOTS:
                  0,
                  u"^QZ100 QM0001 \\(1-1\\)  %1  Wi-Fi yes  free\nQZ200 QM0002 \\(1-2\\)  %2  Wi-Fi unknown  not permitted: "_s
                      .arg(QRegularExpression::escape(first), QRegularExpression::escape(second))},
-                {"printers as JSON", {u"--json"_s, u"printers"_s}, 0, u"\"free\".*\n.*\"not permitted\""_s},
+                {"printers as JSON",
+                 {u"--json"_s, u"printers"_s},
+                 0,
+                 u"\"state\":\"free\".*\n.*\"state\":\"not permitted\""_s},
                 {"check", {u"check"_s, u"--printer"_s, first}, 0, u"can be configured"_s},
                 {"address", {u"address"_s, u"--printer"_s, first}, 1, u"has no address"_s},
                 {"page", {u"information-page"_s, u"--printer"_s, first}, 0, u"has been sent"_s},
