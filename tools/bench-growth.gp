@@ -4,35 +4,13 @@
 list = ARG1
 catalogue = ARG2
 
+load "tools/bench-style.gp"
 set terminal svg name "Growth" size 1000,380 font "sans-serif,13" background "#ffffff"
 set output ARG3
 set multiplot layout 1,2
 
-blue = 0x1b66b1
-orange = 0xc8641b
-green = 0x2b8a5b
-gray = 0x767676
-
-set style line 1 linecolor rgb blue linewidth 2.2 pointtype 7 pointsize 0.6
-set style line 2 linecolor rgb orange linewidth 2.2 pointtype 7 pointsize 0.6
-set style line 3 linecolor rgb green linewidth 2.2 pointtype 7 pointsize 0.6
-set style line 9 linecolor rgb gray linewidth 1.2 dashtype (3,4)
-
-set border 3 linecolor rgb gray
-set tics nomirror textcolor rgb "#404040"
-set xlabel textcolor rgb "#404040"
-set grid ytics linetype 1 linewidth 1 linecolor rgb "#e4e4e4"
 set logscale xy
 set format y "%g ms"
-unset mxtics
-unset mytics
-unset key
-set lmargin 10
-set rmargin 14
-set tmargin 2.5
-set bmargin 3.5
-
-last(file, column) = real(system(sprintf("awk 'END { print $%d }' '%s'", column, file)))
 
 # The ranges begin a little early, or the first mark would be lost in the logarithm's rounding.
 set title "The network list"
