@@ -3,6 +3,7 @@
 import sys
 import time
 import traceback
+from concurrent.futures import ThreadPoolExecutor
 
 
 class Cases:
@@ -21,6 +22,13 @@ class Cases:
         else:
             self._passed += 1
             print(f"PASS   : {name}", flush=True)
+
+    def run_together(self, cases):
+        """Runs cases that mostly wait, four at a time; each is its name, the function and its arguments."""
+        with ThreadPoolExecutor(4) as pool:
+            results = [(name, pool.submit(*call).result) for name, *call in cases]
+            for name, result in results:
+                self.run(name, result)
 
     def leave(self):
         milliseconds = round((time.monotonic() - self._start) * 1000)

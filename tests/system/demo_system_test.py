@@ -84,9 +84,10 @@ def main():
     cases = Cases()
     stories = [line.split()[0] for line in listed.splitlines()]
     cases.run("the list of stories", compare, sorted(stories), sorted(LAST_PICTURES))
-    for story in stories:
-        cases.run(story, walk, demo, story)
-    cases.run("a Wayland session", walk_on_wayland, demo, "success")
+    cases.run_together([
+        ("a Wayland session", walk_on_wayland, demo, "success"),
+        *((story, walk, demo, story) for story in stories),
+    ])
     cases.run("an unknown story", refuse, demo, "--story", "nobody-told-it")
     cases.run("an unknown option", refuse, demo, "--fly")
     cases.run("a speed of nothing", refuse, demo, "--speed", "0")
