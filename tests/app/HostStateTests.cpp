@@ -5,7 +5,6 @@
 #include "WTApp.h"
 #include "WTWiFi.h"
 
-#include <QTest>
 #include <limits>
 
 using namespace Qt::Literals::StringLiterals;

@@ -6,7 +6,6 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>

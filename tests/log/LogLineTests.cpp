@@ -4,7 +4,6 @@
 #include "WTLogFormatter.h"
 #include "WTLogMessage.h"
 
-#include <QTest>
 #include <csignal>
 #include <ctime>
 

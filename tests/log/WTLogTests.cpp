@@ -3,7 +3,6 @@
 #include "Rows.h"
 
 #include <QSemaphore>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -50,20 +50,16 @@ private Q_SLOTS:
 
     void refusesPlacesBeyondTheEnd()
     {
+        const IndexSet beyond{0, 2};
+        const ArrayRange endless{1, std::numeric_limits<qsizetype>::max()};
         const std::vector<Change> changes{
             [](Array &array) { array.objectAtIndex(2); },
             [](Array &array) { array.objectAtIndexedSubscript(-1); },
-            [](Array &array) {
-                array.subarrayWithRange({1, std::numeric_limits<qsizetype>::max()});
-            },
+            [&](Array &array) { array.subarrayWithRange(endless); },
             [](Array &array) { array.insertObject(9, 3); },
             [](Array &array) { array.exchangeObjectAtIndex(0, 2); },
-            [](Array &array) {
-                array.removeObjectsAtIndexes({0, 2});
-            },
-            [](Array &array) {
-                array.insertObjects({7}, IndexSet{0, 1});
-            },
+            [&](Array &array) { array.removeObjectsAtIndexes(beyond); },
+            [&](Array &array) { array.insertObjects(Numbers{7}, beyond); },
         };
         for (const Change &change : changes) {
             Array array(Numbers{1, 2});

@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
-#include <QTest>
 #include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;

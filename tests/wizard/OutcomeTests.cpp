@@ -15,7 +15,6 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QMessageBox>
-#include <QTest>
 #include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;

@@ -4,7 +4,6 @@
 #include "wtc_extractPrinterType.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 #include <sys/stat.h>
 
 using namespace Qt::Literals::StringLiterals;

@@ -4,8 +4,6 @@
 #include "Rows.h"
 #include "WTCUSBPrinter.h"
 
-#include <QTest>
-
 using namespace Qt::Literals::StringLiterals;
 
 /// What a person is told of each error that can end a run. Without a language attached the texts are their keys.

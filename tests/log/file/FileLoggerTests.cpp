@@ -7,7 +7,6 @@
 
 #include <QFile>
 #include <QRegularExpression>
-#include <QTest>
 #include <future>
 #include <sys/stat.h>
 

@@ -14,7 +14,6 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
-#include <QTest>
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>

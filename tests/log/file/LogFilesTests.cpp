@@ -4,7 +4,6 @@
 #include "WTLogFileManager.h"
 
 #include <QFile>
-#include <QTest>
 #include <cstdio>
 #include <sys/stat.h>
 #include <sys/xattr.h>

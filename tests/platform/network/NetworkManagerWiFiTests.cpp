@@ -6,7 +6,6 @@
 #include "VirtualTime.h"
 
 #include <QJsonObject>
-#include <QTest>
 #include <future>
 #include <limits>
 

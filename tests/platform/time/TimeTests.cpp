@@ -1,7 +1,6 @@
 #include "Rows.h"
 #include "SystemTime.h"
 
-#include <QTest>
 #include <atomic>
 #include <future>
 #include <thread>

@@ -2,7 +2,6 @@
 #include "Rows.h"
 
 #include <QRandomGenerator>
-#include <QTest>
 #include <span>
 
 using namespace std::chrono_literals;

@@ -1,7 +1,6 @@
 #include "FrameReader.h"
 #include "Rows.h"
 
-#include <QTest>
 #include <QtEndian>
 
 using namespace Qt::Literals::StringLiterals;
@@ -81,8 +80,6 @@ private Q_SLOTS:
         const QByteArray exit = QByteArray("\x1B%-12345X");
         eachRow(
             {
-                {"two in a row", wakeUp + shortFrame(0xFF81), u"ff21 sound | ff81 sound"_s},
-                {"configuration", network, u"ff80 sound"_s},
                 {"password that looks like an envelope", configuration("A", exit) + wakeUp,
                  u"ff80 sound | ff21 sound"_s},
                 {"page without payload", enveloped(header(0xFF84, 2)) + wakeUp, u"ff84 sound | ff21 sound"_s},

@@ -9,7 +9,6 @@
 
 #include <QEnterEvent>
 #include <QSignalSpy>
-#include <QTest>
 #include <QToolButton>
 
 using namespace Qt::Literals::StringLiterals;

@@ -4,7 +4,6 @@
 
 #include <QAccessible>
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -12,7 +12,6 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMessageBox>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace EmulatedCommand;
@@ -67,16 +66,6 @@ private Q_SLOTS:
                 QCOMPARE(m_screen->lastPwd(), passwordField()->text());
                 QCOMPARE(nextButton()->isEnabled(), nextEnabled);
             });
-    }
-
-    void pastedTabIsUndone()
-    {
-        open();
-        passwordField()->setFocus();
-        QTest::keyClicks(passwordField(), u"ab"_s);
-        QGuiApplication::clipboard()->setText(u"x\ty"_s);
-        QTest::keySequence(passwordField(), QKeySequence::Paste);
-        QCOMPARE(passwordField()->text(), u"ab"_s);
     }
 
     void focusColoursTheFrames()

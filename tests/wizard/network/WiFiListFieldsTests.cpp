@@ -9,7 +9,6 @@
 #include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -74,8 +74,7 @@ int main(int argc, char **argv)
     options.addPositionalArgument(u"directory"_s, u"Where the pictures go."_s);
     options.addPositionalArgument(u"language"_s, u"What the screens speak, such as zh-Hans."_s);
     const QCommandLineOption only(u"screen"_s, u"Take this screen only."_s, u"class"_s);
-    const QCommandLineOption size(u"size"_s, u"The window's size instead of its first one."_s, u"width x height"_s);
-    options.addOptions({only, size});
+    options.addOption(only);
     options.addHelpOption();
     options.process(application);
     if (options.positionalArguments().size() != 2)
@@ -86,8 +85,6 @@ int main(int argc, char **argv)
     WizardBed bed({ModelIdentity()}, options.positionalArguments().constLast());
     if (!bed.findPrinters())
         return 1;
-    if (const QStringList sides = options.value(size).split(u'x'); sides.size() == 2)
-        bed.window().resize(sides[0].toInt(), sides[1].toInt());
 
     QList<Shot> shots;
     for (WTView *screen : bed.window().screens()) {

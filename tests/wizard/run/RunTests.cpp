@@ -5,8 +5,6 @@
 #include "WTCUSBPrinter.h"
 #include "WTManager.h"
 
-#include <QTest>
-
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
 using namespace EmulatedCommand;

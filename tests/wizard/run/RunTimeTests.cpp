@@ -6,7 +6,6 @@
 #include "WTProgressView.h"
 
 #include <QLabel>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
