@@ -112,9 +112,9 @@ void WTLog::log(bool asynchronous, quint64 level, quint64 flag, qint64 context, 
                     asynchronous);
 }
 
-void WTLog::log(bool asynchronous, const WTLogMessage &message)
+void WTLog::log(bool asynchronous, WTLogMessage message)
 {
-    queueLogMessage(message, asynchronous);
+    queueLogMessage(std::move(message), asynchronous);
 }
 
 void WTLog::write(bool asynchronous, quint64 flag, const std::source_location &where, const char *utf8Format,
@@ -124,11 +124,11 @@ void WTLog::write(bool asynchronous, quint64 flag, const std::source_location &w
         arguments);
 }
 
-void WTLog::queueLogMessage(const WTLogMessage &message, bool asynchronously)
+void WTLog::queueLogMessage(WTLogMessage message, bool asynchronously)
 {
     WTLog &log = sharedInstance();
     if (asynchronously)
-        loggingQueue().async([&log, waiting = std::make_shared<const WTLogMessage>(message)]() mutable {
+        loggingQueue().async([&log, waiting = std::make_shared<const WTLogMessage>(std::move(message))]() mutable {
             log.lt_log(*waiting);
             GlobalQueue::async([spent = std::move(waiting)] {});
         });

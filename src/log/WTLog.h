@@ -57,12 +57,12 @@ public:
     {
         log(asynchronous, level, flag, context, file, function, line, tag, format, {FormatArgument(arguments)...});
     }
-    static void log(bool asynchronous, const WTLogMessage &message);
+    static void log(bool asynchronous, WTLogMessage message);
     /// Every level, context 0, no tag.
     static void write(bool asynchronous, quint64 flag, const std::source_location &where, const char *utf8Format,
                       std::initializer_list<FormatArgument> arguments);
     /// On the logging queue itself a synchronous message is delivered in place.
-    static void queueLogMessage(const WTLogMessage &message, bool asynchronously);
+    static void queueLogMessage(WTLogMessage message, bool asynchronously);
 
     /// Returns when every logger has flushed. Must not be called on the logging queue.
     static void flushLog();
