@@ -15,26 +15,24 @@ from mock_network_manager import MockNetworkManager
 from wifitool_system_test import NETWORK, ProgramRun, expect
 from wizard_window import AccessibilityBus, read_texts, wait_for
 
-PASSWORDS = {
-    "the four signs, quotes, backslashes, and spaces at both ends": "  ¥€£•\"'`\\n%s%@\\  ",
-    "31 bytes": "€" * 10 + "x",
-}
+# As long as a printer takes, with what a text, a format or a shell might change.
+PASSWORD = "  ¥€£•\"'`\\n%s%@\\ 567890  "
 
 
-def reach_the_list(run, password):
+def reach_the_list(run):
     wait_for(lambda: "USB Printers count:1" in run.log(), "the printer in the list")
     run.window.press("下一步")
     run.window.wait_for_text("选择无线网络")
     field = run.window.wait_for(("text", "password text"), "网络密码")
-    wait_for(lambda: field.queryText().characterCount == len(password), "the stored password")
+    wait_for(lambda: field.queryText().characterCount == len(PASSWORD), "the stored password")
 
 
-def stored_password(start, password):
-    with MockNetworkManager(NETWORK, password) as network_manager, start(network_manager.bus) as run:
-        reach_the_list(run, password)
+def stored_password(start):
+    with MockNetworkManager(NETWORK, PASSWORD) as network_manager, start(network_manager.bus) as run:
+        reach_the_list(run)
         run.finish()
-        expect(run.frames(), frames.wake_up(), frames.configuration(NETWORK, password), frames.address_query())
-        shown = secret_search.find(password, run.written())
+        expect(run.frames(), frames.wake_up(), frames.configuration(NETWORK, PASSWORD), frames.address_query())
+        shown = secret_search.find(PASSWORD, run.written())
         assert not shown, f"the password is in {shown}"
 
 
@@ -48,8 +46,7 @@ def main():
         return ProgramRun(emulator, program, texts, "QZ100", journal, bus)
 
     with AccessibilityBus():
-        for name, password in PASSWORDS.items():
-            cases.run(name, stored_password, start, password)
+        cases.run("a stored password", stored_password, start)
     cases.leave()
 
 
