@@ -7,7 +7,6 @@
 #include <QRegularExpression>
 #include <csignal>
 #include <fcntl.h>
-#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -216,18 +215,14 @@ private Q_SLOTS:
         bed.addPrinter();
         const int terminal = posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
         QVERIFY(grantpt(terminal) == 0 && unlockpt(terminal) == 0);
-        const QByteArray name = ptsname(terminal);
-        bed.program().setChildProcessModifier([name] {
-            setsid();
-            const int own = open(name.constData(), O_RDWR);
-            ioctl(own, TIOCSCTTY, 0);
-            for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
-                dup2(own, stream);
-        });
+        const QString name = QFile::decodeName(ptsname(terminal));
+        bed.program().setStandardInputFile(name);
+        bed.program().setStandardOutputFile(name);
         QProcessEnvironment environment = bed.program().processEnvironment();
         environment.insert(u"TERM"_s, u"xterm"_s);
         bed.program().setProcessEnvironment(environment);
-        bed.start({u"join"_s, u"--network"_s, u"Quill House"_s});
+        bed.program().start(u"setsid"_s,
+                            {u"--ctty"_s, QStringLiteral(WT_CTL), u"join"_s, u"--network"_s, u"Quill House"_s});
 
         QByteArray shown;
         const auto readUntil = [&](const QByteArray &text) {
