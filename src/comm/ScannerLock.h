@@ -10,8 +10,8 @@ namespace ScannerLock
 QStringList configuredPaths();
 
 /// Whether another process holds one of the locks (flock(2)). A file that does not exist, may not be read or is no
-/// regular file counts as not locked. Never waits. Main thread. A lock file that was opened stays open, on purpose,
-/// while it is at its path: a driver that watches its lock file must not see it closed.
+/// regular file counts as not locked. Never waits. Always from one and the same thread. A lock file that was opened
+/// stays open, on purpose, while it is at its path: a driver that watches its lock file must not see it closed.
 bool isHeld(const QStringList &paths);
 
 } // namespace ScannerLock

@@ -23,7 +23,8 @@ Receiver &receiver()
 
 /// An action on its way from one thread to the main thread. Qt's event queue passes it on under a lock, so this is safe
 /// by itself; but ThreadSanitizer does not see the locks of a library that was built without it, and would report a
-/// race. The atomic `token` tells it the order: it is changed after the action was written and read before it is used.
+/// race. The atomic `token` tells it the order: it is changed after the action was written or used, and read before it
+/// is used or destroyed: the posting thread may be the last to let go of the event.
 class Handover
 {
 public:
@@ -45,6 +46,7 @@ public:
     {
         token.load(std::memory_order_acquire);
         m_action();
+        token.fetch_add(1, std::memory_order_release);
     }
 
 private:
