@@ -89,8 +89,8 @@ private Q_SLOTS:
              }) {
             const End seen = run(QString::fromLatin1(crash), QString::fromLatin1(state));
             // What the allocator notices it aborts, and what it does not is a segmentation fault.
-            QVERIFY2(seen == dies(SIGABRT) || seen == endsWell, qPrintable(m_output));
-            QVERIFY2(m_output.contains(u"[ Fe Symbols End ]"_s), qPrintable(m_output));
+            QVERIFY2(seen == dies(SIGABRT) || seen == endsWell, crash.data());
+            QVERIFY2(m_output.contains(u"[ Fe Symbols End ]"_s), crash.data());
             if (state == "main")
                 QCOMPARE(m_output.count(u" xxx"_s), linesBeforeHeapCrash);
         }

@@ -2,7 +2,7 @@
 
 #include "Log.h"
 
-#include <array>
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <csignal>
@@ -11,6 +11,7 @@
 #include <malloc.h>
 #include <memory>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace
@@ -28,37 +29,38 @@ void *(*volatile fill)(void *, int, std::size_t) = std::memset;
 
 void overwriteSmallFreed()
 {
-    void *first = take(64), *second = take(64);
+    // What the allocator keeps per thread, of a size that no part of a line has: other threads give those back.
+    constexpr std::size_t smallSize = 968;
+    void *first = take(smallSize), *second = take(smallSize);
     giveBack(second);
     giveBack(first);
     fill(first, 0x41, 8);
-    take(64);
-    fill(take(64), 0, 64);
-}
-
-/// Two blocks one behind the other: after so many that the holes of the heap are used up, the last one borders on the
-/// unused rest.
-std::array<void *, 2> neighbours()
-{
-    std::array<void *, 2> last{};
-    for (std::size_t block = 0; block < 100; ++block)
-        last[block % last.size()] = take(size);
-    return last;
+    take(smallSize);
+    fill(take(smallSize), 0, smallSize);
 }
 
 void overflowIntoTop()
 {
-    void *const block = neighbours()[1];
-    fill(block, 0xff, malloc_usable_size(block) + 64);
-    take(20 * size);
+    // Of so many blocks that the holes of the heap are used up, the highest one borders on the unused rest. Other
+    // threads give memory back meanwhile, which may suffice for a while before the rest is looked at.
+    constexpr int count = 1000;
+    void *highest = nullptr;
+    for (int block = 0; block < count; ++block)
+        highest = std::max(highest, take(size));
+    fill(highest, 0xff, malloc_usable_size(highest) + 64);
+    for (int block = 0; block < count; ++block)
+        take(size);
 }
 
 void overflowIntoNext()
 {
-    const auto blocks = neighbours();
-    fill(blocks[0], 0x41, malloc_usable_size(blocks[0]) + 64);
-    giveBack(blocks[1]);
-    giveBack(blocks[0]);
+    // Other threads give memory back meanwhile, so one block need not border on the one before.
+    char *first = static_cast<char *>(take(size)), *second = static_cast<char *>(take(size));
+    while (second != first + malloc_usable_size(first) + sizeof(std::size_t))
+        first = std::exchange(second, static_cast<char *>(take(size)));
+    fill(first, 0x41, malloc_usable_size(first) + 64);
+    giveBack(second);
+    giveBack(first);
 }
 
 std::atomic<bool> isStopped = false, mayGoOn = false;
