@@ -24,8 +24,8 @@ class Cases:
             print(f"PASS   : {name}", flush=True)
 
     def run_together(self, cases):
-        """Runs cases that mostly wait, four at a time; each is its name, the function and its arguments."""
-        with ThreadPoolExecutor(4) as pool:
+        """Runs cases that mostly wait, six at a time; each is its name, the function and its arguments."""
+        with ThreadPoolExecutor(6) as pool:
             results = [(name, pool.submit(*call).result) for name, *call in cases]
             for name, result in results:
                 self.run(name, result)
