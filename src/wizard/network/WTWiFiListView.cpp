@@ -28,8 +28,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 
-constexpr int listStretch = 5;
-constexpr int formStretch = 4;
+constexpr int listStretch = 5, formStretch = 4;
 constexpr int columnGap = 32;
 
 } // namespace
