@@ -36,6 +36,12 @@ void deliver(const WTLogMessage &message, const WTLoggerNode &to)
         to.loggerQueue->async(loggingGroup(), job);
 }
 
+/// A text that lives as long as the process.
+QByteArray literal(const char *text)
+{
+    return QByteArray::fromRawData(text, qstrlen(text));
+}
+
 } // namespace
 
 WTLog::WTLog()
@@ -106,9 +112,8 @@ void WTLog::log(bool asynchronous, quint64 level, quint64 flag, qint64 context, 
 {
     if (!format)
         return;
-    const WTLogMessage::Place place{QString::fromUtf8(file), QString::fromUtf8(function), line};
-    queueLogMessage(WTLogMessage::initWithFormat(QString::fromUtf8(format), args, level, flag, context, place, tag, 0,
-                                                 std::nullopt),
+    queueLogMessage(WTLogMessage::initWithFormat(QString::fromUtf8(format), args, level, flag, context,
+                                                 {file, function, line}, tag, 0, std::nullopt),
                     asynchronous);
 }
 
@@ -120,8 +125,10 @@ void WTLog::log(bool asynchronous, WTLogMessage message)
 void WTLog::write(bool asynchronous, quint64 flag, const std::source_location &where, const char *utf8Format,
                   std::initializer_list<FormatArgument> arguments)
 {
-    log(asynchronous, WTLogLevelAll, flag, 0, where.file_name(), where.function_name(), where.line(), {}, utf8Format,
-        arguments);
+    const WTLogMessage::Place place{literal(where.file_name()), literal(where.function_name()), where.line()};
+    queueLogMessage(WTLogMessage::initWithFormat(QString::fromUtf8(utf8Format), arguments, WTLogLevelAll, flag, 0,
+                                                 place, {}, 0, std::nullopt),
+                    asynchronous);
 }
 
 void WTLog::queueLogMessage(WTLogMessage message, bool asynchronously)

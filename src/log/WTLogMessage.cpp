@@ -70,7 +70,7 @@ WTLogMessage WTLogMessage::spokenBy(const Caller &caller) const
 
 QString WTLogMessage::fileName() const
 {
-    const QString name = file().sliced(file().lastIndexOf(u'/') + 1);
+    const QString name = file().section(u'/', -1);
     const qsizetype dot = name.lastIndexOf(u'.');
     return dot < 0 ? name : name.first(dot);
 }
@@ -89,7 +89,8 @@ bool WTLogMessage::isEqual(const WTLogMessage &other) const
 
 size_t WTLogMessage::hash() const
 {
-    return qHash(m_message) ^ m_level ^ m_flag ^ static_cast<size_t>(m_context) ^ qHash(file()) ^ qHash(function()) ^
-           line() ^ qHash(m_tag.toString()) ^ m_options ^ static_cast<size_t>(m_timestamp.time_since_epoch().count()) ^
-           qHash(threadID()) ^ qHash(threadName()) ^ qHash(queueLabel());
+    return qHash(m_message) ^ m_level ^ m_flag ^ static_cast<size_t>(m_context) ^ qHash(m_place.file) ^
+           qHash(m_place.function) ^ line() ^ qHash(m_tag.toString()) ^ m_options ^
+           static_cast<size_t>(m_timestamp.time_since_epoch().count()) ^ qHash(threadID()) ^ qHash(threadName()) ^
+           qHash(queueLabel());
 }

@@ -3,6 +3,7 @@
 #include "TextFormat.h"
 #include "WTLogFlag.h"
 
+#include <QByteArray>
 #include <QString>
 #include <QVariant>
 #include <array>
@@ -15,10 +16,11 @@ class WTLogMessage
 public:
     using Date = std::chrono::system_clock::time_point;
 
-    /// Where a message comes from.
+    /// Where a message comes from. The texts are UTF-8; a view of the compiler's own (`QByteArray::fromRawData`) costs
+    /// the caller no memory.
     struct Place {
-        QString file;
-        QString function;
+        QByteArray file;
+        QByteArray function;
         quint64 line = 0;
         bool operator==(const Place &) const = default;
     };
@@ -58,10 +60,10 @@ public:
     /// One bit of `WTLogFlag`, though any other value is kept as well.
     quint64 flag() const { return m_flag; }
     qint64 context() const { return m_context; }
-    const QString &file() const { return m_place.file; }
+    QString file() const { return QString::fromUtf8(m_place.file); }
     /// The last path component of `file`, without its last extension.
     QString fileName() const;
-    const QString &function() const { return m_place.function; }
+    QString function() const { return QString::fromUtf8(m_place.function); }
     quint64 line() const { return m_place.line; }
     const QVariant &tag() const { return m_tag; }
     const QVariant &representedObject() const { return m_tag; }

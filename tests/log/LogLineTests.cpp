@@ -19,7 +19,7 @@ constexpr std::chrono::system_clock::time_point winterMorning{std::chrono::milli
 WTLogMessage messageWith(quint64 flag, const QString &text, const QString &file = u"s.rc/a.b.cpp"_s,
                          std::chrono::system_clock::time_point date = winterMorning)
 {
-    return WTLogMessage::initWithMessage(text, WTLogLevelAll, flag, 0, {file, u"void f()"_s, 12}, {}, 0, date)
+    return WTLogMessage::initWithMessage(text, WTLogLevelAll, flag, 0, {file.toUtf8(), "void f()", 12}, {}, 0, date)
         .spokenBy({42, {}, {}});
 }
 

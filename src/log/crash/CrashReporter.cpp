@@ -47,7 +47,7 @@ void writeReport(const Crash &crash)
 {
     const QString report = crashReportText(crash, std::chrono::system_clock::now());
     // A fixed place instead of this one, so that a search for it finds the reports of every version of the program.
-    const WTLogMessage::Place place{u"WTExceptionHandler"_s, u"void HandleException(NSException *__strong)"_s, 141};
+    const WTLogMessage::Place place{"WTExceptionHandler", "void HandleException(NSException *__strong)", 141};
     const auto message = WTLogMessage::initWithFormat(u"崩溃信息：%@"_s, {FormatArgument(report)}, WTLogLevelAll,
                                                       WTLogFlagError, 0, place, {}, 0, std::nullopt);
     const WTLogMessage::Caller caller{crash.systemThread, crash.threadName, crash.queueLabel};

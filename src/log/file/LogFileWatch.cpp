@@ -44,12 +44,11 @@ bool takeEvents(int inotify, int logFile)
 
 } // namespace
 
-LogFileWatch::LogFileWatch(int logFile, std::shared_ptr<SerialQueue> queue, DescriptorSource::Action onGone)
-    : m_source(
-          inotifyFor(logFile),
-          [file = std::make_shared<FileDescriptor>(fcntl(logFile, F_DUPFD_CLOEXEC, 0))](int inotify) {
-              return takeEvents(inotify, file->get());
-          },
-          std::move(queue), std::move(onGone))
+std::unique_ptr<DescriptorSource> watchLogFile(int logFile, std::shared_ptr<SerialQueue> queue,
+                                               DescriptorSource::Action onGone)
 {
+    const auto file = std::make_shared<FileDescriptor>(fcntl(logFile, F_DUPFD_CLOEXEC, 0));
+    return std::make_unique<DescriptorSource>(
+        inotifyFor(logFile), [file](int inotify) { return takeEvents(inotify, file->get()); }, std::move(queue),
+        std::move(onGone));
 }

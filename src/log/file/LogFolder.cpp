@@ -5,10 +5,10 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QTemporaryFile>
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
-#include <filesystem>
 #include <sys/stat.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -59,34 +59,6 @@ QString temporaryLogs()
     return *own;
 }
 
-/// A file under a temporary name, which is removed with this object. A file that has another name by then stays under
-/// that one.
-class TemporaryFile
-{
-public:
-    /// A hidden neighbour of `path`, so that both lie on one file system.
-    explicit TemporaryFile(const QString &path)
-    {
-        const QFileInfo info(path);
-        m_name = QFile::encodeName(info.path() + u"/."_s + info.fileName() + u".XXXXXX"_s);
-        m_descriptor = FileDescriptor(mkostemp(m_name.data(), O_CLOEXEC));
-    }
-    TemporaryFile(const TemporaryFile &) = delete;
-    TemporaryFile &operator=(const TemporaryFile &) = delete;
-    ~TemporaryFile()
-    {
-        if (m_descriptor.isOpen())
-            unlink(m_name);
-    }
-
-    const FileDescriptor &descriptor() const { return m_descriptor; }
-    const char *name() const { return m_name.constData(); }
-
-private:
-    QByteArray m_name;
-    FileDescriptor m_descriptor;
-};
-
 /// For file systems without hard links, such as FAT. For a moment the file is there without its contents.
 FileError createFileInPlace(const QString &path, const QByteArray &contents)
 {
@@ -126,20 +98,17 @@ FileError LogFolder::create(const QString &path)
 
 QStringList LogFolder::entries(const QString &path)
 {
-    QStringList names;
-    std::error_code error;
-    std::filesystem::directory_iterator entry(QFile::encodeName(path).constData(), error);
-    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error))
-        names.append(QFile::decodeName(entry->path().filename().c_str()));
-    return names;
+    return QDir(path).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Unsorted);
 }
 
 FileError LogFolder::createFile(const QString &path, const QByteArray &contents)
 {
-    const TemporaryFile file(path);
-    if (!file.descriptor().isOpen() || !file.descriptor().writeAll(contents))
+    // A hidden neighbour, so that both names lie on one file system; the temporary one goes with this object.
+    const QFileInfo info(path);
+    QTemporaryFile file(info.path() + u"/."_s + info.fileName() + u".XXXXXX"_s);
+    if (!file.open() || file.write(contents) != contents.size() || !file.flush())
         return FileError::ofLastCall(path);
-    if (link(file.name(), QFile::encodeName(path)) == 0)
+    if (link(QFile::encodeName(file.fileName()), QFile::encodeName(path)) == 0)
         return {};
     const bool knowsNoLinks = errno == EPERM || errno == EOPNOTSUPP;
     return knowsNoLinks ? createFileInPlace(path, contents) : FileError::ofLastCall(path);

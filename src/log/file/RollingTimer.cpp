@@ -34,7 +34,8 @@ bool takeExpiration(int timer)
 
 } // namespace
 
-RollingTimer::RollingTimer(double interval, std::shared_ptr<SerialQueue> queue, DescriptorSource::Action onDue)
-    : m_source(timerDueIn(interval), takeExpiration, std::move(queue), std::move(onDue))
+std::unique_ptr<DescriptorSource> startRollingTimer(double interval, std::shared_ptr<SerialQueue> queue,
+                                                    DescriptorSource::Action onDue)
 {
+    return std::make_unique<DescriptorSource>(timerDueIn(interval), takeExpiration, std::move(queue), std::move(onDue));
 }

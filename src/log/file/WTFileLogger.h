@@ -1,8 +1,7 @@
 #pragma once
 
+#include "DescriptorSource.h"
 #include "LogFileHandle.h"
-#include "LogFileWatch.h"
-#include "RollingTimer.h"
 #include "WTAbstractLogger.h"
 #include "WTLogFileManaging.h"
 
@@ -93,9 +92,9 @@ private:
     // From here on: the logger's queue only.
     std::optional<WTLogFileInfo> m_currentLogFileInfo;
     LogFileHandle m_currentLogFileHandle;
-    std::optional<LogFileWatch> m_currentLogFileVnode;
+    std::unique_ptr<DescriptorSource> m_currentLogFileVnode;
     double m_rollingFrequency = 24 * 60 * 60;
-    std::optional<RollingTimer> m_rollingTimer;
+    std::unique_ptr<DescriptorSource> m_rollingTimer;
     quint64 m_maximumFileSize = quint64{1024} * 1024;
     bool m_isWriting = false;
     /// The file system has refused the lock for a reason that does not pass.

@@ -3,6 +3,8 @@
 
 #include "GlobalQueue.h"
 #include "LogConsole.h"
+#include "LogFileWatch.h"
+#include "RollingTimer.h"
 
 #include <atomic>
 
@@ -67,9 +69,9 @@ void WTFileLogger::lt_openLogFile()
     if (const FileError seekError = m_currentLogFileHandle.seekToEnd())
         LogConsole::report("WTFileLogger: Failed to seek to end of file: %@", seekError.description());
     lt_scheduleTimerToRollLogFileDueToAge();
-    m_currentLogFileVnode.emplace(m_currentLogFileHandle.descriptor(), loggerQueue(),
-                                  weakAction(&WTFileLogger::lt_rollLogFileNow));
-    if (!m_currentLogFileVnode->isWatching())
+    m_currentLogFileVnode =
+        watchLogFile(m_currentLogFileHandle.descriptor(), loggerQueue(), weakAction(&WTFileLogger::lt_rollLogFileNow));
+    if (!m_currentLogFileVnode->isWaiting())
         sayOnce(missingWatchIsSaid,
                 "WTFileLogger: The log file cannot be watched; it is looked after at every line instead");
 }
@@ -79,8 +81,8 @@ void WTFileLogger::lt_lookAfterLogFile()
 {
     if (!m_currentLogFileHandle.isOpen())
         return;
-    const bool hasTimer = m_rollingFrequency <= 0 || (m_rollingTimer && m_rollingTimer->isRunning());
-    if (!m_currentLogFileVnode->isWatching() && m_currentLogFileHandle.isGone())
+    const bool hasTimer = m_rollingFrequency <= 0 || (m_rollingTimer && m_rollingTimer->isWaiting());
+    if (!m_currentLogFileVnode->isWaiting() && m_currentLogFileHandle.isGone())
         lt_rollLogFileNow();
     else if (!hasTimer)
         lt_maybeRollLogFileDueToAge();
@@ -176,9 +178,9 @@ void WTFileLogger::lt_scheduleTimerToRollLogFileDueToAge()
     m_rollingTimer.reset();
     if (!m_currentLogFileInfo || m_rollingFrequency <= 0)
         return;
-    m_rollingTimer.emplace(m_rollingFrequency - m_currentLogFileInfo->age(), loggerQueue(),
-                           weakAction(&WTFileLogger::lt_maybeRollLogFileDueToAge));
-    if (!m_rollingTimer->isRunning())
+    m_rollingTimer = startRollingTimer(m_rollingFrequency - m_currentLogFileInfo->age(), loggerQueue(),
+                                       weakAction(&WTFileLogger::lt_maybeRollLogFileDueToAge));
+    if (!m_rollingTimer->isWaiting())
         sayOnce(missingTimerIsSaid,
                 "WTFileLogger: No timer for the age of the log file; it is looked at at every line instead");
 }

@@ -101,7 +101,7 @@ QStringList linesOf(const QByteArray &output)
 }
 
 std::atomic<int> lockRefusal = 0, locksAsked = 0, exclusiveLocks = 0, synchronizations = 0;
-std::atomic<bool> hasNoWatches = false;
+std::atomic<bool> hasNoWatches = false, hasNoTimers = false;
 
 int refuse(int error)
 {
@@ -131,6 +131,11 @@ extern "C" int inotify_init1(int flags) noexcept
     return hasNoWatches ? refuse(EMFILE) : static_cast<int>(syscall(SYS_inotify_init1, flags));
 }
 
+extern "C" int timerfd_create(clockid_t clock, int flags) noexcept
+{
+    return hasNoTimers ? refuse(EMFILE) : static_cast<int>(syscall(SYS_timerfd_create, clock, flags));
+}
+
 /// Everything that may befall the folder, the file and the process, tried on real ones.
 class LogFaultsTests : public QObject
 {
@@ -148,7 +153,7 @@ private Q_SLOTS:
     void cleanup()
     {
         lockRefusal = 0;
-        hasNoWatches = false;
+        hasNoWatches = hasNoTimers = false;
     }
 
     void fileGoesAway()
@@ -344,6 +349,21 @@ private Q_SLOTS:
         QCOMPARE(bed.console().count(u"cannot be watched"_s), 1);
     }
 
+    void growsOldWithoutATimer()
+    {
+        const LogBed bed;
+        hasNoTimers = true;
+        const BedLogger logger(bed);
+        // A file counts as old one second ahead of its time.
+        logger->setRollingFrequency(1.3);
+        logger.log(u"one"_s);
+        QTest::qWait(400);
+        logger.log(u"two"_s);
+        logger.log(u"three"_s);
+        QCOMPARE(bed.names().size(), 2);
+        QCOMPARE(bed.console().count(u"No timer"_s), 1);
+    }
+
     void flushesToTheDisk()
     {
         const LogBed bed;
@@ -374,7 +394,7 @@ private Q_SLOTS:
                 // What was read from a system's log is not written to it again.
                 for (const QString &file : {u"a/WTASLLogCapture.cpp"_s, u"a/b.cpp"_s}) {
                     const auto message = WTLogMessage::initWithMessage(file + u" text"_s, WTLogLevelAll, flag, 0,
-                                                                       {file, {}, 0}, {}, 0, std::nullopt);
+                                                                       {file.toUtf8(), {}, 0}, {}, 0, std::nullopt);
                     toTheJournal.logMessage(message);
                     toTheSyslog.logMessage(message);
                 }
