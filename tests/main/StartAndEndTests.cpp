@@ -153,7 +153,9 @@ private Q_SLOTS:
                 QCOMPARE(process.exitCode(), 0);
 
                 const QDir logs(folder.filePath(u"Logs/main_tests"_s));
-                const QStringList lines = logLines(logs);
+                // The bus is watched to the very end: its news may come at any place, behind the farewell, too.
+                QStringList lines = logLines(logs);
+                lines.removeIf([](const QString &line) { return line.contains(u"USB Printers count"_s); });
                 QVERIFY2(lines.size() > 15, qPrintable(lines.join(u'\n')));
                 QVERIFY(lines[0].startsWith(u"🟢 ╔══"_s) && lines[8].startsWith(u"🟢 ╚══"_s));
                 QCOMPARE(lines.sliced(9, 5),
