@@ -90,6 +90,10 @@ void walk(WTWindow &window, const QString &way)
 int walkingProcess(int argc, char **argv)
 {
     const QString way = QString::fromLocal8Bit(argv[2]);
+    rlimit core{};
+    getrlimit(RLIMIT_CORE, &core);
+    core.rlim_cur = core.rlim_max;
+    setrlimit(RLIMIT_CORE, &core);
     PrinterScript noPrinter;
     noPrinter.plugged = false;
     static auto *demo = new DemoMachine(noPrinter, {});
