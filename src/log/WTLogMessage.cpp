@@ -70,9 +70,9 @@ WTLogMessage WTLogMessage::spokenBy(const Caller &caller) const
 
 QString WTLogMessage::fileName() const
 {
-    const QString name = file().section(u'/', -1);
-    const qsizetype dot = name.lastIndexOf(u'.');
-    return dot < 0 ? name : name.first(dot);
+    const QByteArray name = m_place.file.sliced(m_place.file.lastIndexOf('/') + 1);
+    const qsizetype dot = name.lastIndexOf('.');
+    return QString::fromUtf8(dot < 0 ? name : name.first(dot));
 }
 
 QString WTLogMessage::threadID() const
