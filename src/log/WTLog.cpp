@@ -39,7 +39,7 @@ void deliver(const WTLogMessage &message, const WTLoggerNode &to)
 /// A text that lives as long as the process.
 QByteArray literal(const char *text)
 {
-    return QByteArray::fromRawData(text, qstrlen(text));
+    return QByteArray::fromRawData(text, static_cast<qsizetype>(qstrlen(text)));
 }
 
 } // namespace
