@@ -76,8 +76,12 @@ private Q_SLOTS:
                 {"the C locale", {{u"LANG"_s, u"C.UTF-8"_s}, {u"LC_ALL"_s, u"POSIX"_s}}, {}},
                 {"script in front of territory alone", {{u"LANG"_s, u"zh_SG.UTF-8"_s}}, {u"zh-Hans-SG"_s, u"zh-SG"_s}},
                 {"best first",
-                 {{u"LANGUAGE"_s, u"zh_HK:de"_s}, {u"LC_MESSAGES"_s, u"fr_FR@euro"_s}, {u"LANG"_s, u"zh_HK.UTF-8"_s}},
-                 {u"zh-Hant-HK"_s, u"de-Latn-DE"_s, u"fr-Latn-FR"_s, u"zh-HK"_s, u"de"_s, u"fr-FR"_s}},
+                 {{u"LANGUAGE"_s, u"fr_FR:de"_s},
+                  {u"LC_ALL"_s, u"fr_FR@euro"_s},
+                  {u"LANG"_s, u"zh_HK.UTF-8"_s},
+                  {u"LC_MESSAGES"_s, u"it_IT"_s}},
+                 {u"fr-Latn-FR"_s, u"de-Latn-DE"_s, u"it-Latn-IT"_s, u"zh-Hant-HK"_s, u"fr-FR"_s, u"de"_s, u"it-IT"_s,
+                  u"zh-HK"_s}},
             },
             [&](const Environment &environment, const QStringList &languages) {
                 QProcessEnvironment process;

@@ -1,5 +1,7 @@
 #include "FakeHost.h"
 #include "FakeSpooler.h"
+#include "NetworkRows.h"
+#include "PrinterNote.h"
 #include "ResourceFolder.h"
 #include "Rows.h"
 #include "VirtualTime.h"
@@ -117,6 +119,17 @@ private Q_SLOTS:
                 QCOMPARE(model->takeStoredPassword(u"Office"_s), fills);
                 QCOMPARE(model->choice().row(), chosenRow);
             });
+    }
+
+    void whatARowAndTheNoteShow()
+    {
+        const auto model = makeModel({});
+        model->reloadDataSource({network(u"Open"_s, 1), network(u"Enhanced open"_s, 13), network(u"WPA2"_s, 7)}, [] {});
+        NetworkRows rows;
+        rows.setNetworks(model->list_WIFI(), {}, 0);
+        for (int row = 0; row < 3; ++row)
+            QCOMPARE(rows.data(rows.index(row), NetworkRows::LockedRole).toBool(), row == 2);
+        QCOMPARE(printerNote(u"QZ100"_s, u"4711"_s, 1, {}, {}).text, u"打印机：QZ100"_s);
     }
 
     void eachScreenHasItsBusyRule()
