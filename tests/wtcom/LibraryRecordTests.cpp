@@ -81,7 +81,8 @@ private Q_SLOTS:
         }
         const QByteArrayList lines = content().trimmed().split('\n');
         for (qsizetype index = 0; index < lines.size(); ++index)
-            QVERIFY(lines[index].endsWith('x' + QByteArray::number(5000 - lines.size() + index)));
+            QVERIFY(lines[index].startsWith("20") &&
+                    lines[index].endsWith('x' + QByteArray::number(5000 - lines.size() + index)));
     }
 
     void worksWithoutAFile()
