@@ -1,3 +1,4 @@
+#include "Locked.h"
 #include "Rows.h"
 #include "UsbTestBed.h"
 
@@ -93,6 +94,29 @@ private Q_SLOTS:
             places.append(device.locationID);
         QCOMPARE(places, QList<quint32>({0x01100000, 0x01200000, 0x01D10000}));
         QCOMPARE(devices.back().serialNumber, ModelIdentity().serialNumber);
+    }
+
+    void tellsOnlyWhatChanged()
+    {
+        UsbTestBed bed;
+        ModelIdentity foreign;
+        foreign.vendorID = 0x1234;
+        const int ours = bed.bus.addPrinter(), other = bed.bus.addPrinter(PrinterModel(foreign));
+        const int second = bed.bus.addPrinter();
+        Locked<QList<std::size_t>> told;
+        const auto tell = [&](const UsbDeviceList &list) {
+            told.change([&](auto &sizes) { sizes.append(list.size()); });
+        };
+        bed.port.watch(ourVendors, tell);
+        QList<std::size_t> expected{0};
+        for (const int printer : {ours, other, second}) {
+            QTRY_COMPARE(told.read([](const auto &sizes) { return sizes; }), expected);
+            bed.bus.plug(printer);
+            if (printer != other)
+                expected.append(std::size_t(expected.size()));
+        }
+        QTRY_COMPARE(told.read([](const auto &sizes) { return sizes; }), expected);
+        bed.port.stopWatching();
     }
 };
 
