@@ -1,6 +1,7 @@
 #include "UsbfsBus.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <stdexcept>
 #include <utility>
 
@@ -13,6 +14,9 @@ constexpr std::chrono::seconds patience{1};
 
 constexpr int lastUsableDeviceNumber = 99;
 
+/// See `m_leftNodes`.
+constexpr std::size_t leftNodesServed = 2;
+
 void check(bool succeeded, GError *error)
 {
     if (succeeded)
@@ -21,12 +25,22 @@ void check(bool succeeded, GError *error)
     g_error_free(error);
     throw std::runtime_error(message);
 }
+
+/// umockdev's constructor starts a thread, which reads the environment, and only then adds its variable to it. The room
+/// for the variable is made before, so that the environment is not moved while that thread reads it.
+UMockdevTestbed *newTestbed()
+{
+    constexpr auto variable = "UMOCKDEV_DIR";
+    ::setenv(variable, "", 1);
+    ::unsetenv(variable);
+    return umockdev_testbed_new();
+}
 } // namespace
 
 UsbfsBus::UsbfsBus(TimePort &time)
     : m_time(time)
     , m_lock(time, *this)
-    , m_testbed(umockdev_testbed_new())
+    , m_testbed(newTestbed())
     , m_thread(u"emulated USB bus"_s)
 {
     gchar *root = umockdev_testbed_get_root_dir(m_testbed.get());
@@ -47,6 +61,7 @@ UsbfsBus::~UsbfsBus()
     }
     m_thread.sync([this] {
         m_holders.clear();
+        stopServing(0);
         m_testbed.reset();
     });
 }
@@ -95,8 +110,7 @@ void UsbfsBus::unplug(int printer)
 
 void UsbfsBus::plugNow(int printer)
 {
-    QByteArray hub, description;
-    QString node;
+    QByteArray hub, description, node;
     UsbfsDevice *device = nullptr;
     {
         const TimedLock::Turn turn(m_lock);
@@ -106,22 +120,29 @@ void UsbfsBus::plugNow(int printer)
         device->arrive(freeDeviceNumber());
         device->sysfs().createInterfaces(device->shape());
         device->interfacesChanged();
-        node = UsbfsSysfs::nodePath(device->deviceNumber());
+        node = UsbfsSysfs::nodePath(device->deviceNumber()).toUtf8();
         hub = device->sysfs().hub();
         description = device->sysfs().device(device->model().identity(), device->shape(), device->deviceNumber());
     }
     GError *error = nullptr;
     if (!hub.isEmpty() && m_hubs.insert(hub).second)
         check(umockdev_testbed_add_from_string(m_testbed.get(), hub.constData(), &error), error);
-    check(umockdev_testbed_attach_ioctl(m_testbed.get(), node.toUtf8().constData(), device->handler(), &error), error);
+    check(umockdev_testbed_attach_ioctl(m_testbed.get(), node.constData(), device->handler(), &error), error);
     check(umockdev_testbed_add_from_string(m_testbed.get(), description.constData(), &error), error);
 }
 
-void UsbfsBus::removeNow(const QByteArray &sysfsPath, const QString &nodePath)
+void UsbfsBus::removeNow(const QByteArray &sysfsPath, const QByteArray &nodePath)
 {
     umockdev_testbed_uevent(m_testbed.get(), sysfsPath.constData(), "remove");
     umockdev_testbed_remove_device(m_testbed.get(), sysfsPath.constData());
-    umockdev_testbed_detach_ioctl(m_testbed.get(), nodePath.toUtf8().constData(), nullptr);
+    m_leftNodes.push(nodePath);
+    stopServing(leftNodesServed);
+}
+
+void UsbfsBus::stopServing(std::size_t kept)
+{
+    for (; m_leftNodes.size() > kept; m_leftNodes.pop())
+        umockdev_testbed_detach_ioctl(m_testbed.get(), m_leftNodes.front().constData(), nullptr);
 }
 
 int UsbfsBus::freeDeviceNumber()
@@ -185,7 +206,7 @@ int UsbfsBus::serve(UsbfsDevice &device, UMockdevIoctlClient *client)
 
 void UsbfsBus::left(UsbfsDevice &device)
 {
-    post([this, path = device.sysfs().path(), node = UsbfsSysfs::nodePath(device.deviceNumber())] {
+    post([this, path = device.sysfs().path(), node = UsbfsSysfs::nodePath(device.deviceNumber()).toUtf8()] {
         removeNow(path, node);
     });
 }

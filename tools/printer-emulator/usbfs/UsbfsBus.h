@@ -11,6 +11,7 @@
 #include <functional>
 #include <map>
 #include <mutex>
+#include <queue>
 #include <set>
 #include <vector>
 
@@ -63,7 +64,9 @@ private:
     void apply(int printer, BusEvent::Action action);
     void post(std::function<void()> job);
     void plugNow(int printer);
-    void removeNow(const QByteArray &sysfsPath, const QString &nodePath);
+    void removeNow(const QByteArray &sysfsPath, const QByteArray &nodePath);
+    /// Ends the service of the nodes of devices that have left, but for the latest.
+    void stopServing(std::size_t kept);
     int freeDeviceNumber();
 
     TimePort &m_time;
@@ -77,6 +80,9 @@ private:
     Listener m_listener;
     int m_lastDeviceNumber = 1;
     std::set<QByteArray> m_hubs; ///< Those that are on the bus; they stay.
+    /// Nodes of devices that have left, which the test bed still serves. A program that opened such a node just before
+    /// would be aborted by umockdev if nobody took its requests.
+    std::queue<QByteArray> m_leftNodes;
     /// When a program last asked for something, or something was last made ready for one. Real time, not the port's:
     /// see `busy`.
     std::chrono::steady_clock::time_point m_lastMove;
