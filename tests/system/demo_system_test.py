@@ -40,7 +40,8 @@ def walk(demo, story, **session):
         pictures = pathlib.Path(folder, "pictures")
         environment = dict(os.environ, XDG_STATE_HOME=folder, **session)
         command = [demo, "--story", story, "--speed", SPEED, "--autopilot", pictures]
-        subprocess.run(command, env=environment, check=True, timeout=100)
+        status = subprocess.run(command, env=environment, timeout=100).returncode
+        assert status == 0, "".join(log.read_text() for log in pathlib.Path(folder).rglob("*.log"))
         names = sorted(picture.name for picture in pictures.iterdir())
         assert names and names[0] == "01-WTStartView.png", names
         assert names[-1].endswith(f"-{LAST_PICTURES[story]}.png"), names

@@ -2,14 +2,9 @@
 #include "LogCollector.h"
 #include "Rows.h"
 #include "WTApp.h"
-#include "WTCompleteView.h"
-#include "WTConfigFailedView.h"
 #include "WTHoverView.h"
-#include "WTInstallingView.h"
 #include "WTManager.h"
 #include "WTNetworkWithManualAddition.h"
-#include "WTStartView.h"
-#include "WTUnconnectView.h"
 #include "WizardBed.h"
 
 #include <QTest>
@@ -140,27 +135,6 @@ private Q_SLOTS:
         QVERIFY(bed.findPrinters());
         bed.click("netxtBtn");
         QCOMPARE(bed.shown(), "WTNetworkWithManualAddition");
-    }
-
-    void configurationFailedLeadsPastTheRun()
-    {
-        WizardBed bed;
-        // The previous screens as they are after a run, without a run.
-        auto *entry = bed.screen<WTNetworkWithManualAddition>();
-        bed.screen<WTInstallingView>()->setPreView(entry);
-        entry->setPreView(bed.screen<WTStartView>());
-        auto *failed = bed.screen<WTConfigFailedView>();
-        failed->setPreView(bed.screen<WTInstallingView>());
-        bed.window().setContentView(failed);
-        WTManager::shared().setCloseEnable(WTManager::CloseQuits);
-
-        LogCollector log;
-        bed.click("previous");
-        QCOMPARE(bed.shown(), "WTNetworkWithManualAddition");
-        QCOMPARE(WTManager::shared().closeEnable(), qint64{WTManager::CloseAsks});
-        QVERIFY(log.lines().filter(u"👉🏻"_s).isEmpty());
-        bed.click("previousBtn");
-        QCOMPARE(bed.shown(), "WTStartView");
     }
 
     void windowComesForward()
