@@ -23,7 +23,7 @@ StallWatch::StallWatch(int &argc, char **argv)
 
 void StallWatch::begin()
 {
-    m_stretch.emplace();
+    m_stretch = Stretch();
 }
 
 void StallWatch::end()
@@ -61,7 +61,7 @@ gint StallWatch::poll(GPollFD *descriptors, guint count, gint timeout)
         watch->closeStretch();
     const gint ready = g_poll(descriptors, count, timeout);
     if (counts)
-        watch->m_stretch.emplace();
+        watch->m_stretch = Stretch();
     return ready;
 }
 

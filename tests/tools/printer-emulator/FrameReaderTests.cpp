@@ -82,10 +82,8 @@ private Q_SLOTS:
             {
                 {"password that looks like an envelope", configuration("A", exit) + wakeUp,
                  u"ff80 sound | ff21 sound"_s},
-                {"page without payload", enveloped(header(0xFF84, 2)) + wakeUp, u"ff84 sound | ff21 sound"_s},
                 {"opening UEL", changed(wakeUp, 3, 'x') + wakeUp,
                  u"0000 at 3: not the opening UEL | 0000 at 9: not the enter line | ff21 sound"_s},
-                {"enter line", changed(wakeUp, 32, ' ') + wakeUp, u"0000 at 32: not the enter line | ff21 sound"_s},
                 {"encryption byte", enveloped('\0' + wakeUp.sliced(34, 16)) + wakeUp,
                  u"0000 at 35: not the ACL magic | ff21 sound"_s},
                 {"unknown code", shortFrame(0xFF99), u"ff99 at 36: unknown command"_s},
