@@ -264,14 +264,14 @@ void EmulatedBus::settle()
         applyNow(entry->action);
 }
 
-std::optional<EmulatedBus::Instant> EmulatedBus::nextDue() const
+std::optional<EmulatedBus::Instant> EmulatedBus::nextDue(Instant now) const
 {
     std::optional<Instant> due = m_agenda.next();
     const auto consider = [&due](const std::optional<Instant> &instant) {
         if (instant)
             due = std::min(due.value_or(*instant), *instant);
     };
-    consider(m_pipes.nextDue(m_time.now()));
+    consider(m_pipes.nextDue(now));
     if (m_transfer && m_transfer->out.plan && !m_transfer->out.taken)
         consider(m_transfer->out.due);
     return due;

@@ -50,7 +50,7 @@ private:
     };
 
     void settle() override;
-    std::optional<Instant> nextDue() const override;
+    std::optional<Instant> nextDue(Instant now) const override;
     void received(const ReceivedFrame &) override {}
     void scheduled(const BusEvent &event) override;
 

@@ -19,15 +19,15 @@ void TimedLock::stop()
     }
 }
 
-std::unique_ptr<TimePort::Timer> TimedLock::resetTimer()
+std::unique_ptr<TimePort::Timer> TimedLock::resetTimer(Instant now)
 {
-    const std::optional<Instant> due = m_stopped ? std::nullopt : m_content.nextDue();
+    const std::optional<Instant> due = m_stopped ? std::nullopt : m_content.nextDue(now);
     if (due == m_timerDue)
         return nullptr;
     m_timerDue = due;
     std::unique_ptr<TimePort::Timer> old = std::move(m_timer);
     if (due) {
-        const auto delay = std::chrono::ceil<TimePort::Duration>(*due - m_time.now());
+        const auto delay = std::chrono::ceil<TimePort::Duration>(*due - now);
         m_timer = m_time.after(std::max(delay, TimePort::Duration{0}), [this] {
             const Turn turn(*this);
             m_timerDue.reset();
@@ -44,8 +44,9 @@ TimedLock::Turn::Turn(TimedLock &lock)
 
 TimedLock::Turn::~Turn()
 {
+    const Instant now = m_owner.m_time.now();
     m_owner.m_content.settle();
-    const std::unique_ptr<TimePort::Timer> old = m_owner.resetTimer();
+    const std::unique_ptr<TimePort::Timer> old = m_owner.resetTimer(now);
     // Destroying a timer may wait for the timer's action, which needs the lock.
     m_lock.unlock();
 }

@@ -19,7 +19,9 @@ public:
     public:
         /// Does what is due.
         virtual void settle() = 0;
-        virtual std::optional<Instant> nextDue() const = 0;
+        /// When something falls due after `now`. All that was due by then is done, since `now` was before `settle`: a
+        /// clock that was read again behind it would pass over what fell due in between.
+        virtual std::optional<Instant> nextDue(Instant now) const = 0;
 
     protected:
         ~Content() = default;
@@ -50,7 +52,7 @@ public:
     };
 
 private:
-    [[nodiscard]] std::unique_ptr<TimePort::Timer> resetTimer();
+    [[nodiscard]] std::unique_ptr<TimePort::Timer> resetTimer(Instant now);
 
     TimePort &m_time;
     Content &m_content;

@@ -26,9 +26,10 @@ void RemoteBus::run()
 {
     if (m_device.model().script().plugged)
         m_line.plug(m_device);
-    while (m_line.isPlugged() || m_agenda.next()) {
+    for (Instant moved = steady_clock::now(); m_line.isPlugged() || m_agenda.next();) {
         m_line.flush();
-        m_line.wait(untilNextDue());
+        m_line.wait(untilNextDue(moved));
+        moved = steady_clock::now();
         moveOn();
         while (const auto entry = m_agenda.takeDue(steady_clock::now()))
             apply(entry->action);
@@ -80,13 +81,12 @@ void RemoteBus::leave()
     m_device.unplugged();
 }
 
-std::optional<std::chrono::milliseconds> RemoteBus::untilNextDue() const
+std::optional<std::chrono::milliseconds> RemoteBus::untilNextDue(Instant moved) const
 {
-    const Instant now = steady_clock::now();
-    std::optional<Instant> due = m_device.nextDue(now);
+    std::optional<Instant> due = m_device.nextDue(moved);
     if (const std::optional<Instant> event = m_agenda.next())
         due = std::min(due.value_or(*event), *event);
     if (!due)
         return std::nullopt;
-    return std::max(std::chrono::milliseconds(0), std::chrono::ceil<std::chrono::milliseconds>(*due - now));
+    return std::max(std::chrono::milliseconds(0), std::chrono::ceil<std::chrono::milliseconds>(*due - steady_clock::now()));
 }

@@ -25,7 +25,8 @@ private:
     void pullPlug();
     void leave();
     void moveOn();
-    std::optional<std::chrono::milliseconds> untilNextDue() const;
+    /// @param moved when the printer last began to do what was due; what fell due since is still to be done.
+    std::optional<std::chrono::milliseconds> untilNextDue(Instant moved) const;
 
     RemoteLine &m_line;
     RemoteDevice m_device;

@@ -253,11 +253,11 @@ void UsbfsBus::apply(int printer, BusEvent::Action action)
     }
 }
 
-std::optional<UsbfsBus::Instant> UsbfsBus::nextDue() const
+std::optional<UsbfsBus::Instant> UsbfsBus::nextDue(Instant now) const
 {
     std::optional<Instant> due = m_agenda.next();
     for (const auto &device : m_devices) {
-        if (const auto next = device->nextDue())
+        if (const auto next = device->nextDue(now))
             due = std::min(due.value_or(*next), *next);
     }
     return due;

@@ -52,7 +52,7 @@ public:
 private:
     Instant now() const override { return m_time.now(); }
     void settle() override;
-    std::optional<Instant> nextDue() const override;
+    std::optional<Instant> nextDue(Instant now) const override;
     bool owesSomething() const;
     int serve(UsbfsDevice &device, UMockdevIoctlClient *client) override;
     void left(UsbfsDevice &device) override;

@@ -259,9 +259,9 @@ void UsbfsDevice::scheduled(const BusEvent &event)
     m_bus.scheduled(*this, event);
 }
 
-std::optional<UsbfsDevice::Instant> UsbfsDevice::nextDue() const
+std::optional<UsbfsDevice::Instant> UsbfsDevice::nextDue(Instant now) const
 {
-    std::optional<Instant> due = m_pipes.nextDue(m_bus.now());
+    std::optional<Instant> due = m_pipes.nextDue(now);
     if (m_leaves)
         due = std::min(due.value_or(*m_leaves), *m_leaves);
     for (const UsbfsUrb &urb : m_pending) {

@@ -56,7 +56,7 @@ public:
     int handle(UMockdevIoctlClient *client);
     /// Does what is due.
     void pump();
-    std::optional<Instant> nextDue() const;
+    std::optional<Instant> nextDue(Instant now) const;
     /// How often it was asked for its device ID.
     int deviceIDQuestions() const { return m_deviceIDQuestions; }
     /// Whether a program has yet to collect a finished transfer or reply bytes that are due.
