@@ -1,69 +1,26 @@
+#include "EmulatedCommand.h"
+#include "EmulatedUsb.h"
 #include "SystemTime.h"
 #include "WTCServer.h"
 #include "WTCUSBPrinter.h"
+#include "commandFrame.h"
 
 #include <QCoreApplication>
 #include <QProcess>
 #include <QTest>
 #include <array>
 #include <cstdio>
-#include <future>
 #include <sys/resource.h>
 #include <thread>
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace
 {
 
-/// A printer that takes every frame and never answers. It tells when somebody begins to wait.
-class SilentConnection final : public UsbConnection
-{
-public:
-    explicit SilentConnection(std::promise<void> &reading)
-        : m_reading(reading)
-    {
-    }
-
-    std::optional<WTError> write(QByteArrayView) override { return std::nullopt; }
-
-    WTResult<QByteArray> read(qsizetype) override
-    {
-        m_reading.set_value();
-        m_cancelled.get_future().wait();
-        return WTError{usbErrorDomain, static_cast<int>(UsbErrorCode::Cancelled), u"cancelled"_s};
-    }
-
-    QByteArray drainInput() override { return {}; }
-
-    void cancel() override { m_cancelled.set_value(); }
-
-private:
-    std::promise<void> &m_reading;
-    std::promise<void> m_cancelled;
-};
-
-class SilentBus final : public UsbPort
-{
-public:
-    void watch(std::vector<quint16>, ListChanged) override {}
-    void stopWatching() override {}
-    UsbDeviceList devices(const std::vector<quint16> &) override
-    {
-        return {{0x6A1B, 1, 0x01100000, u"Quillmark"_s, u"QZ100"_s, u"1"_s, {}}};
-    }
-    WTResult<std::unique_ptr<UsbConnection>> open(const UsbDevice &) override
-    {
-        return std::unique_ptr<UsbConnection>(std::make_unique<SilentConnection>(m_reading));
-    }
-    std::optional<WTError> obstacle(const UsbDevice &) override { return std::nullopt; }
-
-    void waitForReader() { m_reading.get_future().wait(); }
-
-private:
-    std::promise<void> m_reading;
-};
+constexpr auto wakeUp = EmulatedCommand::WakeUp;
 
 /// A send whose callbacks print what they are told and where.
 void sendAndPrint()
@@ -71,7 +28,7 @@ void sendAndPrint()
     const auto sender = std::this_thread::get_id();
     const auto place = [sender] { return std::this_thread::get_id() == sender ? "sender" : "worker"; };
     WTCUSBPrinter::IOKit_sendACLWithURI(
-        u"usb://Quillmark/QZ100?serial=1"_s, "frame", kACLHeadSize, 60000,
+        u"usb://Quillmark/QZ100?serial=QM0001"_s, commandFrame(wakeUp), kACLHeadSize, 60000,
         [place](const auto &header, quint32 *, bool *) {
             std::printf("head %d %s\n", int(header.has_value()), place());
         },
@@ -81,15 +38,16 @@ void sendAndPrint()
         });
 }
 
-int endDuringASend(SilentBus &bus)
+int endDuringASend(EmulatedUsb &bus)
 {
     sendAndPrint();
-    bus.waitForReader();
+    while (bus.record().count(wakeUp) == 0)
+        std::this_thread::sleep_for(1ms);
     return 0;
 }
 
 // The limit of processes also counts threads, so that none is to be had. It does not bind root.
-int sendWithoutThreads(SilentBus &)
+int sendWithoutThreads(EmulatedUsb &)
 {
     constexpr uid_t nobody = 65534;
     if (geteuid() == 0 && setuid(nobody) != 0)
@@ -104,7 +62,7 @@ int sendWithoutThreads(SilentBus &)
 
 struct Role {
     const char *name;
-    int (*play)(SilentBus &bus);
+    int (*play)(EmulatedUsb &bus);
     const char *output;
 };
 
@@ -140,8 +98,10 @@ int main(int argc, char **argv)
     for (const Role &role : roles) {
         if (argc == 2 && role.name == std::string_view(argv[1])) {
             static auto *const time = new SystemTime;
-            static auto *const bus = new SilentBus;
+            const PrinterScript neverAnswers{.faults = {{.command = wakeUp, .silent = true}}};
+            static auto *const bus = new EmulatedUsb(*time, PrinterModel({}, neverAnswers));
             WTCServer::usePorts(*bus, *time);
+            WTCServer::shared().registerUSBSearchServiceWithVIDs({u"0x6A1B"_s});
             return role.play(*bus);
         }
     }

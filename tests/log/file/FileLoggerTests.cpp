@@ -50,6 +50,15 @@ void logTo(const std::shared_ptr<WTFileLogger> &logger, const QString &text)
     WTLog::log(false, WTLogLevelAll, WTLogFlagInfo, 0, "", "", 0, {}, "%@", text);
 }
 
+/// Ends the logging of a row before that which its loggers refer to goes.
+struct Silence {
+    ~Silence()
+    {
+        WTLog::removeAllLoggers();
+        WTLog::flushLog();
+    }
+};
+
 } // namespace
 
 /// The file logger on the real file system, one logger at a time.
@@ -98,6 +107,7 @@ private Q_SLOTS:
                 std::atomic<qint64> milliseconds = static_cast<qint64>(age * 1000);
                 const auto later = [&] { return QDateTime::currentDateTime().addMSecs(milliseconds); };
                 const auto manager = std::make_shared<ToldManager>(bed.folder(), later);
+                const Silence silence;
                 const auto logger = loggerOf<WTFileLogger>(manager);
                 const QString chosen = logger->currentLogFileInfo().value().filePath();
                 milliseconds = 0;
@@ -125,6 +135,7 @@ private Q_SLOTS:
             [&](quint64 maximum, int files) {
                 const LogBed bed;
                 const auto manager = std::make_shared<ToldManager>(bed.folder());
+                const Silence silence;
                 const auto logger = loggerOf<WTFileLogger>(manager);
                 logger->setMaximumFileSize(maximum);
                 logTo(logger, u"234567890"_s.left(9));
@@ -171,6 +182,7 @@ private Q_SLOTS:
                 std::atomic<qint64> milliseconds = 0;
                 const auto clock = [&] { return QDateTime::currentDateTime().addMSecs(milliseconds); };
                 const auto manager = std::make_shared<ToldManager>(bed.folder(), clock);
+                const Silence silence;
                 const auto logger = loggerOf<WTFileLogger>(manager);
                 logTo(logger, u"one"_s);
                 const QString first = bed.path(bed.names().first());
