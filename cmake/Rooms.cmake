@@ -47,7 +47,7 @@ function(wt_judge_by_totals name)
     FAIL_REGULAR_EXPRESSION
       "Sanitizer: |runtime error: |LeakSanitizer|[1-9][0-9]* failed|QFATAL|Totals: 0 passed"
     ENVIRONMENT
-      "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;ASAN_OPTIONS=detect_leaks=1:allow_user_segv_handler=0;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/cmake/lsan.supp:print_suppressions=0;TSAN_OPTIONS=ignore_noninstrumented_modules=1:report_thread_leaks=0;UBSAN_OPTIONS=print_stacktrace=1;ASAN_SYMBOLIZER_PATH=${WT_SYMBOLIZER};${TEST_ENVIRONMENT}")
+      "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;${WT_SANITIZER_ENVIRONMENT};${TEST_ENVIRONMENT}")
 endfunction()
 
 function(wt_emulate_usbfs target)

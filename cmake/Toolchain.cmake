@@ -25,6 +25,14 @@ if(WT_SANITIZE)
   endif()
 endif()
 
+# What the sanitizers are told in a test.
+set(WT_SANITIZER_ENVIRONMENT
+  "ASAN_OPTIONS=detect_leaks=1:allow_user_segv_handler=0"
+  "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/cmake/lsan.supp:print_suppressions=0"
+  "TSAN_OPTIONS=ignore_noninstrumented_modules=1:report_thread_leaks=0"
+  "UBSAN_OPTIONS=print_stacktrace=1"
+  "ASAN_SYMBOLIZER_PATH=${WT_SYMBOLIZER}")
+
 find_program(WT_CCACHE ccache)
 if(WT_CCACHE)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${WT_CCACHE})
