@@ -88,5 +88,6 @@ std::optional<std::chrono::milliseconds> RemoteBus::untilNextDue(Instant moved) 
         due = std::min(due.value_or(*event), *event);
     if (!due)
         return std::nullopt;
-    return std::max(std::chrono::milliseconds(0), std::chrono::ceil<std::chrono::milliseconds>(*due - steady_clock::now()));
+    return std::max(std::chrono::milliseconds(0),
+                    std::chrono::ceil<std::chrono::milliseconds>(*due - steady_clock::now()));
 }
