@@ -58,6 +58,27 @@ private Q_SLOTS:
             });
     }
 
+    // What printers do wrong with the two bytes ahead of the ID, which give its length with themselves.
+    void aDeviceIDWithAnyLength()
+    {
+        eachRow(
+            {
+                {"more comes than is announced", {}, QByteArray("MDL:QZ200;")},
+                {"bytes the other way round", 0x4500, QByteArray()},
+            },
+            [&](const std::optional<quint16> &announced, const QByteArray &behind) {
+                UsbTestBed bed;
+                ModelIdentity identity;
+                identity.announcedIDLength = announced;
+                identity.behindDeviceID = behind;
+                bed.bus.addPrinter(PrinterModel(identity));
+                bed.bus.setKernelDriver(false);
+                bed.bus.plug();
+                const UsbDeviceList devices = bed.await([&] { return bed.port.devices(ourVendors); });
+                QCOMPARE(devices.at(0).ieee1284DeviceID, QString::fromUtf8(identity.deviceID()));
+            });
+    }
+
     // It has many interfaces and answers on none; what was asked in vain is not asked again, unless it was refused.
     void aMuteDeviceIsAskedOnce()
     {

@@ -27,8 +27,9 @@ std::optional<QByteArray> deviceIDReply(const ModelIdentity &identity)
     if (text.isEmpty())
         return std::nullopt;
     QByteArray reply(2, '\0');
-    qToBigEndian(static_cast<quint16>(text.size() + reply.size()), reply.data());
-    return reply + text;
+    const auto length = static_cast<quint16>(text.size() + reply.size());
+    qToBigEndian(identity.announcedIDLength.value_or(length), reply.data());
+    return reply + text + identity.behindDeviceID;
 }
 
 bool namesPrinterSetting(quint16 index, const UsbShape &shape)

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <optional>
 
 /// Who the emulated printer says it is.
 struct ModelIdentity {
@@ -14,6 +15,9 @@ struct ModelIdentity {
     bool hasDeviceID = true;
     /// Whether it answers GET_DEVICE_ID at all, if only with a stall.
     bool answersDeviceID = true;
+    /// What the two bytes ahead of the device ID say; absent: its length with them, as they should.
+    std::optional<quint16> announcedIDLength{};
+    QByteArray behindDeviceID{}; ///< What comes behind it.
 
     /// The product text of the USB descriptors: "Quillmark QZ100".
     QString product() const { return manufacturer + QLatin1Char(' ') + model; }
